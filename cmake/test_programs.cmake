@@ -1,0 +1,22 @@
+# zel_tests(FOLDER LIBRARY...)
+# One GoogleTest program of tests/FOLDER, each of its tests known to CTest by its own name.
+function(zel_tests folder)
+  zel_glob(sources "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
+  if(NOT sources)
+    return()
+  endif()
+  set(target ${folder}_tests)
+  add_executable(${target} ${sources})
+  target_link_libraries(${target} PRIVATE zel_test_support ${ARGN} GTest::gmock_main)
+  target_compile_definitions(${target} PRIVATE
+    ZEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+    ZEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples")
+  if(folder STREQUAL "cli" AND TARGET zel-cli)
+    target_compile_definitions(${target} PRIVATE ZEL_CLI_PATH="$<TARGET_FILE:zel-cli>")
+    add_dependencies(${target} zel-cli)
+  endif()
+  # The tests are listed when ctest starts, not by the build: a program that cannot start is a
+  # failed test then, not a failed build.
+  gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+    PROPERTIES TIMEOUT 300 LABELS ${folder})
+endfunction()

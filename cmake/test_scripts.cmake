@@ -1,0 +1,19 @@
+# zel_test_scripts()
+# Each *_test.sh below tests/, called with the path of zel-cli and the source folder; a script that
+# ends with 77 was skipped. Those of tests/cli need zel-cli; those of tests/house look at the
+# sources only.
+function(zel_test_scripts)
+  file(GLOB_RECURSE scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}"
+    "${CMAKE_CURRENT_SOURCE_DIR}/*_test.sh")
+  if(NOT TARGET zel-cli)
+    list(FILTER scripts EXCLUDE REGEX "^cli/")
+  endif()
+  foreach(script IN LISTS scripts)
+    string(REGEX REPLACE "_test\\.sh$" "" name "${script}")
+    get_filename_component(folder "${script}" DIRECTORY)
+    add_test(NAME "${name}"
+      COMMAND bash "${CMAKE_CURRENT_SOURCE_DIR}/${script}"
+        "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zel-cli" "${PROJECT_SOURCE_DIR}")
+    set_tests_properties("${name}" PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 600 LABELS "${folder}")
+  endforeach()
+endfunction()

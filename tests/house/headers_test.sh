@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# Each header below src/ compiles alone; without Qt those that include Qt's are left out.
+set -euo pipefail
+root=$2
+export compiler=${ZEL_CXX:-g++}
+
+flags="-std=c++20 -fsyntax-only -fPIC -w -x c++"
+qt_folders=${ZEL_QT_INCLUDES:-}
+[[ -z $qt_folders ]] || flags+=" -isystem ${qt_folders//:/ -isystem }"
+export flags
+
+# complaints SRC: the headers that do not compile, each with what the compiler says.
+complaints() {
+  # shellcheck disable=SC2016 # the inner shell expands
+  find "$1" -name '*.h' | sort | without_qt | SRC=$1 xargs -r -P "$(nproc)" -I{} bash -c '
+    said=$($compiler $flags -I"$SRC" "$1" 2>&1) || printf "%s\n%s\n" "${1#"$SRC/"} does not compile alone" "$said"
+  ' _ {}
+}
+
+without_qt() {
+  if [[ -n $qt_folders ]]; then
+    cat
+  else
+    grep -v -e /windows/ -e /platform/qt/ || true
+  fi
+}
+
+sample=$(mktemp -d)
+trap 'rm -rf "$sample"' EXIT
+mkdir "$sample/base"
+printf '#include <string>\nstd::string good();\n' >"$sample/base/good.h"
+printf '#include "base/good.h"\nstd::vector<int> bad();\n' >"$sample/base/bad.h"
+found=$(complaints "$sample" | grep 'alone$' || true)
+if [[ $found != "base/bad.h does not compile alone" ]]; then
+  echo "The check itself is wrong. It found: $found"
+  exit 1
+fi
+
+found=$(complaints "$root/src")
+echo "$found"
+[[ -z $found ]]
