@@ -1,0 +1,98 @@
+#include "base/code_page.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace zel {
+namespace {
+
+/// The characters of the bytes 0x80 to 0x9F; all others are the characters of their own number.
+constexpr std::array<char16_t, 32> kHighControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr char32_t kFirstHighControl = 0x80;
+
+struct Decoded {
+  char32_t character = 0;
+  std::size_t size = 0;  // 0: the bytes are not UTF-8
+};
+
+/// How many bytes follow a lead byte; -1 for a byte that cannot lead.
+int continuationCount(unsigned char lead) {
+  if (lead < 0x80) return 0;
+  if (lead >= 0xC2 && lead <= 0xDF) return 1;
+  if (lead >= 0xE0 && lead <= 0xEF) return 2;
+  if (lead >= 0xF0 && lead <= 0xF4) return 3;
+  return -1;
+}
+
+bool isScalar(char32_t character, int continuations) {
+  constexpr std::array<char32_t, 4> kLowest = {0, 0x80, 0x800, 0x10000};
+  if (character < kLowest[static_cast<std::size_t>(continuations)]) return false;
+  return character <= 0x10FFFF && (character < 0xD800 || character > 0xDFFF);
+}
+
+Decoded decode(std::string_view text) {
+  const auto lead = static_cast<unsigned char>(text[0]);
+  const int continuations = continuationCount(lead);
+  if (continuations < 0 || text.size() <= static_cast<std::size_t>(continuations)) return {};
+  char32_t character = continuations == 0 ? lead : lead & (0x3Fu >> continuations);
+  for (int i = 1; i <= continuations; ++i) {
+    const auto byte = static_cast<unsigned char>(text[static_cast<std::size_t>(i)]);
+    if ((byte & 0xC0) != 0x80) return {};
+    character = (character << 6) | (byte & 0x3Fu);
+  }
+  if (!isScalar(character, continuations)) return {};
+  return {character, static_cast<std::size_t>(continuations) + 1};
+}
+
+char encodeByte(char32_t character) {
+  const auto found = std::ranges::find(kHighControls, static_cast<char16_t>(character));
+  if (character <= 0xFFFF && found != kHighControls.end())
+    return static_cast<char>(kFirstHighControl +
+                             static_cast<char32_t>(found - kHighControls.begin()));
+  const bool is_own_number = character < 0x80 || (character >= 0xA0 && character <= 0xFF);
+  return is_own_number ? static_cast<char>(character) : '?';
+}
+
+void appendUtf8(char32_t character, std::string& text) {
+  if (character < 0x80) {
+    text += static_cast<char>(character);
+  } else if (character < 0x800) {
+    text += static_cast<char>(0xC0 | (character >> 6));
+    text += static_cast<char>(0x80 | (character & 0x3F));
+  } else {
+    text += static_cast<char>(0xE0 | (character >> 12));
+    text += static_cast<char>(0x80 | ((character >> 6) & 0x3F));
+    text += static_cast<char>(0x80 | (character & 0x3F));
+  }
+}
+
+}  // namespace
+
+std::string toCodePage(std::string_view utf8) {
+  std::string bytes;
+  bytes.reserve(utf8.size());
+  while (!utf8.empty()) {
+    const Decoded decoded = decode(utf8);
+    bytes += decoded.size == 0 ? '?' : encodeByte(decoded.character);
+    utf8.remove_prefix(std::max<std::size_t>(decoded.size, 1));
+  }
+  return bytes;
+}
+
+std::string fromCodePage(std::string_view bytes) {
+  std::string utf8;
+  utf8.reserve(bytes.size());
+  for (const char byte : bytes) {
+    const char32_t number = static_cast<unsigned char>(byte);
+    const bool is_high_control =
+        number >= kFirstHighControl && number < kFirstHighControl + kHighControls.size();
+    appendUtf8(is_high_control ? kHighControls[number - kFirstHighControl] : number, utf8);
+  }
+  return utf8;
+}
+
+}  // namespace zel

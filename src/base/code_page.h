@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Files hold text in the Windows-1252 code page; the program holds it in UTF-8.
+namespace zel {
+
+/// A character that the code page lacks becomes "?", and so does each byte that is not UTF-8.
+std::string toCodePage(std::string_view utf8);
+
+/// Never fails: the five bytes without a character become the control characters of their number,
+/// which toCodePage turns back into the same bytes.
+std::string fromCodePage(std::string_view bytes);
+
+}  // namespace zel

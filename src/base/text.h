@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Small helpers for UTF-8 text. "Case" is that of the letters of the Windows-1252 code page, which
+/// is all that documents can hold; a "blank" is the character " " and nothing else.
+namespace zel {
+
+std::string toLower(std::string_view text);
+
+/// Upper case of the letters "a" to "z" alone.
+std::string toUpperAscii(std::string_view text);
+
+/// Whether `part` occurs in `text` when case is ignored; the empty text occurs everywhere.
+bool containsIgnoringCase(std::string_view text, std::string_view part);
+
+/// Every occurrence from left to right, never looking into what was put in. An empty `from`
+/// replaces nothing.
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+std::string replaceAllIgnoringCase(std::string_view text, std::string_view from,
+                                   std::string_view to);
+
+std::string_view trimBlanks(std::string_view text);
+
+/// The lines of a text, split at CR LF and nowhere else; the views point into `text`. An empty text
+/// has no line; a text that ends in CR LF has an empty last line.
+std::vector<std::string_view> splitLines(std::string_view text);
+
+}  // namespace zel

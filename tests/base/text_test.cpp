@@ -1,0 +1,77 @@
+#include "base/text.h"
+
+#include <gtest/gtest.h>
+
+#include "base/code_page.h"
+
+namespace zel::test {
+namespace {
+
+using Lines = std::vector<std::string_view>;
+
+TEST(Text, LowersTheLettersOfTheCodePage) {
+  EXPECT_EQ(toLower("ABC xyz 019"), "abc xyz 019");
+  EXPECT_EQ(toLower("ÁÉÍÓÚÜÑÇ ÀÞ"), "áéíóúüñç àþ");
+  EXPECT_EQ(toLower("ŒŠŽŸ"), "œšžÿ");
+}
+
+TEST(Text, LowersEachByteOfTheCodePageToOneByte) {
+  for (int byte = 0; byte < 256; ++byte) {
+    const std::string character = fromCodePage(std::string(1, static_cast<char>(byte)));
+    const std::string lowered = toCodePage(toLower(character));
+    ASSERT_EQ(lowered.size(), 1u) << byte;
+    EXPECT_TRUE(lowered != "?" || byte == '?') << byte;
+  }
+}
+
+TEST(Text, LeavesAllElseAsItIsWhenLowering) {
+  EXPECT_EQ(toLower("áßþÿ×÷¿¡€ ЖΩ"), "áßþÿ×÷¿¡€ ЖΩ");
+  EXPECT_EQ(toLower("\xC3"), "\xC3");
+  EXPECT_EQ(toLower(""), "");
+}
+
+TEST(Text, RaisesTheLettersOfAsciiOnly) { EXPECT_EQ(toUpperAscii("azAZ09ñ"), "AZAZ09ñ"); }
+
+TEST(Text, FindsAPartWhateverItsCase) {
+  EXPECT_TRUE(containsIgnoringCase("M*x", "m"));
+  EXPECT_TRUE(containsIgnoringCase("función", "FUNCIÓN"));
+  EXPECT_FALSE(containsIgnoringCase("funcion", "ó"));
+  EXPECT_FALSE(containsIgnoringCase("", "x"));
+  EXPECT_TRUE(containsIgnoringCase("", ""));
+  EXPECT_TRUE(containsIgnoringCase("x", ""));
+}
+
+TEST(Text, ReplacesFromLeftToRightAndNeverInWhatItPutIn) {
+  EXPECT_EQ(replaceAll("aaa", "aa", "b"), "ba");
+  EXPECT_EQ(replaceAll("x+x", "x", "(x)"), "(x)+(x)");
+  EXPECT_EQ(replaceAll("aXa", "x", "y"), "aXa");
+  EXPECT_EQ(replaceAll("abc", "", "y"), "abc");
+  EXPECT_EQ(replaceAll("abcabc", "b", ""), "acac");
+  EXPECT_EQ(replaceAll("", "b", "c"), "");
+}
+
+TEST(Text, ReplacesWhateverTheCase) {
+  EXPECT_EQ(replaceAllIgnoringCase("h*H", "h", "(1)"), "(1)*(1)");
+  EXPECT_EQ(replaceAllIgnoringCase("SENO seno", "sen", "10@"), "10@O 10@o");
+  EXPECT_EQ(replaceAllIgnoringCase("ÑñN", "ñ", "n"), "nnN");
+  EXPECT_EQ(replaceAllIgnoringCase("abc", "", "y"), "abc");
+}
+
+TEST(Text, TrimsBlanksAndNoOtherWhiteSpace) {
+  EXPECT_EQ(trimBlanks("  a b "), "a b");
+  EXPECT_EQ(trimBlanks("\t a \r\n"), "\t a \r\n");
+  EXPECT_EQ(trimBlanks("   "), "");
+  EXPECT_EQ(trimBlanks(""), "");
+}
+
+TEST(Text, SplitsLinesAtCrLfOnly) {
+  EXPECT_EQ(splitLines("a\r\nb"), (Lines{"a", "b"}));
+  EXPECT_EQ(splitLines("a\nb\rc"), (Lines{"a\nb\rc"}));
+  EXPECT_EQ(splitLines("a\r\r\n\nb"), (Lines{"a\r", "\nb"}));
+  EXPECT_EQ(splitLines("\r\n\r\n"), (Lines{"", "", ""}));
+  EXPECT_EQ(splitLines("a\r\n"), (Lines{"a", ""}));
+  EXPECT_EQ(splitLines(""), Lines{});
+}
+
+}  // namespace
+}  // namespace zel::test
