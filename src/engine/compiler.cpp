@@ -1,0 +1,28 @@
+#include "engine/compiler.h"
+
+#include "base/text.h"
+
+namespace zel {
+namespace {
+
+constexpr std::array<std::string_view, 12> kSpanishOffer = {
+    "log", "ln", "atn", "cos", "sen", "tan", "!", "exp", "raiz2", "raiz3", "sig", "abs"};
+constexpr std::array<std::string_view, 12> kEnglishOffer = {
+    "log", "ln", "atn", "cos", "sin", "tan", "!", "exp", "sqrt", "trpl", "sgn", "abs"};
+
+}  // namespace
+
+std::span<const std::string_view> offeredFunctions(std::string_view language) {
+  return language == "EN" ? kEnglishOffer : kSpanishOffer;
+}
+
+std::string NormaliseFormula(std::string_view formula) {
+  std::string code = replaceAll(toLower(formula), " ", "");
+  for (std::size_t i = 0; i < PrefixFunctions.size(); ++i)
+    code = replaceAll(code, PrefixFunctions[i], std::to_string(i) + "@");
+  for (std::size_t i = 0; i < PostfixFunctions.size(); ++i)
+    code = replaceAll(code, PostfixFunctions[i], std::string("#").append(std::to_string(i)));
+  return code;
+}
+
+}  // namespace zel

@@ -1,0 +1,58 @@
+#include "engine/grammar.h"
+
+namespace zel {
+
+bool IsBalanced(std::string_view text) {
+  std::size_t opened = 0;
+  std::size_t closed = 0;
+  char previous = '\0';
+  for (const char character : text) {
+    if (character == '(') ++opened;
+    if (character == ')') {
+      ++closed;
+      if (closed > opened || previous == '(') break;
+    }
+    previous = character;
+  }
+  return opened == closed;
+}
+
+std::string_view StripOuterParentheses(std::string_view text) {
+  while (text.starts_with('(') && text.ends_with(')')) {
+    const std::string_view inner = text.substr(1, text.size() - 2);
+    if (!IsBalanced(inner)) break;
+    text = inner;
+  }
+  return text;
+}
+
+Split SplitAtMainOperator(std::string_view text) {
+  std::size_t best_level = OperatorPrecedence.size();
+  std::size_t best_place = text.size();
+  long depth = 0;
+  for (std::size_t i = text.size(); i-- > 0;) {
+    if (text[i] == '(') {
+      ++depth;
+    } else if (text[i] == ')') {
+      --depth;
+    } else if (depth == 0) {
+      const std::size_t level = OperatorPrecedence.find(text[i]);
+      if (level < best_level) {  // not found is the largest of all
+        best_level = level;
+        best_place = i;
+      }
+    }
+  }
+  if (best_place == text.size()) return {{}, {}, {}, SplitFailure::no_operator};
+
+  Split split;
+  split.op = text.substr(best_place, 1);
+  split.left = StripOuterParentheses(text.substr(0, best_place));
+  split.right = StripOuterParentheses(text.substr(best_place + 1));
+  const bool is_sign = split.op == "+" || split.op == "-";
+  if (is_sign && split.left.empty() && !split.right.empty()) split.left = "0";
+  if (split.left.empty() || split.right.empty()) split.failure = SplitFailure::missing_operand;
+  return split;
+}
+
+}  // namespace zel

@@ -1,0 +1,108 @@
+#include "engine/reducer.h"
+
+#include <optional>
+
+#include "base/language.h"
+#include "engine/function_library.h"
+
+namespace zel {
+namespace {
+
+constexpr std::string_view kEulerText = "2,71828182845905";
+static_assert(kEuler == 2.71828182845905);
+
+/// An operand as a number: the text of a name that has no value yet is empty and reads as 0.
+std::optional<double> readOperand(std::string_view text) {
+  return text.empty() ? 0.0 : readNumber(text);
+}
+
+std::string splitMessage(SplitFailure failure, std::string_view text) {
+  if (failure == SplitFailure::no_operator) return Localize("No se encuentra el operador.");
+  return Localize("Error: No se entiende el elemento: ") + "'" + std::string(text) + "'";
+}
+
+}  // namespace
+
+Outcome::Kind Reducer::reduce(std::string_view code, const NameTexts& names) {
+  using Kind = Outcome::Kind;
+  stack_.clear();
+  message_.clear();
+  std::string_view text = code;
+  for (;;) {
+    const Descent descent = descend(text, names);
+    if (descent == Descent::failed) return Kind::error;
+    if (descent == Descent::split) {
+      text = stack_.back().split.left;
+      continue;
+    }
+    // The value goes up until a split still waits for its right operand.
+    while (!stack_.empty() && stack_.back().has_left) {
+      const Kind kind = apply(stack_.back());
+      if (kind != Kind::value) return kind;
+      stack_.pop_back();
+    }
+    if (stack_.empty()) return Kind::value;
+    stack_.back().left = value_;
+    stack_.back().has_left = true;
+    text = stack_.back().split.right;
+  }
+}
+
+Reducer::Descent Reducer::descend(std::string_view text, const NameTexts& names) {
+  if (isNumeric(text)) {
+    value_.borrow(text);
+    return Descent::reduced;
+  }
+  if (text.starts_with('(') && text.ends_with(')')) text = cache_.strip(text);
+  if (borrowName(text, names)) return Descent::reduced;
+
+  const Split split = cache_.split(text);
+  if (split.failure != SplitFailure::none) {
+    raise(splitMessage(split.failure, text));
+    return Descent::failed;
+  }
+  if (!split.left.empty() && !split.right.empty()) {
+    stack_.push_back({split, {}, false});
+    return Descent::split;
+  }
+  // Only a record of the cache comes without an operand and yet without a failure.
+  if (isNumeric(text)) {
+    value_.borrow(text);
+    return Descent::reduced;
+  }
+  raiseUnknownElement();
+  return Descent::failed;
+}
+
+bool Reducer::borrowName(std::string_view text, const NameTexts& names) {
+  if (text.size() != 1) return false;
+  switch (text[0]) {
+    case 'x': value_.borrow(names.x); return true;
+    case 't': value_.borrow(names.t); return true;
+    case 'p': value_.borrow(names.p); return true;
+    case 'e': value_.borrow(kEulerText); return true;
+    default: return false;
+  }
+}
+
+Outcome::Kind Reducer::apply(const Pending& pending) {
+  const std::string_view op = pending.split.op;
+  const auto left = readOperand(pending.left.text());
+  const auto right = readOperand(value_.text());
+  if (!left || !right) return Outcome::Kind::fault;
+  if (op.size() != 1 || OperatorPrecedence.find(op[0]) == std::string_view::npos) {
+    raiseUnknownElement();  // a mixed record of the cache: nothing to apply leaves no value
+    return Outcome::Kind::error;
+  }
+  Outcome outcome = ApplyOperator(*left, *right, op[0]);
+  if (outcome.kind == Outcome::Kind::error) raise(std::move(outcome.message));
+  if (outcome.kind == Outcome::Kind::value) value_.write(outcome.value);
+  return outcome.kind;
+}
+
+void Reducer::raiseUnknownElement() {
+  raise(Localize("Error: No se entiende el elemento: ") + "\r\n" +
+        Localize("Función ingresada por usuario"));
+}
+
+}  // namespace zel
