@@ -1,0 +1,122 @@
+#include "graphs/graph_table.h"
+
+#include <utility>
+
+#include "engine/compiler.h"
+
+namespace zel {
+namespace {
+
+constexpr char kFirst = 'a';
+constexpr char kLast = 'z';
+
+bool isInTable(char letter) { return letter >= kFirst && letter <= kLast; }
+
+std::size_t indexOf(char letter) { return static_cast<std::size_t>(letter - kFirst); }
+
+char before(char letter) { return static_cast<char>(letter - 1); }
+char after(char letter) { return static_cast<char>(letter + 1); }
+
+/// Fills the codes of a graph by its kind; `codigo` is the code that it had.
+void makeCode(GraphDef& def, std::string codigo) {
+  switch (def.tipo) {
+    case 'F':
+    case 'Z':
+      def.codigo = NormaliseFormula(def.ecuacion);
+      break;
+    case 'P':
+      def.codigo = std::move(codigo);
+      break;
+    case 'C':
+    case 'E':
+    case 'H':
+      def.codigo = def.parameters->Item("codigo1");
+      break;
+    case 'T':
+      def.parameters->set("codigo_xt", NormaliseFormula(def.parameters->Item("ecuacion_xt")));
+      def.parameters->set("codigo_yt", NormaliseFormula(def.parameters->Item("ecuacion_yt")));
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace
+
+GraphTable::GraphTable() { clearGraphs(); }
+
+std::optional<GraphDef> GraphTable::graph(char letter) const {
+  if (!isInTable(letter)) return std::nullopt;
+  return slots_[indexOf(letter)];
+}
+
+bool GraphTable::storeGraph(const GraphDef& def) {
+  if (!isInTable(def.nombre)) return false;
+  GraphDef& slot = slots_[indexOf(def.nombre)];
+  if (!slot.defined) changeCount(1);
+  slot = def;
+  return true;
+}
+
+bool GraphTable::freeGraph(char letter) {
+  if (!isInTable(letter)) return false;
+  slots_[indexOf(letter)].defined = false;
+  changeCount(-1);
+  return true;
+}
+
+void GraphTable::clearGraphs() {
+  for (char letter = kFirst; letter <= kLast; ++letter) {
+    GraphDef& slot = slots_[indexOf(letter)];
+    slot = GraphDef{};
+    slot.nombre = letter;
+  }
+  count_ = 0;
+}
+
+std::optional<GraphDef> GraphTable::nextDefined(std::optional<char> letter) const {
+  char at = kLast;
+  if (letter) at = *letter >= kLast ? kFirst : after(*letter);
+  if (!isInTable(at)) return std::nullopt;
+  while (!slots_[indexOf(at)].defined && at < kLast) ++at;
+  if (slots_[indexOf(at)].defined) return graph(at);
+  at = kFirst;
+  while (!slots_[indexOf(at)].defined && at < kLast) ++at;
+  return graph(at);
+}
+
+std::optional<GraphDef> GraphTable::previousDefined(std::optional<char> letter) const {
+  char at = kFirst;
+  if (letter) at = *letter <= kFirst ? kLast : before(*letter);
+  if (!isInTable(at)) return std::nullopt;
+  while (!slots_[indexOf(at)].defined && at > kFirst) --at;
+  if (slots_[indexOf(at)].defined) return graph(at);
+  at = kLast;
+  while (!slots_[indexOf(at)].defined && at > kFirst) --at;
+  return graph(at);
+}
+
+bool GraphTable::rebuildGraph(char nombre, std::string ecuacion, std::string codigo,
+                              std::int32_t color, char tipo,
+                              std::shared_ptr<Parameters> parameters) {
+  if (!isInTable(nombre)) return false;
+  GraphDef def;
+  def.nombre = nombre;
+  def.ecuacion = std::move(ecuacion);
+  def.color = color;
+  def.tipo = tipo;
+  def.defined = true;
+  def.parameters = parameters ? std::move(parameters) : std::make_shared<Parameters>();
+  makeCode(def, std::move(codigo));
+  return storeGraph(def);
+}
+
+std::string_view GraphTable::codeOf(char letter) const {
+  return isInTable(letter) ? std::string_view(slots_[indexOf(letter)].codigo) : std::string_view();
+}
+
+void GraphTable::changeCount(int difference) {
+  count_ = static_cast<std::int16_t>(count_ + difference);
+}
+
+}  // namespace zel

@@ -1,0 +1,48 @@
+#include "graphs/kinds.h"
+
+#include <array>
+#include <cstddef>
+
+#include "base/text.h"
+
+namespace zel {
+namespace {
+
+using KindTable = std::array<KindInfo, 26>;
+
+constexpr std::size_t indexOf(char letter) { return static_cast<std::size_t>(letter - 'A'); }
+
+/// The names are kept as they are, accents or none. "7@" is the code of the square root.
+constexpr std::array<KindInfo, 7> kKinds = {{
+    {'F', "Función", false, "", ""},
+    {'C', "Cincunferencia", true, "7@(r^2-(h-x)^2)+k", "-7@(r^2-(h-x)^2)+k"},
+    {'E', "Elipse", true, "7@((1-(x-h)^2/a^2)*b^2)+k", "-7@((1-(x-h)^2/a^2)*b^2)+k"},
+    {'P', "Parabola", false, "a*x^2-2*h*a*x+a*h^2+k", ""},
+    {'H', "Hiperbola", true, "7@(((x-h)^2/a^2-1)*(c^2-a^2))+k",
+     "-7@(((x-h)^2/a^2-1)*(c^2-a^2))+k"},
+    {'Z', "Haz de rectas", false, "", ""},
+    {'T', "Paramétrica", false, "", ""},
+}};
+
+constexpr KindTable makeKindTable() {
+  KindTable table;
+  for (const KindInfo& kind : kKinds) table[indexOf(kind.letter)] = kind;
+  return table;
+}
+
+constexpr KindTable kTable = makeKindTable();
+
+}  // namespace
+
+const KindInfo* kindInfo(char letter) {
+  return letter >= 'A' && letter <= 'Z' ? &kTable[indexOf(letter)] : nullptr;
+}
+
+std::string substituteParameters(std::string_view code_template, const Parameters& parameters) {
+  std::string code(code_template);
+  for (const auto& [key, value] : parameters)
+    code = replaceAllIgnoringCase(code, key, "(" + value + ")");
+  return code;
+}
+
+}  // namespace zel

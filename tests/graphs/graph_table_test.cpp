@@ -1,0 +1,275 @@
+#include "graphs/graph_table.h"
+
+#include <gtest/gtest.h>
+
+namespace zel::test {
+namespace {
+
+constexpr char kBeforeA = '`';
+constexpr char kAfterZ = '{';
+
+GraphDef functionNamed(char letter) {
+  GraphDef def;
+  def.nombre = letter;
+  def.ecuacion = std::string("x+") + letter;
+  def.tipo = 'F';
+  def.defined = true;
+  return def;
+}
+
+GraphTable tableWith(std::string_view letters) {
+  GraphTable table;
+  for (const char letter : letters) table.storeGraph(functionNamed(letter));
+  return table;
+}
+
+char next(const GraphTable& table, std::optional<char> letter = std::nullopt) {
+  const auto def = table.nextDefined(letter);
+  return def ? def->nombre : '!';
+}
+
+char previous(const GraphTable& table, std::optional<char> letter = std::nullopt) {
+  const auto def = table.previousDefined(letter);
+  return def ? def->nombre : '!';
+}
+
+std::shared_ptr<Parameters> parametersOf(
+    std::initializer_list<std::pair<const char*, const char*>> pairs) {
+  auto parameters = std::make_shared<Parameters>();
+  for (const auto& [key, value] : pairs) parameters->Add(key, value);
+  return parameters;
+}
+
+TEST(GraphTable, StartsWithTwentySixFreeSlots) {
+  const GraphTable table;
+  EXPECT_EQ(table.count(), 0);
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    const auto def = table.graph(letter);
+    ASSERT_TRUE(def) << letter;
+    EXPECT_EQ(def->nombre, letter);
+    EXPECT_FALSE(def->defined);
+    EXPECT_EQ(def->parameters, nullptr);
+  }
+}
+
+TEST(GraphTable, HasNoSlotOutsideTheLowerCaseLetters) {
+  GraphTable table;
+  for (const char letter : {kBeforeA, kAfterZ, 'A', '\0', '\xF1'}) {
+    EXPECT_EQ(table.graph(letter), std::nullopt);
+    EXPECT_FALSE(table.storeGraph(functionNamed(letter)));
+    EXPECT_FALSE(table.freeGraph(letter));
+    EXPECT_FALSE(table.rebuildGraph(letter, "x", "", 0, 'F', nullptr));
+    EXPECT_EQ(table.codeOf(letter), "");
+  }
+  EXPECT_EQ(table.count(), 0);
+}
+
+TEST(GraphTable, GivesACopyOfASlot) {
+  GraphTable table = tableWith("a");
+  auto def = table.graph('a');
+  def->ecuacion = "changed";
+  EXPECT_EQ(table.graph('a')->ecuacion, "x+a");
+}
+
+TEST(GraphTable, CountsAGraphThatIsStoredTwiceOnce) {
+  GraphTable table = tableWith("a");
+  GraphDef again = functionNamed('a');
+  again.ecuacion = "x^2";
+  EXPECT_TRUE(table.storeGraph(again));
+  EXPECT_EQ(table.count(), 1);
+  EXPECT_EQ(table.graph('a')->ecuacion, "x^2");
+}
+
+TEST(GraphTable, LeavesTheFlagOfWhatIsStoredToTheCaller) {
+  GraphTable table;
+  GraphDef unused = functionNamed('a');
+  unused.defined = false;
+  table.storeGraph(unused);
+  EXPECT_FALSE(table.graph('a')->defined);
+  EXPECT_EQ(table.count(), 1);
+}
+
+TEST(GraphTable, KeepsTheOtherFieldsOfAFreedSlot) {
+  GraphTable table = tableWith("ab");
+  EXPECT_TRUE(table.freeGraph('a'));
+  EXPECT_EQ(table.count(), 1);
+  const auto def = table.graph('a');
+  EXPECT_FALSE(def->defined);
+  EXPECT_EQ(def->ecuacion, "x+a");
+  EXPECT_EQ(def->tipo, 'F');
+}
+
+TEST(GraphTable, LowersTheCountForAFreeSlotToo) {
+  GraphTable table;
+  EXPECT_TRUE(table.freeGraph('a'));
+  EXPECT_EQ(table.count(), -1);
+}
+
+TEST(GraphTable, EmptiesEverySlotWhenCleared) {
+  GraphTable table = tableWith("az");
+  table.rebuildGraph('m', "m(0;0;1)", "", 255, 'C', parametersOf({{"codigo1", "1"}}));
+  table.freeGraph('m');
+  table.clearGraphs();
+  EXPECT_EQ(table.count(), 0);
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    const auto def = table.graph(letter);
+    EXPECT_EQ(def->nombre, letter);
+    EXPECT_EQ(def->ecuacion + def->codigo + def->carpeta, "");
+    EXPECT_EQ(def->color, 0);
+    EXPECT_EQ(def->tipo, '\0');
+    EXPECT_FALSE(def->defined);
+    EXPECT_EQ(def->parameters, nullptr);
+  }
+}
+
+TEST(GraphTable, StartsItsCountAnewWhenInitialised) {
+  GraphTable table = tableWith("ab");
+  table.initGraphDefinitions();
+  EXPECT_EQ(table.count(), 0);
+}
+
+TEST(GraphTable, ReturnsItsOnlyGraphInBothDirections) {
+  for (const char only : {'a', 'm', 'z'}) {
+    const GraphTable table = tableWith({&only, 1});
+    EXPECT_EQ(next(table), only);
+    EXPECT_EQ(previous(table), only);
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+      EXPECT_EQ(next(table, letter), only) << letter;
+      EXPECT_EQ(previous(table, letter), only) << letter;
+    }
+  }
+}
+
+TEST(GraphTable, WalksItsGraphsInLetterOrderAndAround) {
+  const GraphTable table = tableWith("bdz");
+  EXPECT_EQ(next(table, 'a'), 'b');
+  EXPECT_EQ(next(table, 'b'), 'd');
+  EXPECT_EQ(next(table, 'c'), 'd');
+  EXPECT_EQ(next(table, 'd'), 'z');
+  EXPECT_EQ(next(table, 'z'), 'b');
+  EXPECT_EQ(previous(table, 'a'), 'z');
+  EXPECT_EQ(previous(table, 'b'), 'z');
+  EXPECT_EQ(previous(table, 'c'), 'b');
+  EXPECT_EQ(previous(table, 'z'), 'd');
+}
+
+TEST(GraphTable, BeginsItsWalksAtTheFarEndWithoutALetter) {
+  EXPECT_EQ(next(tableWith("bd")), 'b');
+  EXPECT_EQ(next(tableWith("bdz")), 'z');
+  EXPECT_EQ(previous(tableWith("bd")), 'd');
+  EXPECT_EQ(previous(tableWith("abd")), 'a');
+}
+
+TEST(GraphTable, TakesTheLettersBeyondTheEndsAsPlacesToStart) {
+  const GraphTable table = tableWith("bd");
+  EXPECT_EQ(next(table, kBeforeA), 'b');
+  EXPECT_EQ(next(table, kAfterZ), 'b');
+  EXPECT_EQ(next(table, '~'), 'b');
+  EXPECT_EQ(previous(table, kAfterZ), 'd');
+  EXPECT_EQ(previous(table, kBeforeA), 'd');
+  EXPECT_EQ(previous(table, ' '), 'd');
+}
+
+TEST(GraphTable, CannotWalkFromALetterFarOnTheOtherSide) {
+  const GraphTable table = tableWith("bd");
+  EXPECT_EQ(table.nextDefined('A'), std::nullopt);
+  EXPECT_EQ(table.previousDefined('~'), std::nullopt);
+}
+
+TEST(GraphTable, EndsAWalkOnAFreeSlotWhenNoGraphIsDefined) {
+  const GraphTable table;
+  for (const auto letter : {std::optional<char>(), std::optional('a'), std::optional('m')}) {
+    ASSERT_TRUE(table.nextDefined(letter));
+    EXPECT_FALSE(table.nextDefined(letter)->defined);
+    ASSERT_TRUE(table.previousDefined(letter));
+    EXPECT_FALSE(table.previousDefined(letter)->defined);
+  }
+}
+
+TEST(GraphTable, GivesTheCodeOfASlotWhetherOrNotItIsInUse) {
+  GraphTable table;
+  table.rebuildGraph('f', "X+1", "", 0, 'F', nullptr);
+  EXPECT_EQ(table.codeOf('f'), "x+1");
+  table.freeGraph('f');
+  EXPECT_EQ(table.codeOf('f'), "x+1");
+  EXPECT_EQ(table.codeOf('g'), "");
+}
+
+TEST(RebuildGraph, StoresAGraphInUse) {
+  GraphTable table;
+  EXPECT_TRUE(table.rebuildGraph('c', "x^2", "", 16711680, 'F', parametersOf({{"key", "value"}})));
+  const auto def = table.graph('c');
+  EXPECT_TRUE(def->defined);
+  EXPECT_EQ(def->nombre, 'c');
+  EXPECT_EQ(def->ecuacion, "x^2");
+  EXPECT_EQ(def->color, 16711680);
+  EXPECT_EQ(def->tipo, 'F');
+  EXPECT_EQ(def->carpeta, "");
+  EXPECT_EQ(parameter(*def, "key"), "value");
+  EXPECT_EQ(table.count(), 1);
+}
+
+TEST(RebuildGraph, CompilesTheFormulaOfFunctionsAndFamilies) {
+  GraphTable table;
+  for (const char tipo : {'F', 'Z'}) {
+    table.rebuildGraph('a', "Raiz2(X ^ 2)", "ignored", 0, tipo, nullptr);
+    EXPECT_EQ(table.codeOf('a'), "7@(x^2)") << tipo;
+    EXPECT_EQ(table.graph('a')->ecuacion, "Raiz2(X ^ 2)");
+  }
+}
+
+TEST(RebuildGraph, KeepsTheCodeOfAParabola) {
+  GraphTable table;
+  table.rebuildGraph('a', "a(0;0;1)", "(1)*x^2", 0, 'P', nullptr);
+  EXPECT_EQ(table.codeOf('a'), "(1)*x^2");
+}
+
+TEST(RebuildGraph, TakesTheUpperBranchOfAConicAsItsCode) {
+  GraphTable table;
+  for (const char tipo : std::string("CEH")) {
+    table.rebuildGraph('a', "a(0;0;1)", "ignored", 0, tipo,
+                       parametersOf({{"codigo1", "upper"}, {"codigo2", "lower"}}));
+    EXPECT_EQ(table.codeOf('a'), "upper") << tipo;
+  }
+}
+
+TEST(RebuildGraph, CompilesBothFormulasOfAParametricCurveIntoItsParameters) {
+  GraphTable table;
+  const auto parameters = parametersOf({{"ecuacion_xt", "Cos(t)"}, {"ecuacion_yt", "Sen(t)"}});
+  table.rebuildGraph('a', "[X(t)=Cos(t);Y(t)=Sen(t)]", "ignored", 0, 'T', parameters);
+  EXPECT_EQ(table.codeOf('a'), "");
+  EXPECT_EQ(parameters->keys(), (std::vector<std::string>{"ecuacion_xt", "ecuacion_yt",
+                                                          "codigo_xt", "codigo_yt"}));
+  EXPECT_EQ(parameters->Item("codigo_xt"), "11@(t)");
+  EXPECT_EQ(parameters->Item("codigo_yt"), "10@(t)");
+}
+
+TEST(RebuildGraph, RecomputesTheCodesOfAParametricCurveInTheirPlaces) {
+  GraphTable table;
+  const auto parameters =
+      parametersOf({{"codigo_yt", "stale"}, {"ecuacion_xt", "t"}, {"codigo_xt", "stale"}});
+  table.rebuildGraph('a', "", "", 0, 'T', parameters);
+  EXPECT_EQ(parameters->keys(),
+            (std::vector<std::string>{"codigo_yt", "ecuacion_xt", "codigo_xt"}));
+  EXPECT_EQ(parameters->Item("codigo_xt"), "t");
+  EXPECT_EQ(parameters->Item("codigo_yt"), "");
+}
+
+TEST(RebuildGraph, LeavesTheCodeOfAnyOtherKindEmpty) {
+  GraphTable table;
+  for (const char tipo : {'A', 'f', '\0'}) {
+    EXPECT_TRUE(table.rebuildGraph('a', "x", "code", 0, tipo, nullptr));
+    EXPECT_EQ(table.codeOf('a'), "");
+  }
+}
+
+TEST(RebuildGraph, TakesNoDictionaryForAnEmptyOne) {
+  GraphTable table;
+  for (const char tipo : std::string("FPCEHZT")) {
+    EXPECT_TRUE(table.rebuildGraph('a', "x", "code", 0, tipo, nullptr)) << tipo;
+    EXPECT_NE(table.graph('a')->parameters, nullptr);
+  }
+}
+
+}  // namespace
+}  // namespace zel::test
