@@ -1,0 +1,52 @@
+#include "files/config.h"
+
+#include <string_view>
+
+#include "base/code_page.h"
+#include "base/language.h"
+#include "base/text.h"
+#include "files/system_language.h"
+#include "files/text_file.h"
+
+namespace zel {
+namespace {
+
+constexpr std::string_view kLineBreak = "\r\n";
+
+/// The first characters, which are bytes in the code page of the file.
+std::string firstCharacters(std::string_view text, std::size_t count) {
+  return fromCodePage(toCodePage(text).substr(0, count));
+}
+
+bool readBoolean(std::string_view text) {
+  const std::string word = toUpperAscii(trimBlanks(text));
+  return word == "VERDADERO" || word == "TRUE";
+}
+
+std::string_view booleanText(bool value) {
+  if (systemSpeaksEnglish()) return value ? "True" : "False";
+  return value ? "Verdadero" : "Falso";
+}
+
+}  // namespace
+
+ConfigRead readConfig(Configuration& configuration) {
+  std::string text;
+  if (!readTextFile(kConfigPath, text)) return ConfigRead::missing;
+  if (text.empty()) return ConfigRead::damaged;
+  const std::size_t first_end = text.find(kLineBreak);
+  constexpr std::size_t kCodeSize = 2;
+  SetCurrentLanguage(firstCharacters(std::string_view(text).substr(0, first_end), kCodeSize));
+  if (first_end == std::string::npos) return ConfigRead::damaged;
+  const auto second = std::string_view(text).substr(first_end + kLineBreak.size());
+  configuration.confirm_deletion = readBoolean(second.substr(0, second.find(kLineBreak)));
+  return ConfigRead::read;
+}
+
+bool writeConfig(const Configuration& configuration) {
+  std::string text = CurrentLanguage();
+  text.append(kLineBreak).append(booleanText(configuration.confirm_deletion));
+  return writeTextFile(kConfigPath, text);
+}
+
+}  // namespace zel
