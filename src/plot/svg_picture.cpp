@@ -1,0 +1,127 @@
+#include "plot/svg_picture.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "plot/colour.h"
+#include "plot/line_style.h"
+#include "plot/viewport.h"
+
+namespace zel {
+namespace {
+
+/// Whole numbers without a point; only a vertex far outside of the picture needs an exponent.
+std::string number(double value) {
+  constexpr double kLargestPlain = 1e15;
+  const auto format =
+      std::fabs(value) < kLargestPlain ? std::chars_format::fixed : std::chars_format::scientific;
+  std::array<char, 32> buffer;
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value + 0.0, format).ptr;
+  return {buffer.data(), end};
+}
+
+std::string attribute(const char* name, double value) {
+  return std::string(" ") + name + "=\"" + number(value) + "\"";
+}
+
+}  // namespace
+
+void SvgPicture::clear() {
+  *this = SvgPicture(width_, height_);
+}
+
+void SvgPicture::beginAxes() {
+  endGroup();
+  body_ += "<g id=\"axes\">\n";
+  in_group_ = true;
+}
+
+void SvgPicture::line(Point from, Point to) {
+  if (isFull())
+    return;
+  body_ += "<line" + attribute("x1", from.x) + attribute("y1", from.y) + attribute("x2", to.x) +
+           attribute("y2", to.y) + "/>\n";
+}
+
+void SvgPicture::beginGraph(char letter, std::int32_t colour) {
+  endGroup();
+  const std::string id = std::string("graph-") + letter;
+  group_style_ = "#" + id + " circle{fill:" + colourText(colour) + "}\n";
+  body_ += "<g id=\"" + id + "\" stroke=\"" + colourText(colour) + "\">\n";
+  in_group_ = true;
+}
+
+void SvgPicture::startPiece(Point point) {
+  endPiece();
+  appendPoint(point);
+}
+
+void SvgPicture::extendPiece(Point point) {
+  appendPoint(point);
+}
+
+void SvgPicture::dot(Point centre, double radius) {
+  if (isFull())
+    return;
+  dots_ += "<circle" + attribute("cx", centre.x) + attribute("cy", centre.y) +
+           attribute("r", radius) + "/>\n";
+}
+
+std::string SvgPicture::text() {
+  endGroup();
+  if (isFull())
+    return {};
+  const std::string width = std::to_string(width_);
+  const std::string height = std::to_string(height_);
+  const std::string box = number(width_ * kTwipsPerPixel) + " " + number(height_ * kTwipsPerPixel);
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
+         width + "\" height=\"" + height + "\" viewBox=\"0 0 " + box +
+         "\">\n"
+         "<style>\n"
+         "#axes{stroke:#000000;stroke-width:" +
+         number(kAxisWidth) +
+         "}\n"
+         "polyline{fill:none;stroke-width:" +
+         number(kCurveWidth) +
+         ";stroke-linecap:round;stroke-linejoin:round}\n"
+         "circle{stroke:none}\n" +
+         styles_ +
+         "</style>\n"
+         "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n" +
+         body_ + "</svg>\n";
+}
+
+void SvgPicture::endPiece() {
+  if (point_count_ == 0)
+    return;
+  if (point_count_ == 1)
+    points_ += " " + points_;
+  body_ += "<polyline points=\"" + points_ + "\"/>\n";
+  points_.clear();
+  point_count_ = 0;
+}
+
+void SvgPicture::endGroup() {
+  if (!in_group_)
+    return;
+  endPiece();
+  if (!dots_.empty())
+    styles_ += group_style_;
+  body_ += dots_ + "</g>\n";
+  dots_.clear();
+  in_group_ = false;
+}
+
+void SvgPicture::appendPoint(Point point) {
+  if (isFull())
+    return;
+  if (point_count_ > 0)
+    points_ += ' ';
+  points_ += number(point.x) + "," + number(point.y);
+  ++point_count_;
+}
+
+}  // namespace zel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "plot/picture.h"
+
+namespace zel {
+
+/// A picture as an SVG document in twips: the axes as lines, each graph a group with its pieces of
+/// curve as polylines and its dots as circles.
+class SvgPicture : public Picture {
+ public:
+  /// In bytes: a longer document is not made, and text() is then empty.
+  static constexpr std::size_t kMaxText = std::size_t{256} << 20;
+
+  /// The size in pixels.
+  SvgPicture(int width, int height) : width_(width), height_(height) {}
+
+  void clear() override;
+  void beginAxes() override;
+  void line(Point from, Point to) override;
+  void beginGraph(char letter, std::int32_t colour) override;
+  void startPiece(Point point) override;
+  void extendPiece(Point point) override;
+  void dot(Point centre, double radius) override;
+
+  /// The document outgrew its limit and takes nothing more.
+  bool isFull() const { return body_.size() + points_.size() + dots_.size() > kMaxText; }
+
+  /// The whole document.
+  std::string text();
+
+ private:
+  void endPiece();
+  void endGroup();
+  void appendPoint(Point point);
+
+  int width_;
+  int height_;
+  std::string styles_;  // the colours of dots, by graph
+  std::string body_;
+  std::string group_style_;  // the style of the current graph's dots
+  std::string points_;       // of the current piece
+  std::size_t point_count_ = 0;
+  std::string dots_;  // of the current graph
+  bool in_group_ = false;
+};
+
+}  // namespace zel

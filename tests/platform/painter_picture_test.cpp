@@ -1,0 +1,128 @@
+#include "platform/qt/painter_picture.h"
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <optional>
+
+namespace zel::test {
+namespace {
+
+constexpr std::int32_t kRed = 0x0000FF;
+constexpr std::int32_t kBlue = 0xFF0000;
+
+class Painting : public ::testing::Test {
+ protected:
+  Painting() {
+    image_.fill(Qt::green);
+    painter_.begin(&image_);
+    painter_.scale(1 / 15.0, 1 / 15.0);
+    picture.emplace(painter_, QRectF(0, 0, 40 * 15, 30 * 15), Qt::white, Qt::black);
+    picture->clear();
+  }
+
+  /// The finished image.
+  const QImage& finish() {
+    picture.reset();
+    if (painter_.isActive()) painter_.end();
+    return image_;
+  }
+
+  int pixelsOf(QColor colour) {
+    const QImage& image = finish();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (image.pixelColor(x, y) == colour) ++count;
+    return count;
+  }
+
+  static bool isDark(QColor colour) { return colour.lightness() < 140; }
+
+ private:
+  QImage image_{40, 30, QImage::Format_RGB32};
+  QPainter painter_;
+
+ protected:
+  std::optional<PainterPicture> picture;
+};
+
+TEST_F(Painting, ClearsToTheBackground) { EXPECT_EQ(pixelsOf(Qt::white), 40 * 30); }
+
+TEST_F(Painting, DrawsAxesAPixelWideInTheirColour) {
+  picture->beginAxes();
+  picture->line({20.5 * 15, 0}, {20.5 * 15, 30 * 15});
+  const QImage& image = finish();
+  for (int y = 0; y < 30; ++y) {
+    EXPECT_TRUE(isDark(image.pixelColor(20, y))) << y;
+    EXPECT_EQ(image.pixelColor(18, y), QColor(Qt::white)) << y;
+    EXPECT_EQ(image.pixelColor(22, y), QColor(Qt::white)) << y;
+  }
+}
+
+TEST_F(Painting, DrawsEachPieceByItselfInTheColourOfItsGraph) {
+  picture->beginGraph('a', kRed);
+  picture->startPiece({5 * 15, 5 * 15});
+  picture->extendPiece({15 * 15, 5 * 15});
+  picture->startPiece({25 * 15, 5 * 15});
+  picture->extendPiece({35 * 15, 5 * 15});
+  picture->beginGraph('b', kBlue);
+  picture->startPiece({5 * 15, 20 * 15});
+  picture->extendPiece({35 * 15, 20 * 15});
+  const QImage& image = finish();
+  EXPECT_GT(image.pixelColor(10, 5).red(), 200);
+  EXPECT_LT(image.pixelColor(10, 5).blue(), 140);
+  EXPECT_GT(image.pixelColor(30, 5).red(), 200);
+  EXPECT_LT(image.pixelColor(30, 5).blue(), 140);
+  EXPECT_EQ(image.pixelColor(20, 5), QColor(Qt::white));
+  EXPECT_GT(image.pixelColor(20, 20).blue(), 200);
+  EXPECT_LT(image.pixelColor(20, 20).red(), 140);
+}
+
+TEST_F(Painting, ShowsAPieceOfOnePointAsADot) {
+  picture->beginGraph('a', kRed);
+  picture->startPiece({10.5 * 15, 10.5 * 15});
+  const QImage& image = finish();
+  EXPECT_LT(image.pixelColor(10, 10).blue(), 140);
+  EXPECT_EQ(image.pixelColor(14, 10), QColor(Qt::white));
+}
+
+TEST_F(Painting, FillsADot) {
+  picture->beginGraph('a', kBlue);
+  picture->dot({20 * 15, 15 * 15}, 5 * 15);
+  const QImage& image = finish();
+  EXPECT_EQ(image.pixelColor(20, 15), QColor(Qt::blue));
+  EXPECT_EQ(image.pixelColor(17, 15), QColor(Qt::blue));
+  EXPECT_EQ(image.pixelColor(27, 15), QColor(Qt::white));
+}
+
+TEST_F(Painting, GoesOnWithAPieceAfterShowingItSoFar) {
+  picture->beginGraph('a', kRed);
+  picture->startPiece({5 * 15, 5 * 15});
+  picture->extendPiece({15 * 15, 5 * 15});
+  picture->flush();
+  picture->extendPiece({35 * 15, 5 * 15});
+  EXPECT_LT(finish().pixelColor(25, 5).blue(), 140);
+}
+
+TEST_F(Painting, DrawsTheVisiblePartOfALineThatLeavesThePlane) {
+  picture->beginGraph('a', kRed);
+  picture->startPiece({20 * 15, 15 * 15});
+  picture->extendPiece({-1e300, 15 * 15});
+  picture->startPiece({1e200, 1e300});
+  picture->extendPiece({1e300, 1e300});
+  const QImage& image = finish();
+  EXPECT_LT(image.pixelColor(5, 15).blue(), 140);
+  EXPECT_EQ(image.pixelColor(30, 15), QColor(Qt::white));
+}
+
+TEST_F(Painting, PaintsAVeryLongPieceWhole) {
+  picture->beginGraph('a', kRed);
+  picture->startPiece({0, 10 * 15});
+  for (int i = 1; i <= 20000; ++i) picture->extendPiece({40 * 15 * (i / 20000.0), 10 * 15});
+  const QImage& image = finish();
+  for (int x = 0; x < 40; ++x) EXPECT_LT(image.pixelColor(x, 10).blue(), 160) << x;
+}
+
+}  // namespace
+}  // namespace zel::test
