@@ -1,0 +1,22 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zel {
+
+/// Arguments that begin with "-" but name no option ("-x", "-2,5", "-(x+1)"), those in brackets and
+/// all that follow "--" are formulas, numbers and files: they are marked so that the parser takes
+/// them as they are.
+std::vector<std::string> protectArguments(const std::vector<std::string>& arguments);
+
+/// The argument as it was typed.
+std::string_view unprotected(std::string_view argument);
+
+/// A number of the command line, with either separator; throws CLI::ValidationError with a line
+/// that says what is wrong.
+double numberArgument(std::string_view name, std::string_view argument);
+
+}  // namespace zel

@@ -1,0 +1,69 @@
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include "cli/arguments.h"
+#include "cli/commands.h"
+#include "cli/interrupt.h"
+#include "cli/session.h"
+#include "plot/colour.h"
+
+namespace zel {
+namespace {
+
+struct Options {
+  std::string file;
+  std::string out;
+};
+
+/// The line of one graph: letter, kind, colour, display text and codes between tabs.
+std::string describe(const GraphDef& def) {
+  std::string line = std::string(1, def.nombre) + '\t' + def.tipo + '\t' + colourText(def.color);
+  line += '\t' + asField(displayText(def)) + '\t' + asField(def.codigo);
+  for (const char* key : {"codigo1", "codigo2", "codigo_xt", "codigo_yt"})
+    if (def.parameters && def.parameters->Exists(key))
+      line += '\t' + asField(parameter(def, key));
+  return line;
+}
+
+int check(const Options& options, const Console& console) {
+  Session session;
+  if (const int status = session.load(options.file, console)) return status;
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    const auto def = session.graphs.graph(letter);
+    if (def && def->defined) console.out << describe(*def) << '\n';
+  }
+  return kExitDone;
+}
+
+int resave(const Options& options, const Console& console) {
+  Session session;
+  if (const int status = session.load(options.file, console)) return status;
+  const DeferInterrupt whole;
+  if (!writeDocument(options.out, session.view, session.graphs).written)
+    return console.fail(messages::kCannotSave);
+  return kExitDone;
+}
+
+}  // namespace
+
+void addCheck(CLI::App& app, Console& console, Command& command) {
+  const auto options = std::make_shared<Options>();
+  CLI::App* subcommand = app.add_subcommand("check", "Load a document and list its graphs");
+  subcommand->add_option("file", options->file, "FILE")->required();
+  subcommand->callback([&command, &console, options] {
+    command = [&console, options] { return check(*options, console); };
+  });
+}
+
+void addResave(CLI::App& app, Console& console, Command& command) {
+  const auto options = std::make_shared<Options>();
+  CLI::App* subcommand = app.add_subcommand("resave", "Load a document and write it anew");
+  subcommand->add_option("file", options->file, "FILE")->required();
+  subcommand->add_option("out", options->out, "OUT")->required();
+  subcommand->callback([&command, &console, options] {
+    command = [&console, options] { return resave(*options, console); };
+  });
+}
+
+}  // namespace zel

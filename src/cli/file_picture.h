@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "plot/picture.h"
+
+namespace zel {
+
+/// A picture that becomes the bytes of a file.
+class FilePicture {
+ public:
+  virtual ~FilePicture() = default;
+
+  virtual Picture& picture() = 0;
+  /// It has outgrown its bound and takes nothing more.
+  virtual bool isFull() const { return false; }
+  /// The bytes of the whole file, once; empty when they could not be made.
+  virtual std::string bytes() = 0;
+};
+
+/// A picture of a size in pixels in the format of a file's ending in lower case: "svg", "png" or
+/// "pdf". Null for any other ending, for one that this build cannot write, and when there is not
+/// memory enough.
+std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height);
+
+/// The formats that need a toolkit; null where there is none.
+std::unique_ptr<FilePicture> makePaintedPicture(std::string_view ending, int width, int height);
+
+}  // namespace zel

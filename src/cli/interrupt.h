@@ -1,0 +1,17 @@
+#pragma once
+
+namespace zel {
+
+/// From now on Ctrl-C ends the program with status 130.
+void endOnInterrupt();
+
+/// While one exists, Ctrl-C waits: a file that is being put in its place is put there whole.
+class DeferInterrupt {
+ public:
+  DeferInterrupt();
+  ~DeferInterrupt();
+  DeferInterrupt(const DeferInterrupt&) = delete;
+  DeferInterrupt& operator=(const DeferInterrupt&) = delete;
+};
+
+}  // namespace zel

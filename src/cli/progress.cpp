@@ -1,0 +1,38 @@
+#include "cli/progress.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include "cli/terminal.h"
+
+namespace zel {
+namespace {
+
+constexpr auto kSilence = std::chrono::seconds(1);
+constexpr auto kPause = std::chrono::milliseconds(100);
+constexpr unsigned kCallsPerLook = 64;  // at the clock
+
+}  // namespace
+
+Progress::Progress(std::ostream& err)
+    : err_(err), shows_(errorIsTerminal()), next_(Clock::now() + kSilence) {}
+
+Progress::~Progress() {
+  if (width_ > 0) err_ << '\r' << std::string(width_, ' ') << '\r' << std::flush;
+}
+
+bool Progress::isDue() {
+  if (++calls_ % kCallsPerLook != 0) return false;
+  const auto now = Clock::now();
+  if (now < next_) return false;
+  next_ = now + kPause;
+  return true;
+}
+
+void Progress::write(const std::string& text) {
+  const std::size_t gap = width_ > text.size() ? width_ - text.size() : 0;
+  err_ << '\r' << text << std::string(gap, ' ') << std::flush;
+  width_ = std::max(width_, text.size());
+}
+
+}  // namespace zel

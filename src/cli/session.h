@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "cli/console.h"
+#include "engine/engine.h"
+#include "files/document.h"
+#include "graphs/graph_table.h"
+
+namespace zel {
+
+/// One document and one engine that can call its graphs.
+struct Session {
+  GraphTable graphs;
+  MainView view;
+  DocumentHeader header;
+  Engine engine{[this](char letter) { return graphs.codeOf(letter); }};
+
+  /// Loads a document; a refusal is said on standard error. Returns the exit status.
+  int load(const std::string& path, const Console& console);
+
+  /// load, when there is a path.
+  int loadIfGiven(const std::string& path, const Console& console);
+};
+
+}  // namespace zel

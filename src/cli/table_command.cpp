@@ -1,0 +1,98 @@
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include "cli/arguments.h"
+#include "cli/commands.h"
+#include "cli/progress.h"
+#include "cli/session.h"
+#include "plot/parameter_range.h"
+
+namespace zel {
+namespace {
+
+struct Options {
+  std::string file;
+  std::string graph;
+  std::string from;
+  std::string to;
+  std::string step;
+  std::string p = "0";
+};
+
+/// One row; a value that is undefined is empty.
+class Rows {
+ public:
+  Rows(const Console& console, Engine& engine) : console_(console), engine_(engine) {}
+
+  void writeFunction(const GraphDef& def, double x) {
+    console_.out << console_.number(x) << ';' << valueAt(x, def.codigo) << '\n';
+  }
+
+  void writeParametric(const GraphDef& def, double t) {
+    engine_.SetT(t);
+    const std::string x = valueAt(t, parameter(def, "codigo_xt"));
+    const std::string y = valueAt(t, parameter(def, "codigo_yt"));
+    console_.out << console_.number(t) << ';' << x << ';' << y << '\n';
+  }
+
+ private:
+  std::string valueAt(double x, std::string_view code) {
+    double value = 0;
+    return engine_.Evaluate(x, value, code, message_) ? console_.number(value) : std::string();
+  }
+
+  const Console& console_;
+  Engine& engine_;
+  std::string message_;
+};
+
+int noSuchGraph(const Options& options, const Console& console) {
+  console.err << inLanguage("No hay un gráfico ", "There is no graph ")
+              << unprotected(options.graph) << '\n';
+  return kExitFailed;
+}
+
+int table(const Options& options, const Console& console) {
+  const ParameterRange range = {numberArgument("--from", options.from),
+                                numberArgument("--to", options.to),
+                                numberArgument("--step", options.step)};
+  const double p = numberArgument("--p", options.p);
+  if (options.graph.size() != 1 || options.graph[0] < 'a' || options.graph[0] > 'z')
+    throw CLI::ValidationError("--graph", "give a letter from a to z");
+  Session session;
+  if (const int status = session.load(options.file, console)) return status;
+  const auto def = session.graphs.graph(options.graph[0]);
+  if (!def || !def->defined) return noSuchGraph(options, console);
+
+  session.engine.SetP(p);
+  Rows rows(console, session.engine);
+  Progress progress(console.err);
+  forEachParameter(range, [&](double x) {
+    if (def->tipo == 'T')
+      rows.writeParametric(*def, x);
+    else
+      rows.writeFunction(*def, x);
+    progress.show([&] { return console.number(x); });
+    return console.out.good();
+  });
+  return kExitDone;
+}
+
+}  // namespace
+
+void addTable(CLI::App& app, Console& console, Command& command) {
+  const auto options = std::make_shared<Options>();
+  CLI::App* subcommand = app.add_subcommand("table", "Print the values of a graph");
+  subcommand->add_option("file", options->file, "FILE")->required();
+  subcommand->add_option("--graph", options->graph, "Letter of the graph")->required();
+  subcommand->add_option("--from", options->from, "First x (or t)")->required();
+  subcommand->add_option("--to", options->to, "Last x (or t)")->required();
+  subcommand->add_option("--step", options->step, "Step")->required();
+  subcommand->add_option("--p", options->p, "Value of p (0)");
+  subcommand->callback([&command, &console, options] {
+    command = [&console, options] { return table(*options, console); };
+  });
+}
+
+}  // namespace zel

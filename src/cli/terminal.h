@@ -1,0 +1,8 @@
+#pragma once
+
+namespace zel {
+
+/// Whether standard error is a terminal, where a person looks on.
+bool errorIsTerminal();
+
+}  // namespace zel

@@ -1,0 +1,120 @@
+#include "cli_fixture.h"
+
+namespace zel::test {
+namespace {
+
+class DocumentCommands : public CliTest {};
+
+TEST_F(DocumentCommands, CheckListsTheGraphsInLetterOrder) {
+  const std::string file = writeDocument(
+      "d.zel", "",
+      block('f', 'F', "x^2") +
+          block('b', 'C', "b(0;0;3)",
+                "h=0\r\nk=0\r\nr=3\r\ncodigo1=7@(9-x^2)\r\ncodigo2=-7@(9-x^2)\r\n") +
+          block('a', 'T', "[X(t)=t;Y(t)=sen(t)]",
+                "ecuacion_xt=t\r\necuacion_yt=sen(t)\r\ninicio=0\r\nfin=1\r\nvariacion=1\r\n") +
+          block('z', 'Z', "p*x", "parametro=P\r\ninicio=-2\r\nfin=2\r\nvariacion=1\r\n") +
+          block('p', 'P', "p(0;0;1)", "h=0\r\n", "x^2/2"));
+  const Run result = run({"check", file});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out,
+            "a\tT\t#ff0000\t[X(t)=t;Y(t)=sen(t)]\t\tt\t10@(t)\n"
+            "b\tC\t#ff0000\tb(0;0;3)\t7@(9-x^2)\t7@(9-x^2)\t-7@(9-x^2)\n"
+            "f\tF\t#ff0000\tf(x)=x^2\tx^2\n"
+            "p\tP\t#ff0000\tp(0;0;1)\tx^2/2\n"
+            "z\tZ\t#ff0000\tz(x,P)=p*x [-2<=P<=2]\tp*x\n");
+}
+
+TEST_F(DocumentCommands, CheckRefusesWithTheMessageOfTheDocument) {
+  const Run incompatible = run({"check", write("a.zel", "versiones_compatibles=2.1")});
+  EXPECT_EQ(incompatible.status, 1);
+  EXPECT_EQ(incompatible.out, "");
+  EXPECT_EQ(incompatible.err, "El archivo no es compatible con esta versión del programa.\n");
+  const Run sections = run({"check", write("b.zel", "versiones_compatibles=2.0"), "--lang", "EN"});
+  EXPECT_EQ(sections.status, 1);
+  EXPECT_EQ(sections.err, "Cannot load file in memory because file format is incompatible.\n");
+  EXPECT_EQ(run({"check", path("missing.zel")}).err, "Error: No se pudo abrir el archivo.\n");
+  EXPECT_EQ(run({"check", path("")}).err, "Error: No se pudo abrir el archivo.\n");
+}
+
+TEST_F(DocumentCommands, ResaveWritesWhatOpeningAndSavingGives) {
+  const std::string file = writeDocument(
+      "in.zel", "xi=-1,50\r\ndefinicion=700\r\nproporcional=3\r\nescala_x=a=b\r\n",
+      block('a', 'F', "x^2 + 1", "", "stale"));
+  const Run result = run({"resave", file, path("out.zel")});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out + result.err, "");
+  const std::string written = bytesOf(path("out.zel"));
+  for (const char* line : {"\r\nxi=-1,50\r\n", "\r\ndefinicion=100\r\n", "\r\nproporcional=1\r\n",
+                           "\r\nescala_x=a=b\r\n", "\r\ncodigo=x^2+1\r\n",
+                           "\r\necuacion=x^2 + 1\r\n"})
+    EXPECT_NE(written.find(line), std::string::npos) << line;
+}
+
+TEST_F(DocumentCommands, ResaveOfAnExampleChangesNoByte) {
+  for (const char* name : {"all_kinds.zel", "alphabet.zel", "calls.zel", "conics.zel", "curves.zel",
+                           "families.zel", "oddities.zel", "waves.zel"}) {
+    EXPECT_EQ(run({"resave", example(name), path("out.zel")}).status, 0) << name;
+    EXPECT_EQ(bytesOf(path("out.zel")), bytesOf(example(name))) << name;
+  }
+}
+
+TEST_F(DocumentCommands, ResaveSaysWhenItCannotWrite) {
+  const Run result = run({"resave", example("waves.zel"), path("no/such/folder.zel")});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.err, "No se pudo salvar el archivo.\n");
+  EXPECT_EQ(run({"resave", example("waves.zel"), path("")}).status, 1);
+}
+
+TEST_F(DocumentCommands, NeedTheirFiles) {
+  EXPECT_EQ(run({"check"}).status, 2);
+  EXPECT_EQ(run({"resave", "a"}).status, 2);
+}
+
+class TableCommand : public CliTest {
+ protected:
+  std::string document = writeDocument(
+      "t.zel", "",
+      block('a', 'F', "1/x") + block('b', 'Z', "p*x", "inicio=1\r\nfin=2\r\nvariacion=1\r\n") +
+          block('t', 'T', "", "ecuacion_xt=t+1\r\necuacion_yt=1/t\r\ninicio=0\r\nfin=1\r\n"));
+
+  Run table(const std::string& letter, const std::string& from, const std::string& to,
+            const std::string& step, const std::vector<std::string>& more = {}) {
+    std::vector<std::string> arguments = {"table", document, "--graph", letter, "--from", from,
+                                          "--to",  to,       "--step",  step};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return run(arguments);
+  }
+};
+
+TEST_F(TableCommand, GivesALineForEachXAndNothingWhereTheGraphIsUndefined) {
+  EXPECT_EQ(table("a", "-1", "1", "0,5").out, "-1;-1\n-0,5;-2\n0;\n0,5;2\n1;1\n");
+}
+
+TEST_F(TableCommand, GivesThreeColumnsForAParametricGraph) {
+  EXPECT_EQ(table("t", "0", "2", "1").out, "0;1;\n1;2;1\n2;3;0,5\n");
+}
+
+TEST_F(TableCommand, TakesTheParameterOfAFamily) {
+  EXPECT_EQ(table("b", "1", "2", "1").out, "1;0\n2;0\n");
+  EXPECT_EQ(table("b", "1", "2", "1", {"--p", "-1,5", "--point"}).out, "1;-1.5\n2;-3\n");
+}
+
+TEST_F(TableCommand, EndsWhereTheStepNoLongerAdvances) {
+  EXPECT_EQ(table("a", "9007199254740992", "9007199254740996", "1").out,
+            "9,00719925474099E+15;1,11022302462516E-16\n");
+  EXPECT_EQ(table("a", "2", "1", "1").out, "");
+}
+
+TEST_F(TableCommand, RefusesAGraphThatIsNotThere) {
+  const Run result = table("q", "1", "2", "1");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err, "No hay un gráfico q\n");
+  EXPECT_EQ(table("Q", "1", "2", "1").status, 2);
+  EXPECT_EQ(table("a", "x", "2", "1").status, 2);
+  EXPECT_EQ(run({"table", document, "--graph", "a"}).status, 2);
+}
+
+}  // namespace
+}  // namespace zel::test

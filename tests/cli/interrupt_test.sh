@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# Ctrl-C ends a command that would never end with status 130 and leaves no half-written file.
+set -uo pipefail
+cli=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+printf '%s\r\n' '[PRINCIPAL]' '01.versiones_compatibles=2.0' ' ' '[VISTA PRINCIPAL]' ' ' \
+  '[GRAFICOS PRINCIPAL]' '[PROPIEDADES]' 'nombre=a' 'color=255' 'ecuacion=p*x' 'tipo=Z' ' ' \
+  '[PARAMETROS]' 'inicio=0' 'fin=1' 'variacion=0' ' ' ' ' >"$work/endless.zel"
+
+# interrupted NAME COMMAND...: the command must still run after a second, and end with 130.
+interrupted() {
+  local name=$1 pid status
+  shift
+  # A shell's background jobs ignore Ctrl-C; setting the trap to its default undoes that.
+  (
+    trap - INT
+    exec env -i LC_ALL=es_ES.UTF-8 python3 -c '
+import os, signal, sys
+signal.signal(signal.SIGINT, signal.SIG_DFL)
+os.execv(sys.argv[1], sys.argv[1:])' "$@"
+  ) >"$work/out" 2>"$work/err" <"$work/pipe" &
+  pid=$!
+  exec 9>"$work/pipe" # keeps the input open
+  sleep 1
+  if ! kill -INT "$pid" 2>/dev/null; then
+    echo "$name ended by itself"
+    failures=$((failures + 1))
+  fi
+  wait "$pid"
+  status=$?
+  exec 9>&-
+  if [[ $status -ne 130 ]]; then
+    echo "$name ended with $status"
+    failures=$((failures + 1))
+  fi
+}
+
+mkfifo "$work/pipe"
+interrupted "a table with a step of 0" \
+  "$cli" table "$work/endless.zel" --graph a --from 0 --to 1 --step 0
+interrupted "a family with a step of 0" \
+  "$cli" render "$work/endless.zel" -o "$work/picture.svg" --quality 1
+interrupted "a batch that waits for input" "$cli" evaluate --batch
+
+left=$(find "$work" -name '*.svg*' -o -name '.zel-*')
+if [[ -n $left ]]; then
+  echo "left behind: $left"
+  failures=$((failures + 1))
+fi
+exit "$failures"

@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# Pictures, examples and a full disk, through the program itself.
+set -uo pipefail
+cli=$1
+source_dir=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+unset LC_ALL LC_MESSAGES
+export LANG=C
+
+check() {
+  local what=$1
+  shift
+  "$@" && return
+  echo "failed: $what"
+  failures=$((failures + 1))
+}
+
+# The examples are what the program's own writer makes of them.
+make_examples=$(dirname "$cli")/make_examples
+check "make_examples runs" "$make_examples" "$work"
+for example in "$source_dir"/examples/*.zel; do
+  check "$(basename "$example") is up to date" cmp "$example" "$work/$(basename "$example")"
+done
+check "there are six examples at least" test "$(ls "$source_dir"/examples/*.zel | wc -l)" -ge 6
+
+# An output that cannot be written is a failed job.
+"$cli" compile x >/dev/full 2>"$work/err"
+check "a full disk fails" test $? -eq 1
+check "a full disk has its line" grep -q 'No se pudo escribir la salida.' "$work/err"
+
+# The SVG is well-formed.
+check "svg" "$cli" render "$source_dir/examples/all_kinds.zel" -o "$work/a.svg"
+check "svg is well-formed" xmllint --noout "$work/a.svg"
+
+# PNG and PDF need the toolkit; a build without it says so on the command line.
+if "$cli" render "$source_dir/examples/all_kinds.zel" -o "$work/a.png" --width 320 --height 200 2>"$work/err"; then
+  size=$(od -An -t u1 -j 16 -N 8 "$work/a.png" | xargs)
+  check "png size" test "$size" = "0 0 1 64 0 0 0 200"
+  check "pdf" "$cli" render "$source_dir/examples/all_kinds.zel" -o "$work/a.pdf"
+  check "pdf page of 600 x 450 points" grep -qE '^Page size: +600 x 450 pts' <(pdfinfo "$work/a.pdf")
+  check "pdf has one page" grep -qE '^Pages: +1$' <(pdfinfo "$work/a.pdf")
+  check "pdf renders" pdftoppm -r 96 -singlefile "$work/a.pdf" "$work/page"
+  # The axes cross in the middle of the page, and the circle's colour is on its leftmost point.
+  check "pdf shows the plot" python3 - "$work/page.ppm" <<'PYTHON'
+import sys
+with open(sys.argv[1], 'rb') as page:
+    assert page.readline() == b'P6\n'
+    width, height = map(int, page.readline().split())
+    page.readline()
+    pixels = page.read()
+def near(x, y, wanted):
+    spots = [pixels[3 * (v * width + u):][:3] for u in range(x - 2, x + 3) for v in range(y - 2, y + 3)]
+    return any(all(abs(a - b) < 60 for a, b in zip(spot, wanted)) for spot in spots)
+assert (width, height) == (800, 600), (width, height)
+assert near(400, 300, (0, 0, 0))
+assert near(100, 140, (213, 94, 0))
+assert not near(20, 20, (0, 0, 0))
+PYTHON
+else
+  check "no toolkit, no png" grep -q 'must end in' "$work/err"
+fi
+exit "$failures"
