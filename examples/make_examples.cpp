@@ -108,7 +108,7 @@ bool writeConics(const std::string& path) {
 bool writeCurves(const std::string& path) {
   return Example(view("-8", "8", "-6", "6", true))
       .parametric('a', "5*sen(3*t)", "4*sen(2*t)", "0", "360", "1")
-      .parametric('b', "t/200*cos(t)", "t/200*sen(t)", "0", "1080", "4")
+      .parametric('b', "t*cos(t)/200", "t*sen(t)/200", "0", "1080", "4")
       .parametric('c', "2*cos(t)+cos(2*t)-5", "2*sen(t)-sen(2*t)+3", "0", "360", "5")
       .write(path);
 }
@@ -131,12 +131,14 @@ bool writeAlphabet(const std::string& path) {
   return example.write(path);
 }
 
+/// Calls go to later letters, since letters are expanded once, from "a" to "z"; what is called is
+/// declared first.
 bool writeCalls(const std::string& path) {
   return Example(view("-6", "6", "-6", "6"))
       .function('f', "x^2/4-2")
-      .function('g', "(f(x))*sen(90*x)")
-      .function('h', "(g(x+1))/2+(f(x+1))/3")
-      .function('m', "abs(f(x))")
+      .function('d', "(f(x))*sen(90*x)")
+      .function('c', "(d(x+1))/2+x/3")
+      .function('b', "abs(f(x))")
       .write(path);
 }
 

@@ -118,10 +118,10 @@ bool readGraph(LineReader& lines, GraphTable& graphs) {
   auto parameters = std::make_shared<Parameters>();
   if (!collectPairs(lines, *parameters)) return false;
   const auto color = toInt32(properties.Item("color"));
-  return color && graphs.rebuildGraph(firstCharacter(properties.Item("nombre")),
-                                      properties.Item("ecuacion"), properties.Item("codigo"),
-                                      *color, firstCharacter(properties.Item("tipo")),
-                                      std::move(parameters));
+  return color &&
+         graphs.rebuildGraph(firstCharacter(properties.Item("nombre")), properties.Item("ecuacion"),
+                             properties.Item("codigo"), *color,
+                             firstCharacter(properties.Item("tipo")), std::move(parameters));
 }
 
 }  // namespace

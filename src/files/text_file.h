@@ -7,8 +7,8 @@
 /// character that the code page lacks is written as "?".
 namespace zel {
 
-/// Whether the file was there and could be read (memory for it included); otherwise `text` is unchanged. Reading a file that
-/// does not exist creates it empty: this is meant.
+/// Whether the file was there and could be read (memory for it included); otherwise `text` is
+/// unchanged. Reading a file that does not exist creates it empty: this is meant.
 bool readTextFile(const std::string& path, std::string& text);
 
 /// Writes the text whole or not at all. Returns whether the file was there before the write, false

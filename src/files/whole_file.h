@@ -23,6 +23,8 @@ std::optional<std::string> readWholeFile(const std::string& path);
 struct WriteResult {
   bool existed = false;  // the file was there before
   bool written = false;  // the bytes are there now
+
+  bool operator==(const WriteResult&) const = default;
 };
 
 /// Replaces the file by a new one with its permissions, in one step: a failure leaves the older

@@ -1,14 +1,14 @@
 // A file is replaced by writing a new one beside it and renaming that over it, so that whoever
 // looks at the path, at any moment and after a crash too, finds the older or the newer file whole.
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "files/whole_file.h"
 
@@ -215,6 +215,7 @@ WriteResult writeWholeFile(const std::string& path, std::string_view bytes) {
   if (!isPath(path)) return {};
   struct stat old {};
   const bool is_there = ::stat(path.c_str(), &old) == 0;
+  if (!is_there && errno != ENOENT) return {};
   if (is_there && S_ISDIR(old.st_mode)) return {};
   if (is_there && !S_ISREG(old.st_mode)) return {true, writeInPlace(path, bytes)};
 

@@ -47,8 +47,8 @@ bool checkNonNegative(std::span<const Field> fields, std::string& message) {
   const std::string list =
       listFailures(fields, [](const Field& field) { return !isAcceptedDistance(field); });
   if (list.empty()) return true;
-  message.append(Localize(
-      "Los valores de distancia deben ser números positivos en los siguientes campos:"));
+  message.append(
+      Localize("Los valores de distancia deben ser números positivos en los siguientes campos:"));
   message.append(kLineBreak).append(list).append(kLineBreak);
   return false;
 }

@@ -180,9 +180,9 @@ Accepted acceptGraph(GraphTable& graphs, Engine& engine, char letter, std::int32
     message = std::move(graph.message);
     return Accepted::refused;
   }
-  const bool stored = graphs.rebuildGraph(letter, std::move(graph.ecuacion),
-                                          std::move(graph.codigo), color, graph.tipo,
-                                          std::move(graph.parameters));
+  const bool stored =
+      graphs.rebuildGraph(letter, std::move(graph.ecuacion), std::move(graph.codigo), color,
+                          graph.tipo, std::move(graph.parameters));
   return stored ? Accepted::stored : Accepted::failed;
 }
 

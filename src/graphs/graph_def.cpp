@@ -15,29 +15,23 @@ std::string displayText(const GraphDef& def) {
     case 'P':
     case 'H':
     case 'E':
-    case 'T':
-      return def.ecuacion;
-    case 'F':
-      return std::string(1, def.nombre) + "(x)=" + def.ecuacion;
+    case 'T': return def.ecuacion;
+    case 'F': return std::string(1, def.nombre) + "(x)=" + def.ecuacion;
     case 'Z': {
       const std::string name = parameter(def, "parametro");
       return std::string(1, def.nombre) + "(x," + name + ")=" + def.ecuacion + " [" +
              parameter(def, "inicio") + "<=" + name + "<=" + parameter(def, "fin") + "]";
     }
-    default:
-      return {};
+    default: return {};
   }
 }
 
 std::optional<double> mainParameter(const GraphDef& def) {
   switch (def.tipo) {
-    case 'C':
-      return readNumber(parameter(def, "r"));
+    case 'C': return readNumber(parameter(def, "r"));
     case 'E':
-    case 'H':
-      return readNumber(parameter(def, "a"));
-    default:
-      return std::nullopt;
+    case 'H': return readNumber(parameter(def, "a"));
+    default: return std::nullopt;
   }
 }
 

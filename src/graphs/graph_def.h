@@ -16,13 +16,13 @@ using Parameters = KeyedDictionary<std::string>;
 
 /// One graph of the document, and one slot of the graph table.
 struct GraphDef {
-  char nombre = '\0';    // "a" to "z"
-  std::string ecuacion;  // the formula as the user sees it
-  std::string codigo;    // the compiled code of the main formula
-  std::int32_t color = 0;  // red in the low byte
-  char tipo = '\0';        // the kind's letter; '\0' when there is none
-  bool defined = false;    // the slot is in use
-  std::string carpeta;     // written to documents, never read back
+  char nombre = '\0';                      // "a" to "z"
+  std::string ecuacion;                    // the formula as the user sees it
+  std::string codigo;                      // the compiled code of the main formula
+  std::int32_t color = 0;                  // red in the low byte
+  char tipo = '\0';                        // the kind's letter; '\0' when there is none
+  bool defined = false;                    // the slot is in use
+  std::string carpeta;                     // written to documents, never read back
   std::shared_ptr<Parameters> parameters;  // shared by all copies; null in an empty slot
 };
 

@@ -21,23 +21,16 @@ char after(char letter) { return static_cast<char>(letter + 1); }
 void makeCode(GraphDef& def, std::string codigo) {
   switch (def.tipo) {
     case 'F':
-    case 'Z':
-      def.codigo = NormaliseFormula(def.ecuacion);
-      break;
-    case 'P':
-      def.codigo = std::move(codigo);
-      break;
+    case 'Z': def.codigo = NormaliseFormula(def.ecuacion); break;
+    case 'P': def.codigo = std::move(codigo); break;
     case 'C':
     case 'E':
-    case 'H':
-      def.codigo = def.parameters->Item("codigo1");
-      break;
+    case 'H': def.codigo = def.parameters->Item("codigo1"); break;
     case 'T':
       def.parameters->set("codigo_xt", NormaliseFormula(def.parameters->Item("ecuacion_xt")));
       def.parameters->set("codigo_yt", NormaliseFormula(def.parameters->Item("ecuacion_yt")));
       break;
-    default:
-      break;
+    default: break;
   }
 }
 

@@ -18,8 +18,7 @@ constexpr std::array<KindInfo, 7> kKinds = {{
     {'C', "Cincunferencia", true, "7@(r^2-(h-x)^2)+k", "-7@(r^2-(h-x)^2)+k"},
     {'E', "Elipse", true, "7@((1-(x-h)^2/a^2)*b^2)+k", "-7@((1-(x-h)^2/a^2)*b^2)+k"},
     {'P', "Parabola", false, "a*x^2-2*h*a*x+a*h^2+k", ""},
-    {'H', "Hiperbola", true, "7@(((x-h)^2/a^2-1)*(c^2-a^2))+k",
-     "-7@(((x-h)^2/a^2-1)*(c^2-a^2))+k"},
+    {'H', "Hiperbola", true, "7@(((x-h)^2/a^2-1)*(c^2-a^2))+k", "-7@(((x-h)^2/a^2-1)*(c^2-a^2))+k"},
     {'Z', "Haz de rectas", false, "", ""},
     {'T', "Paramétrica", false, "", ""},
 }};

@@ -35,8 +35,7 @@ void sweepSamples(const CurveTools& tools, std::string_view code, const Visit& v
     pen_up = !sample.drawn;
     visit(sample);
     const double next = x + viewport.xStep();
-    if (next <= x)
-      break;
+    if (next <= x) break;
     x = next;
   }
 }

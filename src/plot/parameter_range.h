@@ -24,11 +24,9 @@ std::optional<ParameterRange> parameterRange(const GraphDef& def);
 template <class Visit>
 void forEachParameter(const ParameterRange& range, const Visit& visit) {
   for (double value = range.inicio; value <= range.fin;) {
-    if (!visit(value))
-      return;
+    if (!visit(value)) return;
     const double next = value + range.variacion;
-    if (!std::isfinite(next) || (next == value && range.variacion != 0))
-      return;
+    if (!std::isfinite(next) || (next == value && range.variacion != 0)) return;
     value = next;
   }
 }

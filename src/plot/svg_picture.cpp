@@ -29,7 +29,7 @@ std::string attribute(const char* name, double value) {
 }  // namespace
 
 void SvgPicture::clear() {
-  *this = SvgPicture(width_, height_);
+  *this = SvgPicture(width_, height_, max_text_);
 }
 
 void SvgPicture::beginAxes() {

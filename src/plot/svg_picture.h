@@ -16,7 +16,8 @@ class SvgPicture : public Picture {
   static constexpr std::size_t kMaxText = std::size_t{256} << 20;
 
   /// The size in pixels.
-  SvgPicture(int width, int height) : width_(width), height_(height) {}
+  SvgPicture(int width, int height, std::size_t max_text = kMaxText)
+      : width_(width), height_(height), max_text_(max_text) {}
 
   void clear() override;
   void beginAxes() override;
@@ -27,7 +28,7 @@ class SvgPicture : public Picture {
   void dot(Point centre, double radius) override;
 
   /// The document outgrew its limit and takes nothing more.
-  bool isFull() const { return body_.size() + points_.size() + dots_.size() > kMaxText; }
+  bool isFull() const { return body_.size() + points_.size() + dots_.size() > max_text_; }
 
   /// The whole document.
   std::string text();
@@ -39,6 +40,7 @@ class SvgPicture : public Picture {
 
   int width_;
   int height_;
+  std::size_t max_text_;
   std::string styles_;  // the colours of dots, by graph
   std::string body_;
   std::string group_style_;  // the style of the current graph's dots

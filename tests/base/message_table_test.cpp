@@ -1,8 +1,8 @@
 #include "base/message_table.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
+
+#include <gtest/gtest.h>
 
 #include "base/language.h"
 #include "support/language_guard.h"

@@ -1,7 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <cfloat>
 #include <string>
+
+#include <gtest/gtest.h>
 
 #include "base/number_text.h"
 #include "counting_new.h"

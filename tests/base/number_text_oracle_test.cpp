@@ -1,7 +1,5 @@
 // Compares number text with what the C library prints and reads, under several locales.
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <bit>
 #include <cfloat>
@@ -12,6 +10,8 @@
 #include <limits>
 #include <random>
 #include <string>
+
+#include <gtest/gtest.h>
 
 #include "base/number_text.h"
 
@@ -38,7 +38,8 @@ std::string expectedText(double value) {
     std::snprintf(buffer.data(), buffer.size(), "E%+03d", exponent);
     return sign + mantissa + buffer.data();
   }
-  if (exponent < 0) return sign + "0," + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+  if (exponent < 0)
+    return sign + "0," + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
   const auto whole = static_cast<std::size_t>(exponent) + 1;
   if (digits.size() <= whole) return sign + digits + std::string(whole - digits.size(), '0');
   return sign + digits.substr(0, whole) + "," + digits.substr(whole);
@@ -124,7 +125,8 @@ TEST_P(NumberTextOracle, AgreesAtThePowersOfTenAndOfTwo) {
     compareWithNeighbours(power);
     compareWithNeighbours(-power);
   }
-  for (int exponent = -1074; exponent <= 1023; ++exponent) compareWithNeighbours(std::ldexp(1, exponent));
+  for (int exponent = -1074; exponent <= 1023; ++exponent)
+    compareWithNeighbours(std::ldexp(1, exponent));
 }
 
 TEST_P(NumberTextOracle, AgreesAtTheEndsOfTheRange) {

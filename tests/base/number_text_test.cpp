@@ -1,12 +1,12 @@
 #include "base/number_text.h"
 
-#include <gtest/gtest.h>
-
 #include <cfloat>
 #include <cmath>
 #include <limits>
 #include <utility>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace zel::test {
 namespace {
@@ -21,9 +21,7 @@ TEST(NumberText, WritesWholeNumbersPlain) {
   expectWritten({{0, "0"}, {1, "1"}, {-1, "-1"}, {10, "10"}, {-120, "-120"}, {65535, "65535"}});
 }
 
-TEST(NumberText, WritesZeroOfEitherSignAsZero) {
-  expectWritten({{0.0, "0"}, {-0.0, "0"}});
-}
+TEST(NumberText, WritesZeroOfEitherSignAsZero) { expectWritten({{0.0, "0"}, {-0.0, "0"}}); }
 
 TEST(NumberText, SeparatesDecimalsWithAComma) {
   expectWritten({{0.5, "0,5"}, {-2.25, "-2,25"}, {1234.5, "1234,5"}, {0.001, "0,001"}});
@@ -95,26 +93,28 @@ TEST(NumberText, WritesTheEndsOfTheRange) {
 
 TEST(NumberText, AcceptsDigitsASeparatorASignAndAnExponent) {
   for (const std::string_view text :
-       {"0", "12", "1,5", "1.5", ",5", ".5", "5,", "5.", "-1", "+1", "-,5", "+5.", "2e3", "2E3",
-        "2e+3", "2e-3", "-1,5E-10", "007", "00", ",5e1", "5,e1", "1e007"})
+       {"0",   "12",  "1,5", "1.5",  ",5",   ".5",       "5,",  "5.", "-1",   "+1",   "-,5",
+        "+5.", "2e3", "2E3", "2e+3", "2e-3", "-1,5E-10", "007", "00", ",5e1", "5,e1", "1e007"})
     EXPECT_TRUE(isNumeric(text)) << text;
 }
 
 TEST(NumberText, AcceptsNothingElse) {
   for (const std::string_view text :
-       {"", " ", "-", "+", ",", ".", "-,", "e", "e5", "1e", "1e+", "1e-", "1,2,3", "1.2.3", "1,2.3",
-        "1.000,5", "1 ", " 1", "1 000", "--1", "+-1", "1-", "(1)", "$1", "1$", "inf", "-inf", "nan",
-        "NaN", "infinity", "0x10", "0x1p3", "1f", "1e5e5", "1e1,5", "1d5", "x", "abc", "\xC2\xB2",
-        "\xD9\xA1", "1\n", "1\r\n", "\t1"})
+       {"",      " ",   "-",        "+",        ",",     ".",     "-,",      "e",     "e5",
+        "1e",    "1e+", "1e-",      "1,2,3",    "1.2.3", "1,2.3", "1.000,5", "1 ",    " 1",
+        "1 000", "--1", "+-1",      "1-",       "(1)",   "$1",    "1$",      "inf",   "-inf",
+        "nan",   "NaN", "infinity", "0x10",     "0x1p3", "1f",    "1e5e5",   "1e1,5", "1d5",
+        "x",     "abc", "\xC2\xB2", "\xD9\xA1", "1\n",   "1\r\n", "\t1"})
     EXPECT_FALSE(isNumeric(text)) << text;
   EXPECT_FALSE(isNumeric(std::string_view("1\0", 2)));
 }
 
 TEST(NumberText, ReadsEitherSeparatorAndEveryFormThatItAccepts) {
   const std::vector<std::pair<std::string_view, double>> table = {
-      {"0", 0},       {"-0", 0},     {"1,5", 1.5},    {"1.5", 1.5},  {",5", 0.5}, {".5", 0.5},
-      {"5,", 5},      {"5.", 5},     {"-,5", -0.5},   {"+5,", 5},    {"2e3", 2000}, {"2E3", 2000},
-      {"2e+3", 2000}, {"2e-3", .002}, {",5e1", 5},    {"5,e1", 50},  {"007", 7},  {"+1,5E-1", 0.15}};
+      {"0", 0},      {"-0", 0},     {"1,5", 1.5},     {"1.5", 1.5},   {",5", 0.5},
+      {".5", 0.5},   {"5,", 5},     {"5.", 5},        {"-,5", -0.5},  {"+5,", 5},
+      {"2e3", 2000}, {"2E3", 2000}, {"2e+3", 2000},   {"2e-3", .002}, {",5e1", 5},
+      {"5,e1", 50},  {"007", 7},    {"+1,5E-1", 0.15}};
   for (const auto& [text, value] : table) EXPECT_EQ(readNumber(text), value) << text;
 }
 

@@ -1,8 +1,8 @@
 #include "graphs/field_validation.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
+
+#include <gtest/gtest.h>
 
 #include "support/language_guard.h"
 
@@ -37,8 +37,7 @@ TEST_F(FieldValidation, PassesNumericFieldsAndLeavesTheMessage) {
 TEST_F(FieldValidation, ListsTheFieldsThatAreNotNumericInTheirOrder) {
   const std::array fields = {Field{"abc", "Mayor="}, Field{"1", "Menor="}, Field{"", "X="}};
   EXPECT_FALSE(checkNumeric(fields, message));
-  EXPECT_EQ(message,
-            "Los siguientes campos deben contener valores numéricos:\r\nMayor\r\nX\r\n");
+  EXPECT_EQ(message, "Los siguientes campos deben contener valores numéricos:\r\nMayor\r\nX\r\n");
 }
 
 TEST_F(FieldValidation, ReplacesTheMessageWhenAFieldIsNotNumeric) {
@@ -77,8 +76,7 @@ TEST_F(FieldValidation, RefusesADistanceThatNoDoubleHolds) {
 TEST_F(FieldValidation, AsksForDistancesInEnglish) {
   SetCurrentLanguage("EN");
   EXPECT_FALSE(checkNonNegative(std::array{Field{"-1", "Radio="}}, message));
-  EXPECT_EQ(message,
-            "Size must be numeric value greater than zero in fields:\r\nRadio\r\n\r\n");
+  EXPECT_EQ(message, "Size must be numeric value greater than zero in fields:\r\nRadio\r\n\r\n");
 }
 
 TEST_F(FieldValidation, AcceptsIncreasingValues) {
@@ -105,8 +103,7 @@ TEST_F(FieldValidation, ListsBothLabelsOfARangeWhenTheyDiffer) {
 
 TEST_F(FieldValidation, ListsTheLabelOfARangeOnceWhenItIsShared) {
   EXPECT_FALSE(checkIncreasing({"5", "<= t <="}, {"5", " t="}, message));
-  EXPECT_EQ(message,
-            "\r\nLos siguientes campos deben contener valores numéricos crecientes:\r\nt");
+  EXPECT_EQ(message, "\r\nLos siguientes campos deben contener valores numéricos crecientes:\r\nt");
 }
 
 TEST_F(FieldValidation, AsksForIncreasingValuesInEnglish) {

@@ -35,9 +35,7 @@ Pairs pairsOf(const BuiltGraph& graph) {
   return pairs;
 }
 
-FunctionFields function(const char* formula) {
-  return {{formula, "Declaración de la función"}};
-}
+FunctionFields function(const char* formula) { return {{formula, "Declaración de la función"}}; }
 
 FamilyFields family(const char* formula, const char* inicio = "-2", const char* fin = "2",
                     const char* variacion = "1") {
@@ -75,8 +73,7 @@ TEST_F(GraphBuilders, BuildAFunctionFromItsFormula) {
 }
 
 TEST_F(GraphBuilders, AskForAFormula) {
-  EXPECT_EQ(refusal(function("")),
-            "El campo Declaración de la función no puede estar vacío.\r\n");
+  EXPECT_EQ(refusal(function("")), "El campo Declaración de la función no puede estar vacío.\r\n");
   SetCurrentLanguage("EN");
   EXPECT_EQ(refusal(FunctionFields{{"", "Function"}}), "Text field Function can't be empty.\r\n");
 }
@@ -235,13 +232,12 @@ TEST_F(GraphBuilders, BuildAHyperbola) {
   EXPECT_EQ(graph.message, "");
   EXPECT_EQ(graph.tipo, 'H');
   EXPECT_EQ(graph.ecuacion, "g(1;2;3;5)");
-  EXPECT_EQ(pairsOf(graph),
-            (Pairs{{"h", "1"},
-                   {"k", "2"},
-                   {"a", "3"},
-                   {"c", "5"},
-                   {"codigo1", "7@(((x-(1))^2/(3)^2-1)*((5)^2-(3)^2))+(2)"},
-                   {"codigo2", "-7@(((x-(1))^2/(3)^2-1)*((5)^2-(3)^2))+(2)"}}));
+  EXPECT_EQ(pairsOf(graph), (Pairs{{"h", "1"},
+                                   {"k", "2"},
+                                   {"a", "3"},
+                                   {"c", "5"},
+                                   {"codigo1", "7@(((x-(1))^2/(3)^2-1)*((5)^2-(3)^2))+(2)"},
+                                   {"codigo2", "-7@(((x-(1))^2/(3)^2-1)*((5)^2-(3)^2))+(2)"}}));
 }
 
 TEST_F(GraphBuilders, AskForAVertexNearerThanTheFocus) {

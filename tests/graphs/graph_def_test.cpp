@@ -70,7 +70,8 @@ TEST(MainParameter, CannotBeConvertedForOtherKindsAndBadTexts) {
 
 TEST(TwoBranch, GoesByTheKindTable) {
   for (const char tipo : std::string("CEH")) EXPECT_TRUE(isTwoBranch(graphOf(tipo, ""))) << tipo;
-  for (const char tipo : std::string("FPZTAc?")) EXPECT_FALSE(isTwoBranch(graphOf(tipo, ""))) << tipo;
+  for (const char tipo : std::string("FPZTAc?"))
+    EXPECT_FALSE(isTwoBranch(graphOf(tipo, ""))) << tipo;
   EXPECT_FALSE(isTwoBranch(GraphDef()));
 }
 

@@ -238,8 +238,8 @@ TEST(RebuildGraph, CompilesBothFormulasOfAParametricCurveIntoItsParameters) {
   const auto parameters = parametersOf({{"ecuacion_xt", "Cos(t)"}, {"ecuacion_yt", "Sen(t)"}});
   table.rebuildGraph('a', "[X(t)=Cos(t);Y(t)=Sen(t)]", "ignored", 0, 'T', parameters);
   EXPECT_EQ(table.codeOf('a'), "");
-  EXPECT_EQ(parameters->keys(), (std::vector<std::string>{"ecuacion_xt", "ecuacion_yt",
-                                                          "codigo_xt", "codigo_yt"}));
+  EXPECT_EQ(parameters->keys(),
+            (std::vector<std::string>{"ecuacion_xt", "ecuacion_yt", "codigo_xt", "codigo_yt"}));
   EXPECT_EQ(parameters->Item("codigo_xt"), "11@(t)");
   EXPECT_EQ(parameters->Item("codigo_yt"), "10@(t)");
 }

@@ -50,8 +50,7 @@ TEST(Kinds, HaveNoEntryOutsideTheUpperCaseLetters) {
 }
 
 TEST(Templates, TakeEachValueInParentheses) {
-  const Parameters parabola =
-      parametersOf({{"h", "1"}, {"k", "2"}, {"p", "1"}, {"a", "0,5"}});
+  const Parameters parabola = parametersOf({{"h", "1"}, {"k", "2"}, {"p", "1"}, {"a", "0,5"}});
   EXPECT_EQ(substituteParameters("a*x^2-2*h*a*x+a*h^2+k", parabola),
             "(0,5)*x^2-2*(1)*(0,5)*x+(0,5)*(1)^2+(2)");
 }

@@ -16,6 +16,7 @@
 #include "plot/axes.h"
 #include "plot/curve.h"
 #include "plot/drawing.h"
+#include "plot/function_sweep.h"
 #include "plot/viewport.h"
 #include "support/language_guard.h"
 #include "support/recorder_picture.h"
@@ -73,6 +74,12 @@ class CurveTest : public PlotTest, private DrawingFlag {
     prepare();
     sweepFunction(tools(), code);
     return picture.pieces();
+  }
+
+  /// Tells `visit` of each sample; the viewport must be prepared.
+  template <class Visit>
+  void sweepEach(std::string_view code, const Visit& visit) {
+    sweepSamples(tools(), code, visit);
   }
 
   bool drawParametric(const GraphDef& def) {

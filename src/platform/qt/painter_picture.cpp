@@ -49,9 +49,7 @@ QColor fromRgb(std::int32_t colour) {
 }  // namespace
 
 PainterPicture::PainterPicture(QPainter& painter, QRectF area, QColor background, QColor axes)
-    : painter_(painter), area_(area), background_(background), axes_(axes) {
-  painter_.setRenderHint(QPainter::Antialiasing);
-}
+    : painter_(painter), area_(area), background_(background), axes_(axes) {}
 
 PainterPicture::~PainterPicture() { paintPiece(); }
 
@@ -62,6 +60,7 @@ void PainterPicture::clear() {
 
 void PainterPicture::beginAxes() {
   paintPiece();
+  painter_.setRenderHint(QPainter::Antialiasing, false);  // a pixel wide, and none of it grey
   painter_.setPen(roundPen(axes_, kAxisWidth));
 }
 
@@ -71,6 +70,7 @@ void PainterPicture::line(Point from, Point to) {
 
 void PainterPicture::beginGraph(char, std::int32_t colour) {
   paintPiece();
+  painter_.setRenderHint(QPainter::Antialiasing);
   painter_.setPen(roundPen(fromRgb(colour), kCurveWidth));
   painter_.setBrush(fromRgb(colour));
 }

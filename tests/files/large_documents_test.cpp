@@ -1,0 +1,76 @@
+// Documents of a size that no user makes: reading them takes time and memory in proportion to it.
+
+#include <random>
+
+#include "document_fixture.h"
+
+namespace zel::test {
+namespace {
+
+constexpr std::size_t kLarge = std::size_t{8} << 20;
+
+class LargeDocuments : public DocumentTest {
+ protected:
+  static std::string repeated(std::string_view part) {
+    std::string text;
+    while (text.size() < kLarge) text.append(part);
+    return text;
+  }
+
+  static std::string numberedPairs() {
+    std::string text;
+    for (int i = 0; text.size() < kLarge; ++i) text += std::to_string(i) + "=\r\n";
+    return text;
+  }
+};
+
+TEST_F(LargeDocuments, MayHoldManyHeaderPairs) {
+  ASSERT_TRUE(loadSampleWith("usuario=", numberedPairs() + "usuario="));
+  EXPECT_EQ(header.Item("usuario"), "desconocido");
+}
+
+TEST_F(LargeDocuments, MayHoldManyParametersAndGiveThemBack) {
+  const std::string pairs = numberedPairs();
+  ASSERT_TRUE(loadSampleWith("codigo2=", pairs + "codigo2="));
+  EXPECT_NE(documentText(view, graphs).find(pairs), std::string::npos);
+}
+
+TEST_F(LargeDocuments, MayHoldManyGraphs) {
+  const std::string graph(kSampleGraphs.substr(kSampleGraphs.find("[GRAFICO]\r\n")));
+  ASSERT_TRUE(loadSampleWith("[GRAFICOS PRINCIPAL]\r\n",
+                             "[GRAFICOS PRINCIPAL]\r\n" + repeated(graph + "\r\n")));
+  EXPECT_EQ(letters(), "ab");
+}
+
+TEST_F(LargeDocuments, MayHoldManyLinesBetweenSections) {
+  for (const std::string_view line :
+       {"\r\n", " \r\n", "[PRINCIPAL]\r\n", "[PROPIEDADES]\r\n", "\r", "\n", "="}) {
+    load(std::string(kSampleHead) + repeated(line));
+    EXPECT_EQ(message, std::string_view("No es posible cargar las funciones en memoria porque el "
+                                        "formato del archivo no es el esperado."));
+  }
+}
+
+TEST_F(LargeDocuments, MayRepeatSectionHeadersWhereGraphsAreExpected) {
+  for (const std::string_view line : {"[PROPIEDADES]\r\n", "[PROPIEDADES]\r\n \r\n",
+                                      "[PROPIEDADES]\r\n \r\n[PARAMETROS]\r\n \r\n"})
+    loadSampleWith("[GRAFICOS PRINCIPAL]", "[GRAFICOS PRINCIPAL]\r\n" + repeated(line));
+}
+
+TEST_F(LargeDocuments, MayHoldALongValue) {
+  const std::string value = repeated("x+");
+  ASSERT_TRUE(loadSampleWith("ecuacion=x^2", "ecuacion=" + value));
+  EXPECT_EQ(graphs.codeOf('a'), value);
+}
+
+TEST_F(LargeDocuments, MayBeNoise) {
+  std::mt19937 random(2008);
+  std::string bytes = sampleText();
+  while (bytes.size() < kLarge) bytes += static_cast<char>(random());
+  EXPECT_TRUE(load(bytes));
+  load(bytes.substr(kSampleHead.size()));
+  EXPECT_NE(message, "");
+}
+
+}  // namespace
+}  // namespace zel::test
