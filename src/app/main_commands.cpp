@@ -1,0 +1,153 @@
+#include "app/main_commands.h"
+
+#include <cerrno>
+#include <optional>
+
+#include "app/messages.h"
+#include "base/language.h"
+#include "base/number_text.h"
+#include "base/text.h"
+
+namespace zel {
+namespace {
+
+constexpr std::size_t kTitleCharacters = 16;
+
+/// The first characters of a UTF-8 text.
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+  std::size_t end = 0;
+  for (; end < text.size(); ++end) {
+    const bool begins_character = (static_cast<unsigned char>(text[end]) & 0xC0) != 0x80;
+    if (begins_character && count-- == 0) break;
+  }
+  return text.substr(0, end);
+}
+
+/// An empty box reads as 0.
+std::optional<double> readScale(std::string_view text) {
+  const std::string_view trimmed = trimBlanks(text);
+  return trimmed.empty() ? 0.0 : readNumber(trimmed);
+}
+
+bool keepScales(Program& program, const PlotFields& fields) {
+  const auto x = readScale(fields.escala_x);
+  const auto y = readScale(fields.escala_y);
+  if (!x || !y) return false;
+  program.marks = {*x, *y, scaleIsGiven(fields.escala_x), scaleIsGiven(fields.escala_y)};
+  return true;
+}
+
+void addPlotArguments(Program& program, const PlotFields& fields, FormWindow* caller) {
+  FormParams& params = program.params;
+  params.removeAll();
+  params.Add("xi", *readNumber(fields.xi.text));
+  params.Add("xf", *readNumber(fields.xf.text));
+  params.Add("yi", *readNumber(fields.yi.text));
+  params.Add("yf", *readNumber(fields.yf.text));
+  params.Add("mantener_prop", fields.mantener_prop);
+  params.Add("definicion", fields.definicion);
+  params.Add("llamador", caller);
+}
+
+std::string fileName(const std::string& path) {
+  return path.substr(path.find_last_of("/\\") + 1);
+}
+
+void setDocument(Program& program, const std::string& path) {
+  program.document_path = path;
+  program.document_name = fileName(path);
+}
+
+constexpr std::string_view kDocumentFilter = "Declaraciones ZEL (*.zel)|*.zel";
+
+}  // namespace
+
+std::string mainWindowTitle(const Program& program) {
+  if (program.document_name.empty()) return Localize("ZEL - Datos iniciales");
+  return "ZEL - " + std::string(firstCharacters(program.document_name, kTitleCharacters));
+}
+
+bool scaleIsGiven(std::string_view text) {
+  const std::string_view trimmed = trimBlanks(text);
+  return trimmed != "0" && !trimmed.empty();
+}
+
+bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller) {
+  std::string message;
+  const bool x_increases = checkIncreasing(fields.xi, fields.xf, message);
+  const bool y_increases = checkIncreasing(fields.yi, fields.yf, message);
+  bool shows = x_increases && y_increases && program.graphs.count() >= 1;
+  if (shows && !keepScales(program, fields)) {
+    message = Localize("Datos no válidos en declaraciones y/o rango.");
+    shows = false;
+  }
+  if (shows) addPlotArguments(program, fields, caller);
+  ReportError(program.services.boxes, message);
+  return shows;
+}
+
+bool openDocumentAt(Program& program, const std::string& path, MainView& view) {
+  setDocument(program, path);
+  std::string message;
+  if (loadDocument(path, view, program.graphs, program.header, message)) return true;
+  ShowAttention(program.services.boxes, Localize(openFailureMessage(message)));
+  return false;
+}
+
+bool openDocument(Program& program, MainView& view) {
+  const auto path = program.services.files.askOpen(kDocumentFilter);
+  return path && openDocumentAt(program, *path, view);
+}
+
+void saveDocument(Program& program, const MainView& view) {
+  if (program.document_name.empty()) {
+    saveDocumentAs(program, view);
+    return;
+  }
+  ShowAttention(program.services.boxes,
+                Localize(saveDocument(program.document_path, view, program.graphs)));
+}
+
+void saveDocumentAs(Program& program, const MainView& view) {
+  const auto path = program.services.files.askSave(kDocumentFilter);
+  if (!path) return;
+  setDocument(program, *path);
+  // Whether the file was there before is not looked at here; only a write that failed is told.
+  if (writeDocument(*path, view, program.graphs).written) return;
+  const int error = errno;
+  ShowAttention(program.services.boxes, Localize("Error: No se pudo salvar.") + "\r\n" +
+                                            Localize("Causa: código ") + std::to_string(error));
+}
+
+void newDocument(Program& program) {
+  program.document_name.clear();
+  program.document_path.clear();
+  program.params.removeAll();
+  program.graphs.clearGraphs();
+}
+
+void prepareNewGraph(Program& program, FormWindow* caller) {
+  program.params.removeAll();
+  program.params.Add("modo", std::string("agregar"));
+  program.params.Add("llamador", caller);
+}
+
+void prepareGraphChange(Program& program, char letter, FormWindow* caller) {
+  program.params.removeAll();
+  program.params.Add("nombre", std::string(1, letter));
+  program.params.Add("llamador", caller);
+}
+
+bool deleteGraphs(Program& program, std::string_view letters) {
+  if (letters.empty()) return false;
+  if (program.configuration.confirm_deletion) {
+    const std::string question =
+        Localize("¿Está seguro que desea borrar el elemento seleccionado?");
+    if (program.services.boxes.show(question, "ZEL", BoxStyle::ok_cancel) != BoxAnswer::ok)
+      return false;
+  }
+  for (const char letter : letters) program.graphs.freeGraph(letter);
+  return true;
+}
+
+}  // namespace zel

@@ -1,0 +1,41 @@
+#include "app/messages.h"
+
+#include <string>
+
+#include "base/language.h"
+#include "base/message_table.h"
+
+namespace zel {
+
+void ShowAttention(MessageBoxes& boxes, std::string_view message) {
+  if (message.empty()) return;
+  boxes.show(std::string(message), Localize("ZEL - ATENCIÓN"), BoxStyle::stop);
+}
+
+void ShowInformation(MessageBoxes& boxes, std::string_view message) {
+  boxes.show(Localize(message), Localize("Información"), BoxStyle::cancel_try_again_continue);
+}
+
+void ReportError(MessageBoxes& boxes, std::string_view cause) {
+  if (cause.empty()) return;
+  boxes.show(Localize("No se puede realizar la operación.") + "\r\n" + Localize("Causa: ") +
+                 std::string(cause),
+             Localize("ZEL - Reporte de errores"), BoxStyle::stop);
+}
+
+bool IsKnownUserError(std::string_view text) {
+  const auto holds = [&](std::string_view message) {
+    return text.find(Localize(message)) != std::string_view::npos;
+  };
+  return holds("Error: No se entiende el elemento: ") || holds(messages::kRangeTooClose) ||
+         holds("Error de sintaxis.");
+}
+
+void ReportCriticalError(MessageBoxes& boxes, std::string_view text, char graph) {
+  if (!IsKnownUserError(text)) return;
+  boxes.show(Localize("Operación cancelada.") + "\r\n" + Localize("Causa: ") + std::string(text) +
+                 "\r\n" + Localize("Detalle: gráfico activo ") + graph,
+             Localize("ZEL - Reporte de errores criticos"), BoxStyle::stop);
+}
+
+}  // namespace zel

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "app/desktop.h"
+#include "app/form_params.h"
+#include "app/services.h"
+#include "engine/engine.h"
+#include "files/config.h"
+#include "files/document.h"
+#include "graphs/graph_table.h"
+#include "plot/axes.h"
+
+namespace zel {
+
+/// What the program holds once. main makes it and hands it down; only the current language is
+/// process-wide.
+struct Program {
+  explicit Program(Services platform) : services(platform) {}
+
+  Services services;
+  ProgramPlace place;
+  Configuration configuration;
+  GraphTable graphs;
+  Engine engine{[this](char letter) { return graphs.codeOf(letter); }};
+  FormParams params = makeFormParams();
+  ScaleMarks marks;  // set by the main window, read by the plot window
+  DocumentHeader header;
+  std::string document_name;  // the file name alone; empty when there is no document
+  std::string document_path;
+  std::string help_file;  // the application's; "mEnglish" does not change it, which is meant
+  char active_graph = 'a';  // the graph that is being drawn, for reports
+  std::function<void()> end_process = [] {};
+};
+
+/// How the start goes on after its first steps.
+enum class StartStep {
+  first_start,   // the language is to be chosen
+  presentation,  // the presentation, then the main window
+  ended,         // a message was shown and the process ends
+};
+
+/// The steps of the start before any window: configuration, engine, graphs, arguments, self-test.
+/// A damaged configuration and a failed self-test show their message.
+StartStep startProgram(Program& program);
+
+/// Sets the application's help file by the current language.
+void chooseHelpFile(Program& program);
+
+/// The accept of the language choice: keeps the language and registers the document type.
+void acceptLanguage(Program& program);
+
+/// The language choice was closed without an accept: takes away the empty configuration file that
+/// this start has made, so that the next start asks again.
+void forgetFirstStart();
+
+/// Closes the help viewer, writes the configuration and ends the process at once.
+void shutDown(Program& program);
+
+}  // namespace zel

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the program asks of the platform. Each service is handed in at start, so that tests can
+/// record what was asked and preset the answers. Texts and paths are UTF-8.
+namespace zel {
+
+/// Buttons and icon of a message box, as the platform numbers them.
+enum class BoxStyle {
+  ok_cancel = 1,                 // no icon
+  cancel_try_again_continue = 6,  // no icon
+  stop = 16,                     // stop icon, OK alone
+};
+
+enum class BoxAnswer { ok, cancel, try_again, continue_ };
+
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+  /// Shows a box and waits for its answer; closing it answers `cancel` where there is such a
+  /// button, and `ok` otherwise.
+  virtual BoxAnswer show(const std::string& text, const std::string& title, BoxStyle style) = 0;
+};
+
+class FileDialogs {
+ public:
+  virtual ~FileDialogs() = default;
+  /// The path of an existing file; nothing when the user cancels. The filter has the form
+  /// "Name (*.ext)|*.ext".
+  virtual std::optional<std::string> askOpen(std::string_view filter) = 0;
+  /// A path in an existing folder; asks before a file would be replaced.
+  virtual std::optional<std::string> askSave(std::string_view filter) = 0;
+};
+
+class ColourDialog {
+ public:
+  virtual ~ColourDialog() = default;
+  /// A colour with red in its low byte; nothing when the user cancels.
+  virtual std::optional<std::int32_t> askColour(std::int32_t initial) = 0;
+};
+
+class HelpViewer {
+ public:
+  virtual ~HelpViewer() = default;
+  /// Carries out a help command on a help file; a file that is missing is reported by the viewer.
+  virtual void show(const std::string& help_file, int command) = 0;
+};
+
+/// The root of the platform's document types, as a tree of keys with a default value each.
+class ClassRegistry {
+ public:
+  /// A key that was created or opened; 0 when that failed.
+  using Key = std::uintptr_t;
+
+  virtual ~ClassRegistry() = default;
+  virtual Key createKey(const std::string& name) = 0;
+  /// Sets the default value of a key's subkey, or of the key itself when the subkey is empty.
+  virtual void setValue(Key key, const std::string& subkey, const std::string& value) = 0;
+};
+
+/// A browser driven from outside. Each call may fail, and then returns false.
+class Browser {
+ public:
+  virtual ~Browser() = default;
+  virtual bool start() = 0;
+  virtual bool makeVisible() = 0;
+  virtual bool navigate(const std::string& address) = 0;
+  /// Whether it is still loading.
+  virtual bool isBusy() = 0;
+};
+
+/// A mail client driven from outside, with one new mail.
+class MailClient {
+ public:
+  virtual ~MailClient() = default;
+  virtual bool start() = 0;
+  virtual bool createItem() = 0;
+  virtual bool addRecipient(const std::string& address) = 0;
+  virtual bool setSubject(const std::string& subject) = 0;
+  virtual bool send() = 0;
+};
+
+/// All of them; the objects outlive the program.
+struct Services {
+  MessageBoxes& boxes;
+  FileDialogs& files;
+  ColourDialog& colours;
+  HelpViewer& help;
+  ClassRegistry& registry;
+  Browser& browser;
+  MailClient& mail;
+};
+
+}  // namespace zel

@@ -1,0 +1,92 @@
+#include "app/program.h"
+
+#include "engine/compiler.h"
+#include "program_fixture.h"
+
+namespace zel::test {
+namespace {
+
+class Start : public ProgramTest {};
+
+TEST_F(Start, WithoutAConfigurationIsTheFirstOne) {
+  EXPECT_EQ(startProgram(program), StartStep::first_start);
+  EXPECT_TRUE(std::filesystem::exists("config.ini"));
+  EXPECT_EQ(bytesOf("config.ini"), "");
+  EXPECT_TRUE(services.boxes.shown.empty());
+}
+
+TEST_F(Start, WithAConfigurationGoesOnToThePresentation) {
+  putBytes("config.ini", "EN\r\nTrue");
+  EXPECT_EQ(startProgram(program), StartStep::presentation);
+  EXPECT_EQ(CurrentLanguage(), "EN");
+  EXPECT_TRUE(program.configuration.confirm_deletion);
+  EXPECT_TRUE(services.boxes.shown.empty());
+  EXPECT_EQ(program.params.keys(), std::vector<std::string>{"llamador"});
+  EXPECT_EQ(callerOf(program.params), nullptr);
+}
+
+TEST_F(Start, EndsOnADamagedConfigurationInSpanishInBothLanguages) {
+  const std::string text =
+      "Un error en la configuración impidió que el programa se inicie correctamente.";
+  putBytes("config.ini", "");
+  EXPECT_EQ(startProgram(program), StartStep::ended);
+  putBytes("config.ini", "EN");
+  EXPECT_EQ(startProgram(program), StartStep::ended);
+  EXPECT_EQ(services.boxes.shown,
+            (std::vector<Box>{{text, "ZEL - ATENCIÓN", BoxStyle::stop},
+                              {text, "ZEL - NOTIFY", BoxStyle::stop}}));
+}
+
+TEST_F(Start, EndsWithTheReportOfAFailedSelfTest) {
+  putBytes("config.ini", "ES\r\nFalso");
+  const std::string code = NormaliseFormula("log(x*10-0,2)+sen(90)+sig x!");
+  double value = 0;
+  std::string message;
+  program.engine.Evaluate(1.02, value, code, message);
+  program.engine.Evaluate(1e308, value, code, message);  // a fault that spoils the next value
+  EXPECT_EQ(startProgram(program), StartStep::ended);
+  ASSERT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(services.boxes.shown[0].text.substr(0, 72),
+            "Error: Se ha detectado un problema al probar alguna función en su siste");
+}
+
+TEST_F(Start, KeepsTheChosenLanguageAndRegistersDocuments) {
+  startProgram(program);
+  SetCurrentLanguage("EN");
+  program.place = {"/opt/zel", "zel"};
+  acceptLanguage(program);
+  EXPECT_EQ(bytesOf("config.ini").substr(0, 4), "EN\r\n");
+  EXPECT_EQ(services.registry.values.size(), 4u);
+  EXPECT_EQ(startProgram(program), StartStep::presentation);
+}
+
+TEST_F(Start, ForgetsAFirstStartThatWasNotAccepted) {
+  startProgram(program);
+  forgetFirstStart();
+  EXPECT_FALSE(std::filesystem::exists("config.ini"));
+  putBytes("config.ini", "ES\r\nFalso");
+  forgetFirstStart();
+  EXPECT_TRUE(std::filesystem::exists("config.ini"));
+}
+
+TEST_F(Start, ChoosesTheHelpFileByTheLanguage) {
+  chooseHelpFile(program);
+  EXPECT_EQ(program.help_file, "ayuda_es.hlp");
+  SetCurrentLanguage("EN");
+  EXPECT_EQ(program.help_file, "ayuda_es.hlp");
+  chooseHelpFile(program);
+  EXPECT_EQ(program.help_file, "ayuda_en.hlp");
+}
+
+TEST_F(Start, IsUndoneByClosingHelpWritingTheConfigurationAndEnding) {
+  std::string at_end;
+  program.end_process = [&] { at_end = bytesOf("config.ini"); };
+  SetCurrentLanguage("EN");
+  shutDown(program);
+  EXPECT_EQ(services.help.shown,
+            (std::vector<std::pair<std::string, int>>{{"ayuda_en.hlp", 2}}));
+  EXPECT_EQ(at_end.substr(0, 4), "EN\r\n");
+}
+
+}  // namespace
+}  // namespace zel::test
