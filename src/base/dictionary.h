@@ -1,10 +1,11 @@
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -55,43 +56,47 @@ class KeyedDictionary {
 
   void removeAll() {
     entries_.clear();
-    places_.clear();
+    index_.clear();
   }
 
   auto begin() const { return entries_.begin(); }
   auto end() const { return entries_.end(); }
 
  private:
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view key) const {
-      return std::hash<std::string_view>{}(key);
-    }
-  };
-
   static constexpr std::size_t kMostWalked = 16;
+  static constexpr std::size_t kFree = static_cast<std::size_t>(-1);
 
   /// The count of entries for a key that is missing.
   std::size_t placeOf(std::string_view key) const {
-    if (entries_.size() > kMostWalked) {
-      const auto found = places_.find(key);
-      return found == places_.end() ? entries_.size() : found->second;
-    }
+    if (entries_.size() > kMostWalked) return std::min(index_[slotOf(key)], entries_.size());
     std::size_t place = 0;
     while (place < entries_.size() && entries_[place].key != key) ++place;
     return place;
   }
 
+  /// The slot of the index that holds the key's place, or the free one where it belongs.
+  std::size_t slotOf(std::string_view key) const {
+    const std::size_t mask = index_.size() - 1;
+    std::size_t slot = mask & std::hash<std::string_view>{}(key);
+    while (index_[slot] != kFree && entries_[index_[slot]].key != key) slot = (slot + 1) & mask;
+    return slot;
+  }
+
   void append(std::string_view key, Value value) {
     entries_.push_back({std::string(key), std::move(value)});
     if (entries_.size() <= kMostWalked) return;
-    for (std::size_t place = places_.size(); place < entries_.size(); ++place)
-      places_.emplace(entries_[place].key, place);
+    std::size_t next = entries_.size() - 1;
+    if (index_.size() < 2 * entries_.size()) {
+      index_.assign(std::bit_ceil(4 * entries_.size()), kFree);
+      next = 0;
+    }
+    for (; next < entries_.size(); ++next) index_[slotOf(entries_[next].key)] = next;
   }
 
   std::vector<Entry> entries_;
-  /// Of all entries, once there are more than are walked; empty before.
-  std::unordered_map<std::string, std::size_t, Hash, std::equal_to<>> places_;
+  /// A hash table of the entries' places, once there are more than are walked; empty before. Its
+  /// size is a power of two, and at least half of it is free.
+  std::vector<std::size_t> index_;
 };
 
 }  // namespace zel

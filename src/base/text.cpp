@@ -3,8 +3,6 @@
 namespace zel {
 namespace {
 
-constexpr std::string_view kLineBreak = "\r\n";
-
 char lowerAscii(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
                                               : character;
@@ -75,18 +73,6 @@ std::string_view trimBlanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-std::vector<std::string_view> splitLines(std::string_view text) {
-  std::vector<std::string_view> lines;
-  if (text.empty()) return lines;
-  std::size_t position = 0;
-  for (;;) {
-    const std::size_t found = text.find(kLineBreak, position);
-    lines.push_back(text.substr(position, found - position));
-    if (found == std::string_view::npos) return lines;
-    position = found + kLineBreak.size();
-  }
 }
 
 }  // namespace zel

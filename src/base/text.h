@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 /// Small helpers for UTF-8 text. "Case" is that of the letters of the Windows-1252 code page, which
 /// is all that documents can hold; a "blank" is the character " " and nothing else.
@@ -23,9 +22,5 @@ std::string replaceAllIgnoringCase(std::string_view text, std::string_view from,
                                    std::string_view to);
 
 std::string_view trimBlanks(std::string_view text);
-
-/// The lines of a text, split at CR LF and nowhere else; the views point into `text`. An empty text
-/// has no line; a text that ends in CR LF has an empty last line.
-std::vector<std::string_view> splitLines(std::string_view text);
 
 }  // namespace zel

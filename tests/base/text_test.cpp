@@ -7,8 +7,6 @@
 namespace zel::test {
 namespace {
 
-using Lines = std::vector<std::string_view>;
-
 TEST(Text, LowersTheLettersOfTheCodePage) {
   EXPECT_EQ(toLower("ABC xyz 019"), "abc xyz 019");
   EXPECT_EQ(toLower("ÁÉÍÓÚÜÑÇ ÀÞ"), "áéíóúüñç àþ");
@@ -62,15 +60,6 @@ TEST(Text, TrimsBlanksAndNoOtherWhiteSpace) {
   EXPECT_EQ(trimBlanks("\t a \r\n"), "\t a \r\n");
   EXPECT_EQ(trimBlanks("   "), "");
   EXPECT_EQ(trimBlanks(""), "");
-}
-
-TEST(Text, SplitsLinesAtCrLfOnly) {
-  EXPECT_EQ(splitLines("a\r\nb"), (Lines{"a", "b"}));
-  EXPECT_EQ(splitLines("a\nb\rc"), (Lines{"a\nb\rc"}));
-  EXPECT_EQ(splitLines("a\r\r\n\nb"), (Lines{"a\r", "\nb"}));
-  EXPECT_EQ(splitLines("\r\n\r\n"), (Lines{"", "", ""}));
-  EXPECT_EQ(splitLines("a\r\n"), (Lines{"a", ""}));
-  EXPECT_EQ(splitLines(""), Lines{});
 }
 
 }  // namespace

@@ -112,6 +112,16 @@ class DocumentTest : public ::testing::Test {
     return result;
   }
 
+  /// A load that must fail with this message (empty for an error inside a section), after the old
+  /// graphs were cleared; `left` are the letters that were read before the failure.
+  void expectFailure(bool loaded, std::string_view expected, std::string_view left) {
+    EXPECT_FALSE(loaded);
+    EXPECT_EQ(message, expected);
+    EXPECT_EQ(letters(), left);
+  }
+
+  void putOldGraph() { graphs.rebuildGraph('z', "old", "", 0, 'F', nullptr); }
+
   TemporaryFolder folder;
   std::string path = folder / "sample.zel";
   MainView view;

@@ -33,13 +33,6 @@ char previous(const GraphTable& table, std::optional<char> letter = std::nullopt
   return def ? def->nombre : '!';
 }
 
-std::shared_ptr<Parameters> parametersOf(
-    std::initializer_list<std::pair<const char*, const char*>> pairs) {
-  auto parameters = std::make_shared<Parameters>();
-  for (const auto& [key, value] : pairs) parameters->Add(key, value);
-  return parameters;
-}
-
 TEST(GraphTable, StartsWithTwentySixFreeSlots) {
   const GraphTable table;
   EXPECT_EQ(table.count(), 0);
@@ -107,7 +100,7 @@ TEST(GraphTable, LowersTheCountForAFreeSlotToo) {
 
 TEST(GraphTable, EmptiesEverySlotWhenCleared) {
   GraphTable table = tableWith("az");
-  table.rebuildGraph('m', "m(0;0;1)", "", 255, 'C', parametersOf({{"codigo1", "1"}}));
+  table.rebuildGraph('m', "m(0;0;1)", "", 255, 'C', std::make_shared<Parameters>());
   table.freeGraph('m');
   table.clearGraphs();
   EXPECT_EQ(table.count(), 0);
@@ -193,82 +186,6 @@ TEST(GraphTable, GivesTheCodeOfASlotWhetherOrNotItIsInUse) {
   table.freeGraph('f');
   EXPECT_EQ(table.codeOf('f'), "x+1");
   EXPECT_EQ(table.codeOf('g'), "");
-}
-
-TEST(RebuildGraph, StoresAGraphInUse) {
-  GraphTable table;
-  EXPECT_TRUE(table.rebuildGraph('c', "x^2", "", 16711680, 'F', parametersOf({{"key", "value"}})));
-  const auto def = table.graph('c');
-  EXPECT_TRUE(def->defined);
-  EXPECT_EQ(def->nombre, 'c');
-  EXPECT_EQ(def->ecuacion, "x^2");
-  EXPECT_EQ(def->color, 16711680);
-  EXPECT_EQ(def->tipo, 'F');
-  EXPECT_EQ(def->carpeta, "");
-  EXPECT_EQ(parameter(*def, "key"), "value");
-  EXPECT_EQ(table.count(), 1);
-}
-
-TEST(RebuildGraph, CompilesTheFormulaOfFunctionsAndFamilies) {
-  GraphTable table;
-  for (const char tipo : {'F', 'Z'}) {
-    table.rebuildGraph('a', "Raiz2(X ^ 2)", "ignored", 0, tipo, nullptr);
-    EXPECT_EQ(table.codeOf('a'), "7@(x^2)") << tipo;
-    EXPECT_EQ(table.graph('a')->ecuacion, "Raiz2(X ^ 2)");
-  }
-}
-
-TEST(RebuildGraph, KeepsTheCodeOfAParabola) {
-  GraphTable table;
-  table.rebuildGraph('a', "a(0;0;1)", "(1)*x^2", 0, 'P', nullptr);
-  EXPECT_EQ(table.codeOf('a'), "(1)*x^2");
-}
-
-TEST(RebuildGraph, TakesTheUpperBranchOfAConicAsItsCode) {
-  GraphTable table;
-  for (const char tipo : std::string("CEH")) {
-    table.rebuildGraph('a', "a(0;0;1)", "ignored", 0, tipo,
-                       parametersOf({{"codigo1", "upper"}, {"codigo2", "lower"}}));
-    EXPECT_EQ(table.codeOf('a'), "upper") << tipo;
-  }
-}
-
-TEST(RebuildGraph, CompilesBothFormulasOfAParametricCurveIntoItsParameters) {
-  GraphTable table;
-  const auto parameters = parametersOf({{"ecuacion_xt", "Cos(t)"}, {"ecuacion_yt", "Sen(t)"}});
-  table.rebuildGraph('a', "[X(t)=Cos(t);Y(t)=Sen(t)]", "ignored", 0, 'T', parameters);
-  EXPECT_EQ(table.codeOf('a'), "");
-  EXPECT_EQ(parameters->keys(),
-            (std::vector<std::string>{"ecuacion_xt", "ecuacion_yt", "codigo_xt", "codigo_yt"}));
-  EXPECT_EQ(parameters->Item("codigo_xt"), "11@(t)");
-  EXPECT_EQ(parameters->Item("codigo_yt"), "10@(t)");
-}
-
-TEST(RebuildGraph, RecomputesTheCodesOfAParametricCurveInTheirPlaces) {
-  GraphTable table;
-  const auto parameters =
-      parametersOf({{"codigo_yt", "stale"}, {"ecuacion_xt", "t"}, {"codigo_xt", "stale"}});
-  table.rebuildGraph('a', "", "", 0, 'T', parameters);
-  EXPECT_EQ(parameters->keys(),
-            (std::vector<std::string>{"codigo_yt", "ecuacion_xt", "codigo_xt"}));
-  EXPECT_EQ(parameters->Item("codigo_xt"), "t");
-  EXPECT_EQ(parameters->Item("codigo_yt"), "");
-}
-
-TEST(RebuildGraph, LeavesTheCodeOfAnyOtherKindEmpty) {
-  GraphTable table;
-  for (const char tipo : {'A', 'f', '\0'}) {
-    EXPECT_TRUE(table.rebuildGraph('a', "x", "code", 0, tipo, nullptr));
-    EXPECT_EQ(table.codeOf('a'), "");
-  }
-}
-
-TEST(RebuildGraph, TakesNoDictionaryForAnEmptyOne) {
-  GraphTable table;
-  for (const char tipo : std::string("FPCEHZT")) {
-    EXPECT_TRUE(table.rebuildGraph('a', "x", "code", 0, tipo, nullptr)) << tipo;
-    EXPECT_NE(table.graph('a')->parameters, nullptr);
-  }
 }
 
 }  // namespace

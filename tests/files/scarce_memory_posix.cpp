@@ -1,0 +1,58 @@
+// Loads that need more memory than the process may have, in a child that may have little.
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "document_fixture.h"
+
+namespace zel::test {
+namespace {
+
+constexpr std::size_t kSpare = std::size_t{40} << 20;
+
+/// Bytes of address space; 0 where the system does not say.
+std::size_t usedMemory() {
+  std::size_t pages = 0;
+  std::ifstream("/proc/self/statm") >> pages;
+  return pages * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+}
+
+class ScarceMemory : public DocumentTest {
+ protected:
+  void SetUp() override {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the address sanitizer needs its memory";
+#endif
+    if (usedMemory() == 0) GTEST_SKIP() << "there is no /proc";
+  }
+
+  /// Whether a load of these bytes fails with this message.
+  bool failsWith(std::string_view bytes, std::string_view expected) {
+    putBytes(path, bytes);
+    const pid_t child = ::fork();
+    if (child == 0) {
+      const rlim_t limit = usedMemory() + kSpare;
+      const rlimit limits = {limit, limit};
+      const bool is_limited = ::setrlimit(RLIMIT_AS, &limits) == 0;
+      const bool loaded = loadDocument(path, view, graphs, header, message);
+      ::_exit(is_limited && !loaded && message == expected ? 0 : 1);
+    }
+    int status = 1;
+    ::waitpid(child, &status, 0);
+    return status == 0;
+  }
+};
+
+TEST_F(ScarceMemory, MakesALargeFileOneThatCannotBeRead) {
+  EXPECT_TRUE(failsWith(std::string(2 * kSpare, 'x'), messages::kCannotOpen));
+}
+
+TEST_F(ScarceMemory, StopsADocumentOfManyPairs) {
+  std::string pairs;
+  for (int i = 0; pairs.size() < kSpare / 8; ++i) pairs += std::to_string(i) + "=\r\n";
+  EXPECT_TRUE(failsWith(replaceAll(sampleText(), "usuario=", pairs + "usuario="), ""));
+}
+
+}  // namespace
+}  // namespace zel::test
