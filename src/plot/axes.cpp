@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kNarrowestMarkedRange = 1;
 constexpr double kWidestMarkedRange = 200;
-constexpr double kHalfTick = 40;           // twips
+constexpr double kHalfTick = 40;          // twips
 constexpr double kClosestCounted = 0.01;  // twips from mark to mark
 
 /// One range of the view with its mapping.
@@ -26,8 +26,7 @@ struct MarkedRange {
 template <class Map, class Tick>
 void forEachTwip(const MarkedRange& range, double first_mark, const Map& map, const Tick& tick) {
   const double count = std::floor((range.last - first_mark) / range.distance);
-  if (count < 0)
-    return;
+  if (count < 0) return;
   const double end = map(std::min(first_mark + count * range.distance, range.last));
   const double direction = end < map(first_mark) ? -1 : 1;
   for (double place = map(first_mark); (end - place) * direction >= 0; place += direction)
@@ -44,12 +43,10 @@ void forEachMark(const MarkedRange& range, double first_mark, const Map& map, co
   double previous = std::nan("");
   for (double mark = first_mark; mark <= range.last;) {
     const double place = map(mark);
-    if (place != previous)
-      tick(place);
+    if (place != previous) tick(place);
     previous = place;
     const double next = mark + range.distance;
-    if (next == mark)
-      return;
+    if (next == mark) return;
     mark = next;
   }
 }
@@ -59,15 +56,12 @@ void forEachMark(const MarkedRange& range, double first_mark, const Map& map, co
 template <class Map, class Tick>
 bool drawMarks(const MarkedRange& range, const Map& map, const Tick& tick) {
   const double width = std::fabs(range.last - range.first);
-  if (width < kNarrowestMarkedRange || width > kWidestMarkedRange)
-    return true;
+  if (width < kNarrowestMarkedRange || width > kWidestMarkedRange) return true;
   // From a positive end that is no multiple of the distance, the first mark is off the grid on
   // purpose: marks stand at the end plus its remainder.
   const double first_mark = range.first + FlooredModulo(std::fabs(range.first), range.distance);
-  if (!std::isfinite(first_mark))
-    return false;
-  if (range.distance > 0)
-    forEachMark(range, first_mark, map, tick);
+  if (!std::isfinite(first_mark)) return false;
+  if (range.distance > 0) forEachMark(range, first_mark, map, tick);
   return true;
 }
 
@@ -84,16 +78,14 @@ bool drawAxes(const Viewport& viewport, const ScaleMarks& marks, Picture& pictur
     const MarkedRange range = {view.yi, view.yf, marks.escala_y, viewport.yScale()};
     const auto map = [&](double y) { return viewport.mapY(y); };
     const auto tick = [&](double y) { picture.line({px - kHalfTick, y}, {px + kHalfTick, y}); };
-    if (marks.y_shown && !drawMarks(range, map, tick))
-      return false;
+    if (marks.y_shown && !drawMarks(range, map, tick)) return false;
   }
   if (0 <= py && py <= size.scale_height) {
     picture.line({0, py}, {size.scale_width, py});
     const MarkedRange range = {view.xi, view.xf, marks.escala_x, viewport.xScale()};
     const auto map = [&](double x) { return viewport.mapX(x); };
     const auto tick = [&](double x) { picture.line({x, py - kHalfTick}, {x, py + kHalfTick}); };
-    if (marks.x_shown && !drawMarks(range, map, tick))
-      return false;
+    if (marks.x_shown && !drawMarks(range, map, tick)) return false;
   }
   return true;
 }

@@ -11,12 +11,9 @@ namespace {
 
 RedrawOutcome refusal(RangeVerdict verdict) {
   switch (verdict) {
-    case RangeVerdict::too_close:
-      return RedrawOutcome::too_close;
-    case RangeVerdict::too_large:
-      return RedrawOutcome::too_large;
-    default:
-      return RedrawOutcome::failed;
+    case RangeVerdict::too_close: return RedrawOutcome::too_close;
+    case RangeVerdict::too_large: return RedrawOutcome::too_large;
+    default: return RedrawOutcome::failed;
   }
 }
 
@@ -34,14 +31,11 @@ StatusPanels progressStatus(char letter, int graph_count) {
 
 std::string_view redrawMessage(RedrawOutcome outcome) {
   switch (outcome) {
-    case RedrawOutcome::too_close:
-      return messages::kRangeTooClose;
-    case RedrawOutcome::too_large:
-      return "Error: Los valores del rango son demasiado elevados.";
+    case RedrawOutcome::too_close: return messages::kRangeTooClose;
+    case RedrawOutcome::too_large: return "Error: Los valores del rango son demasiado elevados.";
     case RedrawOutcome::failed:
       return "Error: No se puede graficar con la ecuación y rango elegidos.";
-    default:
-      return {};
+    default: return {};
   }
 }
 
@@ -77,16 +71,12 @@ RedrawOutcome Drawing::drawOnce(Viewport& viewport, const ScaleMarks& marks) {
   in_progress_ = false;  // a curve of an older redraw ends here
   picture_.clear();
   const RangeVerdict verdict = viewport.prepare();
-  if (verdict != RangeVerdict::drawable)
-    return refusal(verdict);
-  if (!drawAxes(viewport, marks, picture_))
-    return RedrawOutcome::failed;
+  if (verdict != RangeVerdict::drawable) return refusal(verdict);
+  if (!drawAxes(viewport, marks, picture_)) return RedrawOutcome::failed;
   screen_.runPendingEvents();
-  if (flag.isAbandoned())
-    return RedrawOutcome::abandoned;
+  if (flag.isAbandoned()) return RedrawOutcome::abandoned;
   const RedrawOutcome outcome = drawGraphs(viewport, flag);
-  if (outcome == RedrawOutcome::drawn)
-    screen_.showStatus(rangeStatus(viewport.view));
+  if (outcome == RedrawOutcome::drawn) screen_.showStatus(rangeStatus(viewport.view));
   return outcome;
 }
 
@@ -94,29 +84,22 @@ RedrawOutcome Drawing::drawGraphs(const Viewport& viewport, Flag& flag) {
   const CurveTools tools = {viewport, engine_, picture_, screen_, flag};
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const auto def = graphs_.graph(letter);
-    if (!def || !def->defined)
-      continue;
+    if (!def || !def->defined) continue;
     screen_.showStatus(progressStatus(letter, graphs_.count()));
     picture_.beginGraph(letter, def->color);
     const bool drawn = drawGraph(tools, *def);
-    if (flag.isAbandoned())
-      return RedrawOutcome::abandoned;
-    if (!drawn)
-      return RedrawOutcome::failed;
+    if (flag.isAbandoned()) return RedrawOutcome::abandoned;
+    if (!drawn) return RedrawOutcome::failed;
     screen_.runPendingEvents();
-    if (flag.isAbandoned())
-      return RedrawOutcome::abandoned;
+    if (flag.isAbandoned()) return RedrawOutcome::abandoned;
   }
   return RedrawOutcome::drawn;
 }
 
 bool Drawing::drawGraph(const CurveTools& tools, const GraphDef& def) {
-  if (isTwoBranch(def))
-    return sweepBranches(tools, def);
-  if (def.tipo == 'Z')
-    return sweepFamily(tools, def);
-  if (def.tipo == 'T')
-    return sweepParametric(tools, def);
+  if (isTwoBranch(def)) return sweepBranches(tools, def);
+  if (def.tipo == 'Z') return sweepFamily(tools, def);
+  if (def.tipo == 'T') return sweepParametric(tools, def);
   sweepFunction(tools, def.codigo);
   return true;
 }

@@ -12,8 +12,7 @@ constexpr double kDotRadius = 20;  // twips
 
 bool sweepParametric(const CurveTools& tools, const GraphDef& def) {
   const auto range = parameterRange(def);
-  if (!range)
-    return false;
+  if (!range) return false;
   const std::string code_x = parameter(def, "codigo_xt");
   const std::string code_y = parameter(def, "codigo_yt");
   std::string message;
@@ -43,8 +42,7 @@ bool sweepParametric(const CurveTools& tools, const GraphDef& def) {
 
 bool sweepFamily(const CurveTools& tools, const GraphDef& def) {
   const auto range = parameterRange(def);
-  if (!range)
-    return false;
+  if (!range) return false;
   tools.in_progress.set(true);
   forEachParameter(*range, [&](double p) {
     tools.engine.SetP(p);

@@ -28,9 +28,7 @@ std::string attribute(const char* name, double value) {
 
 }  // namespace
 
-void SvgPicture::clear() {
-  *this = SvgPicture(width_, height_, max_text_);
-}
+void SvgPicture::clear() { *this = SvgPicture(width_, height_, max_text_); }
 
 void SvgPicture::beginAxes() {
   endGroup();
@@ -39,8 +37,7 @@ void SvgPicture::beginAxes() {
 }
 
 void SvgPicture::line(Point from, Point to) {
-  if (isFull())
-    return;
+  if (isFull()) return;
   body_ += "<line" + attribute("x1", from.x) + attribute("y1", from.y) + attribute("x2", to.x) +
            attribute("y2", to.y) + "/>\n";
 }
@@ -58,21 +55,17 @@ void SvgPicture::startPiece(Point point) {
   appendPoint(point);
 }
 
-void SvgPicture::extendPiece(Point point) {
-  appendPoint(point);
-}
+void SvgPicture::extendPiece(Point point) { appendPoint(point); }
 
 void SvgPicture::dot(Point centre, double radius) {
-  if (isFull())
-    return;
+  if (isFull()) return;
   dots_ += "<circle" + attribute("cx", centre.x) + attribute("cy", centre.y) +
            attribute("r", radius) + "/>\n";
 }
 
 std::string SvgPicture::text() {
   endGroup();
-  if (isFull())
-    return {};
+  if (isFull()) return {};
   const std::string width = std::to_string(width_);
   const std::string height = std::to_string(height_);
   const std::string box = number(width_ * kTwipsPerPixel) + " " + number(height_ * kTwipsPerPixel);
@@ -95,31 +88,25 @@ std::string SvgPicture::text() {
 }
 
 void SvgPicture::endPiece() {
-  if (point_count_ == 0)
-    return;
-  if (point_count_ == 1)
-    points_ += " " + points_;
+  if (point_count_ == 0) return;
+  if (point_count_ == 1) points_ += " " + points_;
   body_ += "<polyline points=\"" + points_ + "\"/>\n";
   points_.clear();
   point_count_ = 0;
 }
 
 void SvgPicture::endGroup() {
-  if (!in_group_)
-    return;
+  if (!in_group_) return;
   endPiece();
-  if (!dots_.empty())
-    styles_ += group_style_;
+  if (!dots_.empty()) styles_ += group_style_;
   body_ += dots_ + "</g>\n";
   dots_.clear();
   in_group_ = false;
 }
 
 void SvgPicture::appendPoint(Point point) {
-  if (isFull())
-    return;
-  if (point_count_ > 0)
-    points_ += ' ';
+  if (isFull()) return;
+  if (point_count_ > 0) points_ += ' ';
   points_ += number(point.x) + "," + number(point.y);
   ++point_count_;
 }

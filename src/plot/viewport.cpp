@@ -14,34 +14,26 @@ PictureSize PictureSize::ofPixels(int width, int height) {
 
 RangeVerdict Viewport::prepare() {
   const auto count = sampleCount();
-  if (!count || (view.mantener_prop && !makeProportional()))
-    return RangeVerdict::failed;
+  if (!count || (view.mantener_prop && !makeProportional())) return RangeVerdict::failed;
   const double x_range = std::fabs(view.xf - view.xi);
   const double y_range = std::fabs(view.yf - view.yi);
-  if (!std::isfinite(x_range) || !std::isfinite(y_range))
-    return RangeVerdict::failed;
+  if (!std::isfinite(x_range) || !std::isfinite(y_range)) return RangeVerdict::failed;
   x_scale_ = size.scale_width / x_range;
   y_scale_ = size.scale_height / y_range;
   x_step_ = x_range / *count;
   y_step_ = y_range / *count;
-  // Ends this close may make the scale a division by zero, but it is their closeness that counts.
-  if (view.xi == view.xf || view.xi + x_step_ == view.xi)
-    return RangeVerdict::too_close;
+  // Equal ends make the scale a division by zero too, but it is their closeness that counts.
+  if (view.xi + x_step_ == view.xi) return RangeVerdict::too_close;
   const double product = y_scale_ * x_scale_ * *count;
   for (const double value : {x_scale_, y_scale_, x_step_, y_step_, view.xi + x_step_, product}) {
-    if (!std::isfinite(value))
-      return RangeVerdict::failed;
+    if (!std::isfinite(value)) return RangeVerdict::failed;
   }
   return product == 0 ? RangeVerdict::too_large : RangeVerdict::drawable;
 }
 
-double Viewport::mapX(double x) const {
-  return std::floor((x - view.xi) * x_scale_);
-}
+double Viewport::mapX(double x) const { return std::floor((x - view.xi) * x_scale_); }
 
-double Viewport::mapY(double y) const {
-  return std::floor((view.yf - y) * y_scale_);
-}
+double Viewport::mapY(double y) const { return std::floor((view.yf - y) * y_scale_); }
 
 bool Viewport::isInside(double x, double y) const {
   return view.xi <= x && x <= view.xf && view.yi <= y && y <= view.yf;
@@ -49,8 +41,7 @@ bool Viewport::isInside(double x, double y) const {
 
 std::optional<std::int16_t> Viewport::sampleCount() const {
   const auto pixels = roundToInt32(size.pixel_width);
-  if (!pixels)
-    return std::nullopt;
+  if (!pixels) return std::nullopt;
   return roundToInt16(static_cast<double>(*pixels / 100) * view.definicion);
 }
 
@@ -60,8 +51,7 @@ bool Viewport::makeProportional() {
   const double c = (view.yf - view.yi) / 2 + view.yi;
   const double yf = c + h / 2;
   const double yi = c - h / 2;
-  if (!std::isfinite(yf) || !std::isfinite(yi))
-    return false;
+  if (!std::isfinite(yf) || !std::isfinite(yi)) return false;
   view.yf = yf;
   view.yi = yi;
   return true;

@@ -32,6 +32,8 @@ struct PictureSize {
 
   /// A picture without a border.
   static PictureSize ofPixels(int width, int height);
+
+  bool operator==(const PictureSize&) const = default;
 };
 
 /// Why a view cannot be drawn.

@@ -229,6 +229,7 @@ TEST_F(Axes, HaveNoMarksAtANegativeDistance) {
 TEST_F(Axes, HaveNoMarksAlongARangeThatStandsUpsideDown) {
   EXPECT_THAT(xMarks(0, -10, 1), IsEmpty());
   EXPECT_THAT(picture.lines(), ElementsAre("0,0 0,1500", "0,750 1500,750"));
+  EXPECT_THAT(xMarks(0, -10, -1), IsEmpty());
   EXPECT_THAT(xMarks(5, -5, 1), IsEmpty());  // 0 lies to the left of 5
   EXPECT_THAT(picture.lines(), ElementsAre("0,750 1500,750"));
 }

@@ -5,7 +5,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 /// 150 twips to a unit, (0, 0) at 750,750, a sample at every integer from -5 to 5.
 class BranchSweep : public CurveTest {
@@ -109,14 +108,21 @@ TEST_F(BranchSweep, JoinsFromThePointDrawnLastWhereAnEndLiesOutside) {
 TEST_F(BranchSweep, TakesTheUpperLeftCornerForAPointThatWasNotDrawn) {
   // Two samples to a twip; the left vertex lies between the first two, and the second maps to 0,0.
   viewport.view = {0, -4.884, 10, 0.116, 3000, false};
-  const Texts pieces = drawCircle("4,00166666666667", "0", "4");
-  ASSERT_THAT(pieces, SizeIs(5));
+  Texts pieces = drawCircle("4,00166666666667", "0", "4");
+  ASSERT_EQ(pieces.size(), 5u);
   EXPECT_EQ(pieces[0], "0,0");
   EXPECT_EQ(pieces[1], "1199,0");
   EXPECT_EQ(pieces[2].substr(0, 15), "0,69 1,94 1,112");
   // Nothing on the left side; the right side is joined all the same.
   EXPECT_EQ(pieces[3], "1199,0 1200,34");
   EXPECT_EQ(pieces[4], "1200,34 1199,69");
+  // A twip lower it is a point like any other.
+  viewport.view.yf += 1.0 / 300;
+  viewport.view.yi += 1.0 / 300;
+  pieces = drawCircle("4,00166666666667", "0", "4");
+  ASSERT_EQ(pieces.size(), 7u);
+  EXPECT_EQ(pieces[3], "0,1 0,35");
+  EXPECT_EQ(pieces[4], "0,35 0,70");
 }
 
 TEST_F(BranchSweep, JoinsThroughAVertexOutsideTheView) {

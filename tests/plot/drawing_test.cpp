@@ -2,15 +2,6 @@
 
 #include "plot_fixture.h"
 
-namespace zel {
-
-inline void PrintTo(RedrawOutcome outcome, std::ostream* out) {
-  constexpr const char* kNames[] = {"drawn", "abandoned", "too_close", "too_large", "failed"};
-  *out << kNames[static_cast<int>(outcome)];
-}
-
-}  // namespace zel
-
 namespace zel::test {
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -21,6 +22,21 @@
 #include "support/language_guard.h"
 #include "support/recorder_picture.h"
 #include "support/recorder_screen.h"
+
+namespace zel {
+
+// For GoogleTest's messages.
+inline void PrintTo(RangeVerdict verdict, std::ostream* out) {
+  constexpr const char* kNames[] = {"drawable", "too_close", "too_large", "failed"};
+  *out << kNames[static_cast<int>(verdict)];
+}
+
+inline void PrintTo(RedrawOutcome outcome, std::ostream* out) {
+  constexpr const char* kNames[] = {"drawn", "abandoned", "too_close", "too_large", "failed"};
+  *out << kNames[static_cast<int>(outcome)];
+}
+
+}  // namespace zel
 
 namespace zel::test {
 

@@ -2,19 +2,9 @@
 
 #include <cmath>
 #include <limits>
-#include <ostream>
 #include <string>
 
-#include <gtest/gtest.h>
-
-namespace zel {
-
-inline void PrintTo(RangeVerdict verdict, std::ostream* out) {
-  constexpr const char* kNames[] = {"drawable", "too_close", "too_large", "failed"};
-  *out << kNames[static_cast<int>(verdict)];
-}
-
-}  // namespace zel
+#include "plot_fixture.h"
 
 namespace zel::test {
 namespace {
