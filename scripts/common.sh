@@ -28,7 +28,8 @@ compile() {
   if [[ -t 1 ]]; then
     cmake --build "$folder" "${options[@]}"
   else
-    cmake --build "$folder" "${options[@]}" -- --quiet | { grep -vE '^-- |^ninja: no work to do' || true; }
+    cmake --build "$folder" "${options[@]}" -- --quiet 2>&1 |
+      { grep -vE '^-- |^ninja: no work to do' || true; }
   fi
 }
 

@@ -40,7 +40,7 @@ class ParseCache {
 
  private:
   bool isValid() const { return !code_.empty(); }
-  bool fits(std::size_t slots) const { return position_ + slots - 1 <= kSlots; }
+  bool fits(std::size_t count) const { return position_ + count - 1 <= kSlots; }
   std::string& next() { return slots_[position_++ - 1]; }
 
   std::array<std::string, kSlots> slots_;

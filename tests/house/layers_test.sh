@@ -12,7 +12,7 @@ for floor in engine graphs files plot app; do
   may_include[$floor]=$below
 done
 may_include[platform]="$below|platform"
-may_include[windows]="$below|windows"
+may_include[windows]="$below|platform|windows"
 may_include[cli]="$below|platform|windows|cli"
 may_include[main.cpp]="$below|platform|windows"
 

@@ -1,9 +1,10 @@
 #include "platform/qt/painter_picture.h"
 
-#include <gtest/gtest.h>
-
 #include <QImage>
+#include <cmath>
 #include <optional>
+
+#include <gtest/gtest.h>
 
 namespace zel::test {
 namespace {
@@ -27,6 +28,8 @@ class Painting : public ::testing::Test {
     if (painter_.isActive()) painter_.end();
     return image_;
   }
+
+  QImage paintedSoFar() const { return image_.copy(); }
 
   int pixelsOf(QColor colour) {
     const QImage& image = finish();
@@ -87,6 +90,40 @@ TEST_F(Painting, ShowsAPieceOfOnePointAsADot) {
   EXPECT_EQ(image.pixelColor(14, 10), QColor(Qt::white));
 }
 
+TEST_F(Painting, DrawsAnAlmostStraightPieceWithoutBlots) {
+  picture->beginGraph('a', 0);
+  picture->startPiece({0, 10 * 15});
+  for (int x = 1; x <= 40; ++x) picture->extendPiece({x * 15.0, 10 * 15.0 + (x > 20 ? 1 : 0)});
+  const QImage& image = finish();
+  for (int x = 2; x < 38; ++x) {
+    EXPECT_GT(image.pixelColor(x, 9).lightness(), 30) << x;
+    EXPECT_NEAR(image.pixelColor(x, 9).lightness(), image.pixelColor(x + 1, 9).lightness(), 30)
+        << x;
+  }
+}
+
+TEST(PaintingDensity, DrawsBothAxesInEquallyManyPixels) {
+  for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0, 2.5, 3.0}) {
+    QImage image(QSize(100, 100), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    QPainter painter(&image);
+    painter.scale(1 / 15.0, 1 / 15.0);
+    PainterPicture picture(painter, QRectF(0, 0, 1500, 1500), Qt::white, Qt::black);
+    picture.clear();
+    picture.beginAxes();
+    picture.line({241, 0}, {241, 1500});
+    picture.line({0, 307}, {1500, 307});
+    int wide = 0;
+    int high = 0;
+    for (int i = 0; i < 100; ++i) {
+      if (image.pixelColor(i, 2) == QColor(Qt::black)) ++wide;
+      if (image.pixelColor(2, i) == QColor(Qt::black)) ++high;
+    }
+    EXPECT_EQ(wide, std::round(ratio)) << ratio;
+    EXPECT_EQ(high, std::round(ratio)) << ratio;
+  }
+}
+
 TEST_F(Painting, FillsADot) {
   picture->beginGraph('a', kBlue);
   picture->dot({20 * 15, 15 * 15}, 5 * 15);
@@ -103,6 +140,17 @@ TEST_F(Painting, GoesOnWithAPieceAfterShowingItSoFar) {
   picture->flush();
   picture->extendPiece({35 * 15, 5 * 15});
   EXPECT_LT(finish().pixelColor(25, 5).blue(), 140);
+}
+
+TEST_F(Painting, ShowingItSoFarPaintsNothingTwice) {
+  picture->beginGraph('a', kRed);
+  picture->startPiece({5.2 * 15, 5.2 * 15});
+  picture->extendPiece({15.2 * 15, 9.2 * 15});
+  picture->flush();
+  const QImage once = paintedSoFar();
+  for (int i = 0; i < 5; ++i) picture->flush();
+  picture->startPiece({30 * 15, 20 * 15});
+  EXPECT_EQ(paintedSoFar(), once);
 }
 
 TEST_F(Painting, DrawsTheVisiblePartOfALineThatLeavesThePlane) {

@@ -131,6 +131,17 @@ TEST_F(SessionEvents, ACloseAfterTheDrawingIsShownIsNoRefusal) {
   EXPECT_EQ(listener.returns, 0);
 }
 
+TEST_F(SessionEvents, ARefusalThatIsOvertakenByAnotherIsNotReported) {
+  viewport.view.xf = viewport.view.xi;
+  listener.on_drawn = [&] {
+    listener.on_drawn = nullptr;
+    openAndDraw();
+  };
+  openAndDraw();
+  EXPECT_EQ(listener.messages.size(), 1u);
+  EXPECT_EQ(listener.returns, 1);
+}
+
 TEST_F(SessionEvents, AtRandomLeaveThePictureOfTheLastView) {
   std::mt19937 random(20080281);
   const ViewSettings views[] = {viewport.view, panned()};

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <QApplication>
+#include <QRegularExpression>
+#include <QString>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include <QApplication>
-#include <QRegularExpression>
-#include <QString>
+#include <gtest/gtest.h>
 
 /// Qt for tests. It is all in this header: a build without Qt has nothing to leave out.
 namespace zel::test {

@@ -38,8 +38,16 @@ void paintClipped(QPainter& painter, QPointF from, QPointF to) {
     painter.drawLine(from + first * delta, from + last * delta);
 }
 
+/// Joins are not round: between two lines that go on almost straight, a painter makes a blot of a
+/// round one.
 QPen roundPen(QColor colour, double width) {
-  return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+  return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin};
+}
+
+/// The width of the axes in whole pixels of the device, so that both are alike on every screen.
+double axisWidth(const QPainter& painter) {
+  const double pixels_per_twip = painter.deviceTransform().m11();
+  return std::max(1.0, std::round(kAxisWidth * pixels_per_twip)) / pixels_per_twip;
 }
 
 QColor fromRgb(std::int32_t colour) {
@@ -55,13 +63,14 @@ PainterPicture::~PainterPicture() { paintPiece(); }
 
 void PainterPicture::clear() {
   piece_.clear();
+  is_continued_ = false;
   painter_.fillRect(area_, background_);
 }
 
 void PainterPicture::beginAxes() {
   paintPiece();
   painter_.setRenderHint(QPainter::Antialiasing, false);  // a pixel wide, and none of it grey
-  painter_.setPen(roundPen(axes_, kAxisWidth));
+  painter_.setPen(roundPen(axes_, axisWidth(painter_)));
 }
 
 void PainterPicture::line(Point from, Point to) {
@@ -97,18 +106,19 @@ void PainterPicture::flush() {
   const QPointF last = piece_.last();
   paintPiece();
   piece_.append(last);
+  is_continued_ = true;
 }
 
 void PainterPicture::paintPiece() {
   if (piece_.size() == 1) {
-    painter_.drawPoint(piece_.first());
+    if (!is_continued_) painter_.drawPoint(piece_.first());
   } else if (std::ranges::all_of(piece_, isNear)) {
     painter_.drawPolyline(piece_);
   } else {
-    for (qsizetype i = 1; i < piece_.size(); ++i)
-      paintClipped(painter_, piece_[i - 1], piece_[i]);
+    for (qsizetype i = 1; i < piece_.size(); ++i) paintClipped(painter_, piece_[i - 1], piece_[i]);
   }
   piece_.clear();
+  is_continued_ = false;
 }
 
 }  // namespace zel

@@ -36,6 +36,7 @@ class PainterPicture : public Picture {
   QColor background_;
   QColor axes_;
   QPolygonF piece_;
+  bool is_continued_ = false;  // the first point of piece_ has been painted
 };
 
 }  // namespace zel

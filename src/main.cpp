@@ -1,0 +1,48 @@
+#include <QApplication>
+#include <QFileInfo>
+#include <cstdio>
+#include <cstdlib>
+
+#include "app/program.h"
+#include "platform/desktop_services.h"
+#include "platform/widgets/program_icon.h"
+#include "platform/widgets/widget_services.h"
+#include "windows/windows.h"
+
+namespace {
+
+/// The command line as the one document that it names: blanks inside a path need no quotes.
+QString commandLine(const QApplication& application) {
+  return application.arguments().mid(1).join(' ');
+}
+
+/// The process ends at once, whatever is still being drawn.
+[[noreturn]] void endProcess() {
+  std::fflush(nullptr);
+  std::_Exit(EXIT_SUCCESS);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("zel");
+  QApplication::setDesktopFileName("zel");
+  QApplication::setWindowIcon(zel::programIcon());
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  const QFileInfo file(QApplication::applicationFilePath());
+  const std::string folder = file.absolutePath().toStdString();
+  zel::WidgetServices widgets(folder);
+  const zel::DesktopServices desktop = zel::makeDesktopServices(file.filePath().toStdString());
+  zel::Program program({widgets.boxes, widgets.files, widgets.colours, widgets.help,
+                        *desktop.registry, *desktop.browser, *desktop.mail});
+  program.place = {folder, file.completeBaseName().toStdString()};
+  program.end_process = endProcess;
+
+  const zel::StartStep step = zel::startProgram(program);
+  if (step == zel::StartStep::ended) return EXIT_FAILURE;
+  zel::Windows windows(program, commandLine(application));
+  windows.begin(step);
+  return QApplication::exec();
+}

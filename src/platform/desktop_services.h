@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/services.h"
+
+namespace zel {
+
+/// What the desktop around the program offers: the free desktop's, or Windows'.
+struct DesktopServices {
+  std::unique_ptr<ClassRegistry> registry;
+  std::unique_ptr<Browser> browser;
+  std::unique_ptr<MailClient> mail;
+};
+
+/// `program_path` is the program's file, for platforms that open a document by a command of their
+/// own making.
+DesktopServices makeDesktopServices(const std::string& program_path);
+
+}  // namespace zel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zel {
+
+/// Where help files may lie, in the order in which they are looked for: beside the program, where
+/// an installation puts them, and in the sources that the program was built from.
+std::vector<std::string> helpFolders(const std::string& program_folder);
+
+/// The text of the first file of this name; nothing when no folder has one, or for an empty name.
+std::optional<std::string> readHelpFile(const std::vector<std::string>& folders,
+                                        const std::string& name);
+
+}  // namespace zel

@@ -1,0 +1,96 @@
+#include "platform/widgets/widget_file_dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+
+#include "platform/widgets/dialog_filter.h"
+#include "platform/widgets/qt_texts.h"
+
+namespace zel {
+namespace {
+
+QString toQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString fileName(const std::string& path) { return QFileInfo(toQt(path)).fileName(); }
+
+/// A question or a remark about a path, its two texts with "%1" for the file's name.
+std::string aboutFile(const std::string& path, const char* spanish, const char* english) {
+  return inLanguage(spanish, english).arg(fileName(path)).toStdString();
+}
+
+}  // namespace
+
+std::optional<std::string> WidgetFileDialogs::askOpen(std::string_view filter) {
+  std::optional<std::string> path = ask(filter, Mode::open, {});
+  while (path && !mayOpen(*path)) path = ask(filter, Mode::open, {});
+  return path;
+}
+
+std::optional<std::string> WidgetFileDialogs::askSave(std::string_view filter) {
+  const std::string ending = filterEnding(filter);
+  std::string proposal;
+  for (;;) {
+    const std::optional<std::string> chosen = ask(filter, Mode::save, proposal);
+    if (!chosen) return std::nullopt;
+    std::string path = withEnding(*chosen, ending);
+    if (maySave(path)) return path;
+    proposal = fileName(path).toStdString();
+  }
+}
+
+bool WidgetFileDialogs::mayOpen(const std::string& path) {
+  if (QFileInfo(toQt(path)).isFile()) return true;
+  boxes_.show(aboutFile(path, "No existe el archivo «%1».", "The file “%1” does not exist."), "ZEL",
+              BoxStyle::stop);
+  return false;
+}
+
+bool WidgetFileDialogs::maySave(const std::string& path) {
+  const QFileInfo file(toQt(path));
+  if (!file.dir().exists()) {
+    boxes_.show(inLanguage("No existe la carpeta «%1».", "The folder “%1” does not exist.")
+                    .arg(QDir::toNativeSeparators(file.path()))
+                    .toStdString(),
+                "ZEL", BoxStyle::stop);
+    return false;
+  }
+  if (!file.exists()) return true;
+  const std::string question =
+      aboutFile(path, "El archivo «%1» ya existe.\r\n¿Desea reemplazarlo?",
+                "The file “%1” already exists.\r\nDo you want to replace it?");
+  return boxes_.show(question, "ZEL", BoxStyle::ok_cancel) == BoxAnswer::ok;
+}
+
+std::optional<std::string> WidgetFileDialogs::ask(std::string_view filter, Mode mode,
+                                                  const std::string& proposal) {
+  const bool saves = mode == Mode::save;
+  // The dialog goes away with the window below it, wherever that may be taken down.
+  const QPointer<QFileDialog> dialog = new QFileDialog(QApplication::activeWindow());
+  dialog->setWindowTitle(saves ? inLanguage("Guardar como", "Save As")
+                               : inLanguage("Abrir", "Open"));
+  dialog->setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog->setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  // We ask ourselves, and in the program's language, once the ending is there.
+  dialog->setOption(QFileDialog::DontConfirmOverwrite);
+  QStringList filters;
+  for (const std::string& each : dialogFilters(filter)) filters << toQt(each);
+  dialog->setNameFilters(filters);
+  dialog->setDirectory(folder_.empty() ? QDir::currentPath() : toQt(folder_));
+  if (!proposal.empty()) dialog->selectFile(toQt(proposal));
+  const bool accepted = dialog->exec() == QDialog::Accepted;
+  std::optional<std::string> path;
+  if (dialog && accepted && !dialog->selectedFiles().isEmpty()) {
+    path = dialog->selectedFiles().constFirst().toStdString();
+    const QFileInfo file(toQt(*path));
+    if (file.dir().exists()) folder_ = file.absolutePath().toStdString();
+  }
+  delete dialog;
+  return path;
+}
+
+}  // namespace zel

@@ -1,0 +1,40 @@
+#include "windows/form.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include "base/language.h"
+
+namespace zel {
+
+QString toQt(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::string fromQt(const QString& text) { return text.toStdString(); }
+
+QString caption(const char* spanish, const char* english) {
+  return QString::fromUtf8(CurrentLanguage() == "EN" ? english : spanish);
+}
+
+QPixmap windowIconPixmap(int side) { return QApplication::windowIcon().pixmap(side); }
+
+Form::Form(Program& program, const char* name) : program_(program) {
+  setObjectName(QString::fromLatin1(name));
+}
+
+void Form::showForm() {
+  caller_ = callerOf(program_.params);
+  if (CurrentLanguage() == "ES" || CurrentLanguage() == "EN") ApplyLanguage();
+  takeArguments();
+  show();
+  raise();
+  activateWindow();
+}
+
+void Form::returnToCaller() {
+  hide();
+  if (caller_) caller_->showForm();
+}
+
+}  // namespace zel

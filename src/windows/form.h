@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPixmap>
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "app/form_params.h"
+#include "app/program.h"
+
+namespace zel {
+
+QString toQt(std::string_view utf8);
+std::string fromQt(const QString& text);
+
+/// One of two literal captions by the current language. Any other language keeps what a window was
+/// designed with, which is Spanish.
+QString caption(const char* spanish, const char* english);
+
+/// The program's icon, so many logical pixels wide.
+QPixmap windowIconPixmap(int side);
+
+/// A window of the program: a single instance, hidden and not destroyed when it is closed.
+class Form : public QMainWindow, public FormWindow {
+  Q_OBJECT
+
+ public:
+  /// The program outlives its windows. The object name is the window's given name.
+  Form(Program& program, const char* name);
+
+  /// Assigns every caption of the window from its own two literal sets, by the current language.
+  virtual void ApplyLanguage() = 0;
+
+  /// Takes the arguments out of FormParams and shows the window, or brings it to the front. Its
+  /// captions are in the current language then.
+  void showForm() override;
+
+ protected:
+  /// Called by showForm before the window is shown: reads FormParams.
+  virtual void takeArguments() {}
+
+  /// Hides this window and shows the one under "llamador", as it was when this one was shown.
+  void returnToCaller();
+
+  Program& program() { return program_; }
+  const Program& program() const { return program_; }
+  void setCaller(FormWindow* caller) { caller_ = caller; }
+
+ private:
+  Program& program_;
+  FormWindow* caller_ = nullptr;
+};
+
+}  // namespace zel

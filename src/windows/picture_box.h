@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QWidget>
+#include <optional>
+
+#include "platform/qt/painter_picture.h"
+
+namespace zel {
+
+/// A widget with a picture that lasts: an expose shows what was drawn, and nobody is asked to draw
+/// again. Geometry is in twips, 15 to a logical pixel; the image has the pixels of the device. What
+/// is being drawn is seen at showDrawn and showProgress only, so a redraw that is quick does not
+/// flicker. The picture is white paper in every palette, because the colours of graphs are chosen
+/// for it.
+class PictureBox : public QWidget, public Picture {
+  Q_OBJECT
+
+ public:
+  static constexpr int kProgressInterval = 50;  // milliseconds
+
+  explicit PictureBox(QWidget* parent = nullptr);
+
+  /// Makes an image of the widget's present size where there is another, also while something else
+  /// is being drawn.
+  void clear() override;
+  void beginAxes() override { picture_->beginAxes(); }
+  void line(Point from, Point to) override { picture_->line(from, to); }
+  void beginGraph(char letter, std::int32_t colour) override;
+  void startPiece(Point point) override { picture_->startPiece(point); }
+  void extendPiece(Point point) override { picture_->extendPiece(point); }
+  void dot(Point centre, double radius) override { picture_->dot(centre, radius); }
+
+  /// Shows what has been drawn so far.
+  void showDrawn();
+  /// The same for a drawing that takes long, at most once in each interval from its beginning.
+  void showProgress();
+
+  /// A copy of what has been drawn so far.
+  QImage image();
+
+ signals:
+  void graphBegun(char letter);
+  /// A character code: 27 for Esc.
+  void KeyPress(char32_t key);
+  /// The device has another resolution than the image, which should be drawn again.
+  void resolutionChanged();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void makeImage();
+  void noticeResolution();
+
+  QImage drawn_;
+  QPainter painter_;                       // on drawn_
+  std::optional<PainterPicture> picture_;  // by painter_; always there
+  QImage shown_;
+  QElapsedTimer since_shown_;
+  bool is_stale_ = false;  // resolutionChanged was emitted
+};
+
+}  // namespace zel

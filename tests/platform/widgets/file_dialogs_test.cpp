@@ -1,0 +1,143 @@
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/widgets/modal_driver.h"
+#include "platform/widgets/widget_file_dialogs.h"
+#include "support/fake_services.h"
+#include "support/language_guard.h"
+#include "support/qt_application.h"
+#include "support/temporary_folder.h"
+
+namespace zel::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using Step = std::function<void(QFileDialog&)>;
+
+constexpr const char* kZel = "Declaraciones ZEL (*.zel)|*.zel";
+
+/// Types a name and accepts.
+Step type(const std::string& name) {
+  return [name](QFileDialog& dialog) {
+    auto* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(field, nullptr);
+    field->setText(QString::fromStdString(name));
+    emit field->textEdited(field->text());  // the list is to select no other file
+    QTest::keyClick(field, Qt::Key_Return);
+  };
+}
+
+const Step kCancel = [](QFileDialog& dialog) { dialog.reject(); };
+
+class FileDialogsOfWidgets : public ::testing::Test {
+ protected:
+  FileDialogsOfWidgets() {
+    application();
+    std::filesystem::create_directory(folder_ / "inner");
+    putBytes(folder_ / "old.zel", "x");
+  }
+
+  std::optional<std::string> open(const std::vector<Step>& steps) {
+    const ModalDriver<QFileDialog> driver(steps);
+    return files.askOpen(kZel);
+  }
+  std::optional<std::string> save(const std::vector<Step>& steps) {
+    const ModalDriver<QFileDialog> driver(steps);
+    return files.askSave(kZel);
+  }
+
+  LanguageGuard language_{"ES"};
+  TemporaryFolder folder_;
+  CurrentFolderGuard current_{folder_.path()};
+  FakeMessageBoxes boxes;
+  WidgetFileDialogs files{boxes};
+};
+
+TEST_F(FileDialogsOfWidgets, OpenAnExistingFile) {
+  EXPECT_EQ(open({[](QFileDialog& dialog) {
+              EXPECT_EQ(dialog.windowTitle(), "Abrir");
+              EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+              EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+              EXPECT_EQ(dialog.nameFilters(), QStringList("Declaraciones ZEL (*.zel)"));
+              type("old.zel")(dialog);
+            }}),
+            folder_ / "old.zel");
+}
+
+TEST_F(FileDialogsOfWidgets, GiveNothingWhenCancelled) {
+  EXPECT_EQ(open({kCancel}), std::nullopt);
+  EXPECT_EQ(save({kCancel}), std::nullopt);
+}
+
+TEST_F(FileDialogsOfWidgets, SpeakTheCurrentLanguage) {
+  SetCurrentLanguage("EN");
+  open({[](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Open");
+    dialog.reject();
+  }});
+  save({[](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "Save As");
+    dialog.reject();
+  }});
+}
+
+TEST_F(FileDialogsOfWidgets, AppendTheEndingToANewFile) {
+  EXPECT_EQ(save({type("new")}), folder_ / "new.zel");
+  EXPECT_EQ(save({type("new.zel")}), folder_ / "new.zel");
+  EXPECT_EQ(save({type("new.txt")}), folder_ / "new.txt");
+  EXPECT_THAT(boxes.shown, IsEmpty());
+}
+
+TEST_F(FileDialogsOfWidgets, AskBeforeAFileIsReplaced) {
+  boxes.answers = {BoxAnswer::ok};
+  EXPECT_EQ(save({type("old.zel")}), folder_ / "old.zel");
+  EXPECT_THAT(boxes.shown, ElementsAre(FakeMessageBoxes::Box{
+                               "El archivo «old.zel» ya existe.\r\n¿Desea reemplazarlo?", "ZEL",
+                               BoxStyle::ok_cancel}));
+}
+
+TEST_F(FileDialogsOfWidgets, AskForTheNameThatTheEndingMakes) {
+  boxes.answers = {BoxAnswer::ok};
+  EXPECT_EQ(save({type("old")}), folder_ / "old.zel");
+  EXPECT_EQ(boxes.shown.size(), 1U);
+}
+
+TEST_F(FileDialogsOfWidgets, ComeAgainWhenAFileIsNotToBeReplaced) {
+  boxes.answers = {BoxAnswer::cancel};
+  EXPECT_EQ(save({type("old"),
+                  [&](QFileDialog& dialog) {
+                    EXPECT_EQ(dialog.selectedFiles(),
+                              QStringList(QString::fromStdString(folder_ / "old.zel")));
+                    dialog.reject();
+                  }}),
+            std::nullopt);
+  EXPECT_EQ(boxes.shown.size(), 1U);
+}
+
+TEST_F(FileDialogsOfWidgets, WantAnExistingFolder) {
+  SetCurrentLanguage("EN");
+  EXPECT_EQ(save({type("nowhere/new"), kCancel}), std::nullopt);
+  ASSERT_EQ(boxes.shown.size(), 1U);
+  EXPECT_EQ(boxes.shown.front().text, "The folder “" + (folder_ / "nowhere") + "” does not exist.");
+}
+
+TEST_F(FileDialogsOfWidgets, BeginInTheFolderOfTheLastChoice) {
+  EXPECT_EQ(save({type("inner/new")}), folder_ / "inner/new.zel");
+  EXPECT_EQ(save({[&](QFileDialog& dialog) {
+              EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder_ / "inner");
+              dialog.reject();
+            }}),
+            std::nullopt);
+}
+
+}  // namespace
+}  // namespace zel::test

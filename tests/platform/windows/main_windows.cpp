@@ -1,0 +1,64 @@
+// windows_probe: uses the adapters of Windows as the program does and tells what came of it.
+//   register FOLDER LANGUAGE   registers the document type of a program in FOLDER
+//   missing                    drives a browser and a mail client that are not installed
+//   automation                 drives recorders in their place
+
+#include <iostream>
+#include <string>
+
+#include "app/desktop.h"
+#include "base/language.h"
+#include "platform/desktop_services.h"
+#include "platform/windows/automation_browser.h"
+#include "platform/windows/automation_mail_client.h"
+#include "platform/windows/automation_recorder.h"
+
+namespace zel::test {
+namespace {
+
+int registerIn(const std::string& folder, const std::string& language) {
+  SetCurrentLanguage(language);
+  const DesktopServices services = makeDesktopServices("");
+  // Neither is a failure of one of its calls looked at.
+  services.registry->setValue(services.registry->createKey("\\"), "x", "y");
+  std::cout << (registerZelDocuments(*services.registry, {folder, "zel"}) ? "true" : "false")
+            << "\n";
+  return 0;
+}
+
+int driveMissing() {
+  AutomationBrowser browser("Zel.NoSuchProgram");
+  std::cout << browser.start() << browser.makeVisible() << browser.navigate("about:blank")
+            << browser.isBusy() << "\n";
+  AutomationMailClient mail("Zel.NoSuchProgram");
+  std::cout << mail.start() << mail.createItem() << mail.addRecipient("a@b") << mail.setSubject("c")
+            << mail.send() << "\n";
+  OpenWebPage(browser);
+  SendMailToMaker(mail);
+  std::cout << "quiet\n";
+  return 0;
+}
+
+int driveRecorders() {
+  const ComSession session;
+  const AutomationRecorder recorder("Zel.Recorder", "Busy", 2);
+  if (!recorder.isReady()) return 1;
+  AutomationBrowser browser("Zel.Recorder");
+  OpenWebPage(browser);
+  AutomationMailClient mail("Zel.Recorder");
+  SendMailToMaker(mail);
+  for (const std::string& call : recorder.calls()) std::cout << call << "\n";
+  return 0;
+}
+
+}  // namespace
+}  // namespace zel::test
+
+int main(int argument_count, char** arguments) {
+  const std::string command = argument_count > 1 ? arguments[1] : "";
+  if (command == "register" && argument_count == 4)
+    return zel::test::registerIn(arguments[2], arguments[3]);
+  if (command == "missing") return zel::test::driveMissing();
+  if (command == "automation") return zel::test::driveRecorders();
+  return 2;
+}

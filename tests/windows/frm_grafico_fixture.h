@@ -1,0 +1,125 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/plot_arguments.h"
+#include "graphs/graph_builders.h"
+#include "support/fake_services.h"
+#include "support/language_guard.h"
+#include "support/qt_application.h"
+#include "windows/frm_grafico.h"
+#include "windows/picture_box.h"
+
+namespace zel::test {
+
+/// The window that the plot window goes back to.
+class CallerForm : public FormWindow {
+ public:
+  explicit CallerForm(const Program& program) : program_(program) {}
+  void showForm() override {
+    ++shown;
+    received = program_.params;
+    if (on_show) on_show();
+  }
+
+  int shown = 0;
+  FormParams received;
+  std::function<void()> on_show;
+
+ private:
+  const Program& program_;
+};
+
+/// The real plot window, offscreen.
+class GraficoTest : public ::testing::Test {
+ protected:
+  GraficoTest() {
+    program.engine.InitEngine();
+    picture = window.findChild<PictureBox*>("picGrafico");
+    QObject::connect(picture, &PictureBox::graphBegun, [this](char letter) { begun += letter; });
+  }
+
+  /// Shows the window as the main window does, and lets it draw.
+  void open(const ViewSettings& asked) {
+    FormParams& params = program.params;
+    handViewOver(params, asked, &caller);
+    params.Add("mantener_prop", asked.mantener_prop);
+    window.showForm();
+    settle();
+  }
+
+  /// Lets all that is pending run, what it leads to included.
+  static void settle() {
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+  }
+
+  /// Does something while a long drawing is under way. Call it before the drawing begins.
+  template <class Happening>
+  void later(int milliseconds, const Happening& happening) {
+    QTimer::singleShot(milliseconds, &window, happening);
+  }
+
+  void addFunction(char letter, const std::string& formula, std::int32_t colour = 0x0000FF) {
+    program.graphs.rebuildGraph(letter, formula, "", colour, 'F', nullptr);
+  }
+
+  /// A family that goes on until it is stopped. A test that forgets to stop it fails.
+  void addEndlessFamily(char letter) {
+    std::string message;
+    const auto field = [](const char* text) { return Field{text, "campo"}; };
+    ASSERT_EQ(acceptGraph(program.graphs, program.engine, letter, 0xFF0000,
+                          FamilyFields{field("P+x"), field("0"), field("1"), field("0")}, message),
+              Accepted::stored);
+    rescue_.setSingleShot(true);
+    QObject::connect(&rescue_, &QTimer::timeout, [this] {
+      ADD_FAILURE() << "The drawing goes on without end.";
+      program.graphs.clearGraphs();
+      window.close();
+    });
+    rescue_.start(10000);
+  }
+
+  void press(Qt::Key key) { QTest::keyClick(picture, key); }
+
+  /// The texts of the visible panels.
+  std::vector<std::string> panels() const {
+    std::vector<std::string> result;
+    for (int i = 1; i <= 4; ++i) {
+      const auto* panel = window.findChild<QLabel*>("StatusBar1_Panel" + QString::number(i));
+      if (panel->isVisible()) result.push_back(fromQt(panel->text()));
+    }
+    return result;
+  }
+
+  static int pixelsThatAreNotWhite(const QImage& image) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (image.pixelColor(x, y) != QColor(Qt::white)) ++count;
+    return count;
+  }
+
+  QApplication& app = application();
+  LanguageGuard language{"ES"};
+  FakeServices services;
+  Program program{services.services()};
+  CallerForm caller{program};
+  frmGrafico window{program};
+  PictureBox* picture = nullptr;
+  std::string begun;  // the letters of the graphs that were begun
+  ViewSettings view{-10, -10, 10, 10, 10, false};
+
+ private:
+  QTimer rescue_;
+};
+
+}  // namespace zel::test

@@ -1,0 +1,109 @@
+#!/usr/bin/env bash
+# The real program as a user meets it: the first start, the choice of English, a function declared,
+# plotted and saved, and the document opened again from the command line.
+set -uo pipefail
+zel=$(dirname "$1")/zel
+[[ -x $zel ]] || { echo "no desktop program in this build"; exit 77; }
+for tool in Xvfb openbox xdotool import; do
+  command -v "$tool" >/dev/null || { echo "no $tool"; exit 77; }
+done
+
+work=$(mktemp -d)
+export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
+export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none
+unset LC_ALL LC_MESSAGES WAYLAND_DISPLAY
+export LANG=en_US.UTF-8
+mkdir -m 700 "$work/run"
+cd "$work/run" || exit 1
+exec 8>"$work/display"
+Xvfb -displayfd 8 -screen 0 1280x1024x24 >"$work/xvfb.log" 2>&1 &
+server=$!
+exec 8>&-
+program=
+trap 'kill $program $manager $server 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
+manager=
+for _ in $(seq 100); do [[ -s $work/display ]] && break; sleep 0.1; done
+DISPLAY=:$(<"$work/display")
+export DISPLAY
+openbox >"$work/openbox.log" 2>&1 &
+manager=$!
+
+fail() {
+  echo "failed: $1"
+  xdotool search --onlyvisible --name . getwindowname %@ 2>/dev/null
+  cat "$work/zel.log" "$work/openbox.log"
+  [[ -z ${SMOKE_PICTURE:-} ]] || import -window root "$SMOKE_PICTURE"
+  exit 1
+}
+
+# window TITLE: waits until a visible window has this title (a regular expression), and focuses it.
+window() {
+  local id
+  for _ in $(seq 100); do
+    id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -n 1)
+    if [[ -n $id ]] && xdotool windowactivate --sync "$id" 2>/dev/null; then
+      sleep 0.2
+      return
+    fi
+    sleep 0.1
+  done
+  fail "no window '$1'"
+}
+
+keys() { xdotool key --delay 60 "$@"; }
+start() {
+  "$zel" "$@" >"$work/zel.log" 2>&1 &
+  program=$!
+}
+ended() {
+  for _ in $(seq 100); do
+    kill -0 "$program" 2>/dev/null || break
+    sleep 0.1
+  done
+  kill -0 "$program" 2>/dev/null && fail "the program does not end"
+  wait "$program"
+  [[ $? -eq 0 ]] || fail "the program ended badly"
+}
+
+start
+window 'ZEL - (Idioma|Language)'
+keys Down
+window 'ZEL - Language'
+keys Return
+window 'ZEL'
+keys Return
+window 'ZEL - Graphic manager'
+keys alt+a
+window '.*[Gg]raphic.*'
+xdotool type --delay 40 '7*sen(60*x)'
+keys Return
+window 'ZEL - Graphic manager'
+keys alt+g
+window 'ZEL - Graphics'
+sleep 0.5
+import -window root "$work/plot.png"
+[[ $(convert "$work/plot.png" -unique-colors -format '%w' info:) -gt 20 ]] || fail "an empty plot"
+keys alt+F4
+window 'ZEL - Graphic manager'
+keys ctrl+shift+s
+sleep 1
+xdotool type --delay 40 "$work/smoke.zel"
+keys Return
+window 'ZEL - smoke.zel'
+grep -q '^ecuacion=7\*sen(60\*x)' "$work/smoke.zel" || fail "the document does not hold the function"
+keys ctrl+q
+ended
+grep -q '^EN' config.ini || fail "the language was not kept"
+
+start "$work/smoke.zel"
+window 'ZEL'
+keys Return
+window 'ZEL - smoke.zel'
+keys alt+g
+window 'ZEL - Graphics'
+keys alt+F4
+window 'ZEL - smoke.zel'
+keys ctrl+q
+ended
+grep -vE '^$' "$work/zel.log" && fail "the program complained"
+exit 0
