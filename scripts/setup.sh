@@ -6,8 +6,8 @@ set -euo pipefail
 declare -A groups=(
   [build]="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n libcli11-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev"
-  [test]="desktop-file-utils g++-mingw-w64-x86-64-posix git libglib2.0-bin libxml2-utils locales
-    poppler-utils python3 shared-mime-info strace xdg-utils"
+  [test]="desktop-file-utils g++-mingw-w64-x86-64-posix git imagemagick libglib2.0-bin libxml2-utils
+    locales openbox poppler-utils python3 shared-mime-info strace x11-utils xdg-utils xdotool xvfb"
   [wine]="wine64"
   [bench]="python3 x11-utils xvfb"
   [fuzz]="clang libclang-rt-14-dev"

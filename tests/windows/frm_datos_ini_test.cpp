@@ -203,12 +203,14 @@ TEST_F(MainWindow, OpensTheEditorForANewGraphAndForTheSelectedOne) {
 
 TEST_F(MainWindow, AnswersToTheMnemonicsOfItsButtons) {
   window.showForm();
-  QTest::keyClick(&window, Qt::Key_A, Qt::AltModifier);
-  EXPECT_EQ(editor.shown, 1);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto& box = control<QLineEdit>(window, "txtRanXf");
+  QTest::keyClick(&box, Qt::Key_A, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return editor.shown == 1; }));
   choose("mEnglish");
   addFunction('a', "x");
-  QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
-  EXPECT_EQ(plot.shown, 1);
+  QTest::keyClick(&box, Qt::Key_G, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return plot.shown == 1; }));
 }
 
 TEST_F(MainWindow, DeletesEverySelectedGraph) {

@@ -4,7 +4,7 @@
 set -uo pipefail
 zel=$(dirname "$1")/zel
 [[ -x $zel ]] || { echo "no desktop program in this build"; exit 77; }
-for tool in Xvfb openbox xdotool import; do
+for tool in Xvfb openbox xdotool xprop import; do
   command -v "$tool" >/dev/null || { echo "no $tool"; exit 77; }
 done
 
@@ -27,6 +27,11 @@ DISPLAY=:$(<"$work/display")
 export DISPLAY
 openbox >"$work/openbox.log" 2>&1 &
 manager=$!
+# A window that is mapped while the manager starts is lost.
+for _ in $(seq 100); do
+  xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+  sleep 0.1
+done
 
 fail() {
   echo "failed: $1"
