@@ -96,7 +96,7 @@ void frmDatosIni::buildControls() {
   columns->addWidget(buildGraphs(), 1);
   columns->addLayout(settings);
   setCentralWidget(centre);
-  constexpr int kRoomForFormulas = 160;  // beside what the controls need
+  constexpr int kRoomForFormulas = 260;  // beside what the controls need
   resize(sizeHint() + QSize(kRoomForFormulas, 0));
 }
 

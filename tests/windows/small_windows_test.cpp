@@ -72,6 +72,14 @@ TEST_F(PresentationWindow, ShowsTheLanguageThatWasChosenMeanwhile) {
   EXPECT_EQ(fromQt(control<QPushButton>(window, "bCerrar").text()), "Close");
 }
 
+TEST_F(PresentationWindow, NamesItsButtonInBothLanguages) {
+  for (const char* language : {"ES", "EN"}) {
+    SetCurrentLanguage(language);
+    window.ApplyLanguage();
+    expectAccessibleNames(window);
+  }
+}
+
 class LanguageWindow : public WindowTest {
  protected:
   LanguageWindow() {
@@ -118,7 +126,11 @@ TEST_F(LanguageWindow, IsAcceptedWithEnterAndRefusedWithEscape) {
   EXPECT_EQ(refusals, 1);
 }
 
-TEST_F(LanguageWindow, NamesItsControls) { expectAccessibleNames(window); }
+TEST_F(LanguageWindow, NamesItsControlsInBothLanguages) {
+  expectAccessibleNames(window);
+  option(1).click();
+  expectAccessibleNames(window);
+}
 
 class AboutBox : public WindowTest {
  protected:
@@ -169,6 +181,14 @@ TEST_F(PrintWindow, HasItsCaptionsInBothLanguages) {
   EXPECT_EQ(fromQt(control<QPushButton>(window, "cmdSalir").text()), "&Close");
   EXPECT_EQ(fromQt(control<QGroupBox>(window, "FraVistaPrevia").title()), "Preview");
   EXPECT_EQ(fromQt(control<QLabel>(window, "LblMensaje").text()), "initializing...");
+}
+
+TEST_F(PrintWindow, NamesItsControlsInBothLanguages) {
+  for (const char* language : {"ES", "EN"}) {
+    SetCurrentLanguage(language);
+    window.ApplyLanguage();
+    expectAccessibleNames(window);
+  }
 }
 
 TEST_F(PrintWindow, StaysHiddenWithoutAPicture) {
