@@ -1,7 +1,7 @@
 // One evaluation after the other by the engine, each formula over one sweep.
-#include <benchmark/benchmark.h>
-
 #include <string>
+
+#include <benchmark/benchmark.h>
 
 #include "engine/compiler.h"
 #include "engine/engine.h"

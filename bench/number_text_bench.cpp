@@ -1,8 +1,8 @@
 // Number text written and read back, on values as formulas produce them.
-#include <benchmark/benchmark.h>
-
 #include <random>
 #include <vector>
+
+#include <benchmark/benchmark.h>
 
 #include "base/number_text.h"
 

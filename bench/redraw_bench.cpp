@@ -1,8 +1,8 @@
 // A whole redraw of the document of 26 graphs at quality 100 in a picture of 1920 x 1080 pixels, on
 // a picture that counts and nothing else: sampling and mapping without painting.
-#include <benchmark/benchmark.h>
-
 #include <string>
+
+#include <benchmark/benchmark.h>
 
 #include "engine/engine.h"
 #include "files/document.h"

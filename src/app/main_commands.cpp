@@ -49,9 +49,7 @@ void addPlotArguments(Program& program, const PlotFields& fields, FormWindow* ca
   params.Add("llamador", caller);
 }
 
-std::string fileName(const std::string& path) {
-  return path.substr(path.find_last_of("/\\") + 1);
-}
+std::string fileName(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
 void setDocument(Program& program, const std::string& path) {
   program.document_path = path;

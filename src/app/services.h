@@ -11,9 +11,9 @@ namespace zel {
 
 /// Buttons and icon of a message box, as the platform numbers them.
 enum class BoxStyle {
-  ok_cancel = 1,                 // no icon
+  ok_cancel = 1,                  // no icon
   cancel_try_again_continue = 6,  // no icon
-  stop = 16,                     // stop icon, OK alone
+  stop = 16,                      // stop icon, OK alone
 };
 
 enum class BoxAnswer { ok, cancel, try_again, continue_ };

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <CLI/CLI.hpp>
 
 namespace zel {
 

@@ -1,8 +1,9 @@
 #include "cli/cli.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+
+#include <CLI/CLI.hpp>
 
 #include "base/language.h"
 #include "cli/arguments.h"

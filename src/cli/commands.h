@@ -1,7 +1,8 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <functional>
+
+#include <CLI/CLI.hpp>
 
 #include "cli/console.h"
 

@@ -8,8 +8,8 @@ namespace zel {
 
 /// The exit statuses of every command.
 inline constexpr int kExitDone = 0;
-inline constexpr int kExitFailed = 1;       // a document refused, a file not written, a range refused
-inline constexpr int kExitUsage = 2;        // the command line is wrong
+inline constexpr int kExitFailed = 1;  // a document refused, a file not written, a range refused
+inline constexpr int kExitUsage = 2;   // the command line is wrong
 inline constexpr int kExitInterrupted = 130;  // Ctrl-C
 
 /// Where a command reads and writes, and how it writes numbers.

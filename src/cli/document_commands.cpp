@@ -21,8 +21,7 @@ std::string describe(const GraphDef& def) {
   std::string line = std::string(1, def.nombre) + '\t' + def.tipo + '\t' + colourText(def.color);
   line += '\t' + asField(displayText(def)) + '\t' + asField(def.codigo);
   for (const char* key : {"codigo1", "codigo2", "codigo_xt", "codigo_yt"})
-    if (def.parameters && def.parameters->Exists(key))
-      line += '\t' + asField(parameter(def, key));
+    if (def.parameters && def.parameters->Exists(key)) line += '\t' + asField(parameter(def, key));
   return line;
 }
 

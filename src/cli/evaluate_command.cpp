@@ -84,8 +84,7 @@ class Batch {
   }
 
   /// Nothing for an empty text, which keeps the value that stands.
-  static std::optional<double> read(std::string_view text, const char* name,
-                                    std::string& refusal) {
+  static std::optional<double> read(std::string_view text, const char* name, std::string& refusal) {
     if (text.empty()) return std::nullopt;
     const auto number = readNumber(text);
     if (number || !refusal.empty()) return number;

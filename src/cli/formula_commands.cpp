@@ -64,8 +64,8 @@ void addCompile(CLI::App& app, Console& console, Command& command) {
 
 void addCheckFormula(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
-  CLI::App* check = addFormulaCommand(
-      app, "check-formula", "Say whether each formula may be declared", options);
+  CLI::App* check =
+      addFormulaCommand(app, "check-formula", "Say whether each formula may be declared", options);
   check->add_option("--document", options->document, "Document whose graphs can be called");
   check->callback([&command, &console, options] {
     command = [&console, options] { return checkFormulas(*options, console); };

@@ -13,8 +13,8 @@ namespace zel {
 /// Names of the prefix functions; the place of a name is its function code. The order is part of
 /// the document format: "lngamma" is replaced before "gamma" and "ln", so no name damages another.
 inline constexpr std::array<std::string_view, 18> PrefixFunctions = {
-    "lngamma", "gamma", "abs", "sig", "ln",  "log", "exp", "raiz2", "raiz3",
-    "inv",     "sen",   "cos", "tan", "atn", "sin", "sqrt", "sgn",  "trpl"};
+    "lngamma", "gamma", "abs", "sig", "ln",  "log", "exp",  "raiz2", "raiz3",
+    "inv",     "sen",   "cos", "tan", "atn", "sin", "sqrt", "sgn",   "trpl"};
 
 inline constexpr std::array<std::string_view, 1> PostfixFunctions = {"!"};
 

@@ -81,8 +81,7 @@ Outcome computePrefixFunction(std::int32_t code, double v) {
 Outcome applyPrefixFunction(double function, double v) {
   const auto code = roundToInt32(function);
   if (!code) return Outcome::fault();
-  if (*code < 0 || *code >= static_cast<std::int32_t>(PrefixFunctions.size()))
-    return syntaxError();
+  if (*code < 0 || *code >= static_cast<std::int32_t>(PrefixFunctions.size())) return syntaxError();
   const std::string_view name = PrefixFunctions[static_cast<std::size_t>(*code)];
   if (takesLogarithm(*code) && !(v > 0))
     return functionError(name, "El logaritmando debe ser numérico y mayor que cero.");

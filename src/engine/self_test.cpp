@@ -19,7 +19,8 @@ bool TestEvaluator(Engine& engine, std::string& detail) {
 bool RunSelfTest(Engine& engine, std::string& report) {
   report.clear();
   std::string detail;
-  if (!TestEvaluator(engine, detail)) report = Localize(messages::kSelfTestFailed) + "\r\n" + detail;
+  if (!TestEvaluator(engine, detail))
+    report = Localize(messages::kSelfTestFailed) + "\r\n" + detail;
   return report.empty();
 }
 

@@ -23,9 +23,13 @@ Form::Form(Program& program, const char* name) : program_(program) {
   setObjectName(QString::fromLatin1(name));
 }
 
+void Form::ApplyLanguage() {
+  if (CurrentLanguage() == "ES" || CurrentLanguage() == "EN") assignCaptions();
+}
+
 void Form::showForm() {
   caller_ = callerOf(program_.params);
-  if (CurrentLanguage() == "ES" || CurrentLanguage() == "EN") ApplyLanguage();
+  ApplyLanguage();
   takeArguments();
   show();
   raise();

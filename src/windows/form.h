@@ -29,14 +29,19 @@ class Form : public QMainWindow, public FormWindow {
   /// The program outlives its windows. The object name is the window's given name.
   Form(Program& program, const char* name);
 
-  /// Assigns every caption of the window from its own two literal sets, by the current language.
-  virtual void ApplyLanguage() = 0;
+  /// Assigns every caption of the window in the current language; assigns nothing under a language
+  /// that is neither "ES" nor "EN", so that the captions stay as they are.
+  void ApplyLanguage();
 
   /// Takes the arguments out of FormParams and shows the window, or brings it to the front. Its
   /// captions are in the current language then.
   void showForm() override;
 
  protected:
+  /// The captions from the window's own two literal sets. A window calls it once when it is made:
+  /// what it shows before any language is applied is Spanish.
+  virtual void assignCaptions() = 0;
+
   /// Called by showForm before the window is shown: reads FormParams.
   virtual void takeArguments() {}
 

@@ -56,14 +56,14 @@ frmAcercaDe::frmAcercaDe(Program& program)
   connect(cmdCorreo_, &QPushButton::clicked, this,
           [this] { SendMailToMaker(this->program().services.mail); });
   connect(cmdCerrar_, &QPushButton::clicked, this, [this] { returnToCaller(); });
-  ApplyLanguage();
+  assignCaptions();
 }
 
-void frmAcercaDe::ApplyLanguage() {
+void frmAcercaDe::assignCaptions() {
   setWindowTitle(caption("Acerca de ZEL", "About ZEL"));
   what_->setText(caption("Graficador de funciones matemáticas", "Mathematical function grapher"));
-  credits_->setText(caption("© 2026 los autores de ZEL. Licencia MIT.",
-                            "© 2026 the ZEL authors. MIT licence."));
+  credits_->setText(
+      caption("© 2026 los autores de ZEL. Licencia MIT.", "© 2026 the ZEL authors. MIT licence."));
   cmdPagina_->setText(caption("&Página web", "&Web page"));
   cmdCorreo_->setText(caption("C&orreo al autor", "&Mail to the maker"));
   cmdCerrar_->setText(caption("&Cerrar", "&Close"));

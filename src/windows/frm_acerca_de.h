@@ -14,7 +14,7 @@ class frmAcercaDe : public Form {
  public:
   explicit frmAcercaDe(Program& program);
 
-  void ApplyLanguage() override;
+  void assignCaptions() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -25,7 +25,7 @@ class frmAdmGraficos : public Form {
   explicit frmAdmGraficos(Program& program);
 
   /// Assigns nothing in a language other than Spanish and English.
-  void ApplyLanguage() override;
+  void assignCaptions() override;
 
  protected:
   void takeArguments() override;

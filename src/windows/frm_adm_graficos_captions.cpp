@@ -116,7 +116,7 @@ QWidget& frmAdmGraficos::control(const char* name) const {
   return *findChild<QWidget*>(QString::fromLatin1(name));
 }
 
-void frmAdmGraficos::ApplyLanguage() {
+void frmAdmGraficos::assignCaptions() {
   if (CurrentLanguage() == "ES" || CurrentLanguage() == "EN") applyCaptions();
 }
 

@@ -13,7 +13,7 @@ class frmControles : public Form {
   HelpViewer& help() { return program().services.help; }
 
   /// It has no captions and is never shown.
-  void ApplyLanguage() override {}
+  void assignCaptions() override {}
   void showForm() override {}
 };
 

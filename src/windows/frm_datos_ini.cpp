@@ -36,7 +36,7 @@ frmDatosIni::frmDatosIni(Program& program) : Form(program, "frmDatosIni") {
   connectControls();
   setAcceptDrops(true);
   setFields(MainView());
-  ApplyLanguage();
+  assignCaptions();
   preferButtonMnemonics(*this);  // "&Agregar" and "&Ayuda"
   updateList();
 }

@@ -34,7 +34,7 @@ class frmDatosIni : public Form {
   /// The targets outlive the window.
   void setTargets(const MainWindowTargets& targets) { targets_ = targets; }
 
-  void ApplyLanguage() override;
+  void assignCaptions() override;
 
   /// Opens the document that the program was started with; an empty command line does nothing.
   /// Double quotes are taken out of it.

@@ -14,7 +14,7 @@
 
 namespace zel {
 
-void frmDatosIni::ApplyLanguage() {
+void frmDatosIni::assignCaptions() {
   applyMenuCaptions();
   applyControlCaptions();
   applyAccessibleNames();

@@ -65,8 +65,7 @@ void frmDatosIni::buildMenus() {
   mAyuda_ = menuBar()->addMenu(QString());
   addCommand(mAyuda_, "mTemasDeAyuda", &frmDatosIni::mTemasDeAyuda_Click)
       ->setShortcut(QKeySequence::HelpContents);
-  addCommand(mAyuda_, "mComoConseguirEstePrograma",
-             &frmDatosIni::mComoConseguirEstePrograma_Click);
+  addCommand(mAyuda_, "mComoConseguirEstePrograma", &frmDatosIni::mComoConseguirEstePrograma_Click);
   mAyuda_->addSeparator();
   addCommand(mAyuda_, "mAcercaDeZel", &frmDatosIni::mAcercaDeZel_Click);
   mArchivo_->setObjectName("mArchivo");

@@ -30,7 +30,7 @@ frmGrafico::frmGrafico(Program& program)
       session_(program.engine, program.graphs, *picGrafico_, screen_, *this) {
   buildControls();
   connectControls();
-  ApplyLanguage();
+  assignCaptions();
 }
 
 void frmGrafico::buildControls() {
@@ -59,7 +59,7 @@ void frmGrafico::connectControls() {
   connect(&draws_soon_, &QTimer::timeout, this, &frmGrafico::Form_Resize);
 }
 
-void frmGrafico::ApplyLanguage() {
+void frmGrafico::assignCaptions() {
   setWindowTitle(caption("ZEL - Gráficos", "ZEL - Graphics"));
   picGrafico_->setAccessibleName(caption("Gráfico de funciones", "Function graphic"));
   describePicture();

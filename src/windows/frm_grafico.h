@@ -21,7 +21,7 @@ class frmGrafico : public Form, private PlotListener {
  public:
   explicit frmGrafico(Program& program);
 
-  void ApplyLanguage() override;
+  void assignCaptions() override;
   /// With itself as "llamador" it comes back from a window that it has opened: its view, its
   /// picture and its own caller are as they were.
   void showForm() override;

@@ -35,10 +35,10 @@ frmIdioma::frmIdioma(Program& program)
   column->addWidget(cmdAceptar_, 0, Qt::AlignRight);
   setCentralWidget(centre);
   optIdioma_[CurrentLanguage() == "EN" ? 1 : 0]->setChecked(true);
-  ApplyLanguage();
+  assignCaptions();
 }
 
-void frmIdioma::ApplyLanguage() {
+void frmIdioma::assignCaptions() {
   setWindowTitle(caption("ZEL - Idioma", "ZEL - Language"));
   question_->setText(caption("Elija el idioma del programa:", "Choose the program's language:"));
   optIdioma_[0]->setText(caption("&Español", "&Spanish (Español)"));

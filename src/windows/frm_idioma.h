@@ -22,7 +22,7 @@ class frmIdioma : public Form {
   std::function<void()> accepted = [] {};
   std::function<void()> refused = [] {};
 
-  void ApplyLanguage() override;
+  void assignCaptions() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -32,10 +32,10 @@ frmImprimir::frmImprimir(Program& program)
   column->addLayout(buttons);
   setCentralWidget(centre);
   connect(cmdSalir_, &QPushButton::clicked, this, [this] { returnToCaller(); });
-  ApplyLanguage();
+  assignCaptions();
 }
 
-void frmImprimir::ApplyLanguage() {
+void frmImprimir::assignCaptions() {
   setWindowTitle(caption("Imprimir Gráfico", "Print graphics"));
   cmdImprimir_->setText(caption("&Imprimir", "&Print"));
   cmdSalir_->setText(caption("&Cerrar", "&Close"));

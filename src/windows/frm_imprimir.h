@@ -15,7 +15,7 @@ class frmImprimir : public Form {
  public:
   explicit frmImprimir(Program& program);
 
-  void ApplyLanguage() override;
+  void assignCaptions() override;
   /// Without a picture under "imprimir" there is nothing to print, and the window stays hidden.
   void showForm() override;
 

@@ -56,7 +56,7 @@ frmPresentacion::frmPresentacion(Program& program)
   connect(bCerrar_, &QPushButton::clicked, this, &frmPresentacion::closePresentation);
   Timer1_.setInterval(Presentation::kInterval);
   connect(&Timer1_, &QTimer::timeout, this, &frmPresentacion::Timer1_Timer);
-  ApplyLanguage();
+  assignCaptions();
 }
 
 void frmPresentacion::enableTimer() {
@@ -64,7 +64,7 @@ void frmPresentacion::enableTimer() {
   followTimer();
 }
 
-void frmPresentacion::ApplyLanguage() {
+void frmPresentacion::assignCaptions() {
   shown_language_ = CurrentLanguage();
   LblQueEsZEL_->setText(toQt(Localize("Graficador de funciones matemáticas")));
   LblEstado_->setText(toQt(presentation_.statusText()));

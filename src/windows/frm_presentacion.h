@@ -24,7 +24,7 @@ class frmPresentacion : public Form {
   FormWindow* getLlamador() const { return llamador_; }
 
   void enableTimer();
-  void ApplyLanguage() override;
+  void assignCaptions() override;
 
  protected:
   bool event(QEvent* event) override;

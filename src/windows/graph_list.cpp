@@ -52,8 +52,8 @@ void GraphList::listGraphs(const GraphTable& graphs) {
     auto* item = new QTreeWidgetItem(this);
     item->setText(kName, QString(QChar::fromLatin1(letter)));
     item->setIcon(kName, swatch(def->color));
-    item->setForeground(kName, QColor(def->color & 0xFF, def->color >> 8 & 0xFF,
-                                      def->color >> 16 & 0xFF));
+    item->setForeground(kName,
+                        QColor(def->color & 0xFF, def->color >> 8 & 0xFF, def->color >> 16 & 0xFF));
     QFont bold = font();
     bold.setBold(true);
     item->setFont(kName, bold);
@@ -68,8 +68,8 @@ void GraphList::listGraphs(const GraphTable& graphs) {
 }
 
 void GraphList::applyLanguage(const GraphTable& graphs) {
-  setHeaderLabels({caption("Nombre", "Name"), caption("Tipo", "Type"),
-                   caption("Declaración", "Definition")});
+  setHeaderLabels(
+      {caption("Nombre", "Name"), caption("Tipo", "Type"), caption("Declaración", "Definition")});
   listGraphs(graphs);
 }
 

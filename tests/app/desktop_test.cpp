@@ -21,8 +21,8 @@ TEST_F(Desktop, ShowsAndClosesHelpWithTheViewersCommands) {
   ShowHelpTopics(services.help);
   SetCurrentLanguage("EN");
   CloseHelp(services.help);
-  EXPECT_EQ(services.help.shown, (std::vector<std::pair<std::string, int>>{{"ayuda_es.hlp", 15},
-                                                                          {"ayuda_en.hlp", 2}}));
+  EXPECT_EQ(services.help.shown,
+            (std::vector<std::pair<std::string, int>>{{"ayuda_es.hlp", 15}, {"ayuda_en.hlp", 2}}));
 }
 
 TEST_F(Desktop, RegistersTheDocumentTypeInOrderAndWithoutQuotes) {
@@ -85,8 +85,8 @@ TEST_F(Desktop, EndsQuietlyWhenTheBrowserFails) {
 TEST_F(Desktop, SendsAMailWithItsSubjectToTheMaker) {
   SendMailToMaker(services.mail);
   EXPECT_EQ(services.mail.calls,
-            (std::vector<std::string>{"start", "create", "recipient zel@zel.example",
-                                      "subject ZEL", "send"}));
+            (std::vector<std::string>{"start", "create", "recipient zel@zel.example", "subject ZEL",
+                                      "send"}));
 }
 
 TEST_F(Desktop, SendsNothingWhenTheMailClientFails) {

@@ -193,8 +193,8 @@ TEST_F(MainCommands, ARefusedDocumentStaysTheCurrentOne) {
   SetCurrentLanguage("EN");
   EXPECT_FALSE(openDocumentAt(program, "malo.zel", view));
   EXPECT_EQ(services.boxes.shown,
-            std::vector<Box>{attention(
-                "File you try to open is uncompatible with that program version.")});
+            std::vector<Box>{
+                attention("File you try to open is uncompatible with that program version.")});
   EXPECT_EQ(program.document_path, "malo.zel");
 }
 

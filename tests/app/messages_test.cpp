@@ -25,11 +25,10 @@ TEST_F(Messages, InformationIsTranslatedAndHasTheButtonsOfStyleSix) {
   ShowInformation(boxes, "Cerrar");
   SetCurrentLanguage("EN");
   ShowInformation(boxes, "Cerrar");
-  EXPECT_EQ(boxes.shown,
-            (std::vector<Box>{
-                {"Cerrar", "Información", BoxStyle::cancel_try_again_continue},
-                {"Close", "Information", BoxStyle::cancel_try_again_continue},
-            }));
+  EXPECT_EQ(boxes.shown, (std::vector<Box>{
+                             {"Cerrar", "Información", BoxStyle::cancel_try_again_continue},
+                             {"Close", "Information", BoxStyle::cancel_try_again_continue},
+                         }));
 }
 
 TEST_F(Messages, EmptyTextsShowNothingButAnEmptyInformation) {

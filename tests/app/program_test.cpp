@@ -32,9 +32,8 @@ TEST_F(Start, EndsOnADamagedConfigurationInSpanishInBothLanguages) {
   EXPECT_EQ(startProgram(program), StartStep::ended);
   putBytes("config.ini", "EN");
   EXPECT_EQ(startProgram(program), StartStep::ended);
-  EXPECT_EQ(services.boxes.shown,
-            (std::vector<Box>{{text, "ZEL - ATENCIÓN", BoxStyle::stop},
-                              {text, "ZEL - NOTIFY", BoxStyle::stop}}));
+  EXPECT_EQ(services.boxes.shown, (std::vector<Box>{{text, "ZEL - ATENCIÓN", BoxStyle::stop},
+                                                    {text, "ZEL - NOTIFY", BoxStyle::stop}}));
 }
 
 TEST_F(Start, EndsWithTheReportOfAFailedSelfTest) {
@@ -83,8 +82,7 @@ TEST_F(Start, IsUndoneByClosingHelpWritingTheConfigurationAndEnding) {
   program.end_process = [&] { at_end = bytesOf("config.ini"); };
   SetCurrentLanguage("EN");
   shutDown(program);
-  EXPECT_EQ(services.help.shown,
-            (std::vector<std::pair<std::string, int>>{{"ayuda_en.hlp", 2}}));
+  EXPECT_EQ(services.help.shown, (std::vector<std::pair<std::string, int>>{{"ayuda_en.hlp", 2}}));
   EXPECT_EQ(at_end.substr(0, 4), "EN\r\n");
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "cli/cli.h"
 #include "support/language_guard.h"
@@ -54,9 +54,9 @@ class CliTest : public ::testing::Test {
   /// The block of one graph.
   static std::string block(char letter, char kind, const std::string& formula,
                            const std::string& parameters = "", const std::string& code = "") {
-    return std::string("[GRAFICO]\r\n[PROPIEDADES]\r\nnombre=") + letter + "\r\ncarpeta=\r\ncodigo=" +
-           code + "\r\ncolor=255\r\necuacion=" + formula + "\r\ntipo=" + kind +
-           "\r\n \r\n[PARAMETROS]\r\n" + parameters + " \r\n \r\n";
+    return std::string("[GRAFICO]\r\n[PROPIEDADES]\r\nnombre=") + letter +
+           "\r\ncarpeta=\r\ncodigo=" + code + "\r\ncolor=255\r\necuacion=" + formula +
+           "\r\ntipo=" + kind + "\r\n \r\n[PARAMETROS]\r\n" + parameters + " \r\n \r\n";
   }
 
  private:

@@ -38,16 +38,16 @@ TEST_F(DocumentCommands, CheckRefusesWithTheMessageOfTheDocument) {
 }
 
 TEST_F(DocumentCommands, ResaveWritesWhatOpeningAndSavingGives) {
-  const std::string file = writeDocument(
-      "in.zel", "xi=-1,50\r\ndefinicion=700\r\nproporcional=3\r\nescala_x=a=b\r\n",
-      block('a', 'F', "x^2 + 1", "", "stale"));
+  const std::string file =
+      writeDocument("in.zel", "xi=-1,50\r\ndefinicion=700\r\nproporcional=3\r\nescala_x=a=b\r\n",
+                    block('a', 'F', "x^2 + 1", "", "stale"));
   const Run result = run({"resave", file, path("out.zel")});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out + result.err, "");
   const std::string written = bytesOf(path("out.zel"));
-  for (const char* line : {"\r\nxi=-1,50\r\n", "\r\ndefinicion=100\r\n", "\r\nproporcional=1\r\n",
-                           "\r\nescala_x=a=b\r\n", "\r\ncodigo=x^2+1\r\n",
-                           "\r\necuacion=x^2 + 1\r\n"})
+  for (const char* line :
+       {"\r\nxi=-1,50\r\n", "\r\ndefinicion=100\r\n", "\r\nproporcional=1\r\n",
+        "\r\nescala_x=a=b\r\n", "\r\ncodigo=x^2+1\r\n", "\r\necuacion=x^2 + 1\r\n"})
     EXPECT_NE(written.find(line), std::string::npos) << line;
 }
 
@@ -80,8 +80,8 @@ class TableCommand : public CliTest {
 
   Run table(const std::string& letter, const std::string& from, const std::string& to,
             const std::string& step, const std::vector<std::string>& more = {}) {
-    std::vector<std::string> arguments = {"table", document, "--graph", letter, "--from", from,
-                                          "--to",  to,       "--step",  step};
+    std::vector<std::string> arguments = {"table", document, "--graph", letter,   "--from",
+                                          from,    "--to",   to,        "--step", step};
     arguments.insert(arguments.end(), more.begin(), more.end());
     return run(arguments);
   }

@@ -84,10 +84,17 @@ TEST_F(EvaluateCommand, KeepsOneEngineFromXToX) {
 
 TEST_F(EvaluateCommand, RefusesAWrongCommandLine) {
   const std::vector<std::vector<std::string>> lines = {
-      {"evaluate"},          {"evaluate", "x"},           {"evaluate", "x", "abc"},
-      {"evaluate", "x", ""}, {"evaluate", "x", "1e999"},  {"evaluate", "x", "1", "--t", "q"},
-      {"evaluate", "x", "1", "--bogus"},                  {"evaluate", "--batch", "x", "1"},
-      {},                    {"bogus"},                   {"--lang", "FR", "self-test"},
+      {"evaluate"},
+      {"evaluate", "x"},
+      {"evaluate", "x", "abc"},
+      {"evaluate", "x", ""},
+      {"evaluate", "x", "1e999"},
+      {"evaluate", "x", "1", "--t", "q"},
+      {"evaluate", "x", "1", "--bogus"},
+      {"evaluate", "--batch", "x", "1"},
+      {},
+      {"bogus"},
+      {"--lang", "FR", "self-test"},
   };
   for (const auto& line : lines) {
     const Run result = run(line);
@@ -118,8 +125,9 @@ TEST_F(EvaluateBatch, AnswersEachLine) {
 }
 
 TEST_F(EvaluateBatch, KeepsTheValuesThatStand) {
-  EXPECT_EQ(answers("2\tx*100+t*10+p\t3\t4\n\tx*100+t*10+p\t5\t\n\tx*100+t*10+p\t\t6\n7\tx*100+t*10+p"),
-            "ok\t234\nok\t254\nok\t256\nok\t756\n");
+  EXPECT_EQ(
+      answers("2\tx*100+t*10+p\t3\t4\n\tx*100+t*10+p\t5\t\n\tx*100+t*10+p\t\t6\n7\tx*100+t*10+p"),
+      "ok\t234\nok\t254\nok\t256\nok\t756\n");
 }
 
 TEST_F(EvaluateBatch, ResetsNothingBetweenLines) {

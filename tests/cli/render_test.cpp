@@ -23,7 +23,8 @@ class RenderCommand : public CliTest {
     return result.err;
   }
 
-  std::string line = writeDocument("line.zel", "xi=0\r\nxf=8\r\nyi=0\r\nyf=6\r\ndefinicion=1\r\n"
+  std::string line = writeDocument("line.zel",
+                                   "xi=0\r\nxf=8\r\nyi=0\r\nyf=6\r\ndefinicion=1\r\n"
                                    "escala_x=0\r\nescala_y=\r\n",
                                    block('a', 'F', "x/2"));
 };
@@ -42,9 +43,9 @@ TEST_F(RenderCommand, WritesTheDocumentedSvg) {
 }
 
 TEST_F(RenderCommand, TakesItsOptionsInThePlaceOfTheDocument) {
-  const std::string text = svg(line, {"--width", "400", "--height", "200", "--range", "-1", "1",
-                                      "-,5", "0.5", "--quality", "1", "--marks", "1", "0",
-                                      "--proportional", "no"});
+  const std::string text =
+      svg(line, {"--width", "400", "--height", "200", "--range", "-1", "1", "-,5", "0.5",
+                 "--quality", "1", "--marks", "1", "0", "--proportional", "no"});
   EXPECT_NE(text.find("viewBox=\"0 0 6000 3000\""), std::string::npos);
   EXPECT_NE(text.find("<g id=\"axes\">\n"
                       "<line x1=\"3000\" y1=\"0\" x2=\"3000\" y2=\"3000\"/>\n"

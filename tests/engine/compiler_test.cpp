@@ -1,9 +1,9 @@
 #include "engine/compiler.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace zel {
 namespace {

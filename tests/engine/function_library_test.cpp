@@ -18,8 +18,7 @@ constexpr std::string_view kLogarithm = "El logaritmando debe ser numérico y ma
 constexpr std::string_view kRoot = "El valor debe ser numérico y mayor o igual que cero.";
 constexpr std::string_view kPositive = "El valor debe ser numérico y positivo.";
 constexpr std::string_view kTooLarge = "El resultado es demasiado grande.";
-constexpr std::string_view kNoLnGamma =
-    "! La función LnGamma no existe para el valor solicitado.";
+constexpr std::string_view kNoLnGamma = "! La función LnGamma no existe para el valor solicitado.";
 
 TEST_F(Functions, HaveTheirValues) {
   struct Row {

@@ -1,8 +1,8 @@
 #include "engine/grammar.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace zel {
 namespace {
@@ -13,10 +13,9 @@ TEST(Balance, CountsParenthesesUpToTheFirstCloserTooManyOrEmptyPair) {
     bool balanced;
   };
   const Row rows[] = {
-      {"", true},        {"x+1", true},   {"(x)", true},       {"(x", false},
-      {"x)", false},     {"a)+(b", false}, {"(a)(b)", true},   {"()", true},
-      {"()))((", true},  {"(()", false},  {"x+()", true},      {"((x)", false},
-      {"(x)+()+(", true},
+      {"", true},       {"x+1", true},    {"(x)", true},      {"(x", false},    {"x)", false},
+      {"a)+(b", false}, {"(a)(b)", true}, {"()", true},       {"()))((", true}, {"(()", false},
+      {"x+()", true},   {"((x)", false},  {"(x)+()+(", true},
   };
   for (const Row& row : rows) EXPECT_EQ(IsBalanced(row.text), row.balanced) << row.text;
 }
@@ -26,9 +25,10 @@ TEST(Strip, TakesOuterParenthesesOffAsLongAsTheInnerTextStaysBalanced) {
     std::string_view text, stripped;
   };
   const Row rows[] = {
-      {"((x+1))", "x+1"}, {"((x))", "x"},   {"(x)+(1)", "(x)+(1)"}, {"x", "x"},    {"(x", "(x"},
-      {"x)", "x)"},       {"()", ""},       {"(())", ""},         {"", ""},      {"(", "("},
-      {"(5)", "5"},       {"(()x(())", "()x(()"},
+      {"((x+1))", "x+1"}, {"((x))", "x"}, {"(x)+(1)", "(x)+(1)"},
+      {"x", "x"},         {"(x", "(x"},   {"x)", "x)"},
+      {"()", ""},         {"(())", ""},   {"", ""},
+      {"(", "("},         {"(5)", "5"},   {"(()x(())", "()x(()"},
   };
   for (const Row& row : rows) EXPECT_EQ(StripOuterParentheses(row.text), row.stripped) << row.text;
 }
@@ -36,8 +36,8 @@ TEST(Strip, TakesOuterParenthesesOffAsLongAsTheInnerTextStaysBalanced) {
 std::string describe(std::string_view text) {
   const Split split = SplitAtMainOperator(text);
   if (split.failure == SplitFailure::no_operator) return "no operator";
-  const std::string parts = std::string(split.left) + "|" + std::string(split.op) + "|" +
-                            std::string(split.right);
+  const std::string parts =
+      std::string(split.left) + "|" + std::string(split.op) + "|" + std::string(split.right);
   return split.failure == SplitFailure::none ? parts : "missing " + parts;
 }
 
@@ -46,11 +46,11 @@ TEST(Split, IsAtTheRightmostOfTheWeakestOperatorsOutsideParentheses) {
     std::string_view text, parts;
   };
   const Row rows[] = {
-      {"a-b+c", "a-b|+|c"},     {"a+b-c", "a|+|b-c"},      {"a-b-c", "a-b|-|c"},
-      {"a/b*c", "a|/|b*c"},     {"a*b/c", "a*b|/|c"},      {"a/b/c", "a/b|/|c"},
-      {"a\\b/c", "a|\\|b/c"},   {"2^3^2", "2^3|^|2"},      {"10@x^2", "10|@|x^2"},
-      {"3@x#0", "3|@|x#0"},     {"2^x#0", "2|^|x#0"},      {"2*(a+b)", "2|*|a+b"},
-      {"((a))*((b))", "a|*|b"}, {"10@(x)", "10|@|x"},      {"x)+1", "x)|+|1"},
+      {"a-b+c", "a-b|+|c"},     {"a+b-c", "a|+|b-c"}, {"a-b-c", "a-b|-|c"},
+      {"a/b*c", "a|/|b*c"},     {"a*b/c", "a*b|/|c"}, {"a/b/c", "a/b|/|c"},
+      {"a\\b/c", "a|\\|b/c"},   {"2^3^2", "2^3|^|2"}, {"10@x^2", "10|@|x^2"},
+      {"3@x#0", "3|@|x#0"},     {"2^x#0", "2|^|x#0"}, {"2*(a+b)", "2|*|a+b"},
+      {"((a))*((b))", "a|*|b"}, {"10@(x)", "10|@|x"}, {"x)+1", "x)|+|1"},
       {"(x)+(1)", "x|+|1"},
   };
   for (const Row& row : rows) EXPECT_EQ(describe(row.text), row.parts) << row.text;

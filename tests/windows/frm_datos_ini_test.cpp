@@ -286,8 +286,9 @@ TEST_F(MainWindow, SavesAndOpensWhatItsControlsHold) {
 }
 
 TEST_F(MainWindow, OpensTheDocumentOfTheCommandLineAndKeepsItsRangeWhenShown) {
-  putBytes("d.zel", "[PRINCIPAL]\r\nversiones_compatibles=2.0\r\n \r\n[VISTA PRINCIPAL]\r\n"
-                    "xi=-3\r\ndefinicion=500\r\n \r\n[GRAFICOS PRINCIPAL]\r\n ");
+  putBytes("d.zel",
+           "[PRINCIPAL]\r\nversiones_compatibles=2.0\r\n \r\n[VISTA PRINCIPAL]\r\n"
+           "xi=-3\r\ndefinicion=500\r\n \r\n[GRAFICOS PRINCIPAL]\r\n ");
   window.openCommandLine("\"d.zel\"");
   window.showForm();
   EXPECT_EQ(text(window, "txtRanXi"), "-3");
@@ -305,8 +306,9 @@ TEST_F(MainWindow, SaysWhyTheDocumentOfTheCommandLineIsRefused) {
 }
 
 TEST_F(MainWindow, OpensADocumentThatIsDroppedOnIt) {
-  putBytes("d.zel", "[PRINCIPAL]\r\nversiones_compatibles=2.0\r\n \r\n[VISTA PRINCIPAL]\r\nxi=-4"
-                    "\r\n \r\n[GRAFICOS PRINCIPAL]\r\n ");
+  putBytes("d.zel",
+           "[PRINCIPAL]\r\nversiones_compatibles=2.0\r\n \r\n[VISTA PRINCIPAL]\r\nxi=-4"
+           "\r\n \r\n[GRAFICOS PRINCIPAL]\r\n ");
   QMimeData data;
   const auto url = [](const char* name) {
     return QUrl::fromLocalFile(toQt((std::filesystem::current_path() / name).string()));

@@ -22,8 +22,9 @@ TEST_F(GraficoDrawing, TellsItsProgressByThePlaceOfTheLetter) {
       seen.push_back(panels());
       press(Qt::Key_Escape);
     };
-    later(60, look);
-    later(120, look);
+    begun.clear();
+    inside('a', 1, look);
+    inside('f', 1, look);
     open(view);
     const std::string word = code == "ES" ? " [GRAFICANDO]... " : " [GRAPHING]... ";
     EXPECT_THAT(seen, ElementsAre(ElementsAre(word + "a(x)", " (1 de 2)"),
@@ -35,7 +36,7 @@ TEST_F(GraficoDrawing, TellsItsProgressByThePlaceOfTheLetter) {
 TEST_F(GraficoDrawing, EscAndSpaceEndALongFamilyAndItStays) {
   addEndlessFamily('b');
   for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Space}) {
-    later(60, [&] { press(key); });
+    inside('b', key == Qt::Key_Escape ? 1 : 2, [&] { press(key); });
     open(view);
     EXPECT_GT(pixelsThatAreNotWhite(picture->image()), 2000);
     EXPECT_EQ(panels().front(), " Xmin=-10  ");
@@ -47,13 +48,13 @@ TEST_F(GraficoDrawing, EscAndSpaceEndALongFamilyAndItStays) {
 TEST_F(GraficoDrawing, OtherKeysLetItGoOn) {
   addEndlessFamily('b');
   std::string after;
-  later(50, [&] {
+  inside('b', 1, [&] {
     for (const auto key : {Qt::Key_A, Qt::Key_Return, Qt::Key_C, Qt::Key_Tab, Qt::Key_F5})
       press(key);
-  });
-  later(100, [&] {
-    after = panels().front();
-    press(Qt::Key_Space);
+    later(50, [&] {
+      after = panels().front();
+      press(Qt::Key_Space);
+    });
   });
   open(view);
   EXPECT_EQ(after, " [GRAFICANDO]... b(x)");
@@ -61,16 +62,15 @@ TEST_F(GraficoDrawing, OtherKeysLetItGoOn) {
 
 TEST_F(GraficoDrawing, ShowsWhatHasBeenDrawnSoFar) {
   addEndlessFamily('a');
-  int early = -1;
-  int late = 0;
-  later(10, [&] { early = pixelsThatAreNotWhite(picture->grab().toImage()); });
-  later(150, [&] {
-    late = pixelsThatAreNotWhite(picture->grab().toImage());
-    press(Qt::Key_Escape);
+  int seen = 0;
+  inside('a', 1, [&] {
+    later(2 * PictureBox::kProgressInterval, [&] {
+      seen = pixelsThatAreNotWhite(picture->grab().toImage());
+      press(Qt::Key_Escape);
+    });
   });
   open(view);
-  EXPECT_EQ(early, 0);
-  EXPECT_GT(late, 2000);
+  EXPECT_GT(seen, 2000);
 }
 
 TEST_F(GraficoDrawing, AQuickDrawingIsNotSeenHalfDone) {
@@ -84,7 +84,7 @@ TEST_F(GraficoDrawing, AQuickDrawingIsNotSeenHalfDone) {
 TEST_F(GraficoDrawing, CanBeClosedInTheMiddle) {
   addEndlessFamily('a');
   addFunction('b', "x");
-  later(50, [&] { window.close(); });
+  inside('a', 1, [&] { window.close(); });
   open(view);
   EXPECT_FALSE(window.isVisible());
   EXPECT_EQ(begun, "a");
@@ -100,7 +100,7 @@ TEST_F(GraficoDrawing, CanBeClosedAndOpenedAgainInTheMiddle) {
     caller.on_show = nullptr;
     open({0, 0, 1, 1, 10, false});
   };
-  later(50, [&] { window.close(); });
+  inside('a', 1, [&] { window.close(); });
   open(view);
   settle();
   EXPECT_EQ(begun, "ac");
@@ -111,8 +111,8 @@ TEST_F(GraficoDrawing, CanBeClosedAndOpenedAgainInTheMiddle) {
 
 TEST_F(GraficoDrawing, AResizeInTheMiddleDrawsAnew) {
   addEndlessFamily('a');
-  later(50, [&] { window.resize(window.size() - QSize(100, 50)); });
-  later(100, [&] { press(Qt::Key_Escape); });
+  inside('a', 1, [&] { window.resize(window.size() - QSize(100, 50)); });
+  inside('a', 2, [&] { press(Qt::Key_Escape); });
   open(view);
   EXPECT_EQ(begun, "aa");
   EXPECT_EQ(window.session().pictureSize(),
@@ -122,9 +122,18 @@ TEST_F(GraficoDrawing, AResizeInTheMiddleDrawsAnew) {
 
 TEST_F(GraficoDrawing, ManyResizesInTheMiddleEndInTheLastOne) {
   addEndlessFamily('a');
-  for (int i = 1; i <= 40; ++i)
-    later(20 + 2 * i, [&, i] { window.resize(700 - 10 * i, 600 - 5 * i); });
-  later(300, [&] { press(Qt::Key_Escape); });
+  QTimer escapes;
+  QObject::connect(&escapes, &QTimer::timeout, [&] { press(Qt::Key_Escape); });
+  int resizes = 0;
+  const std::function<void()> resize = [&] {
+    ++resizes;
+    window.resize(700 - 10 * resizes, 600 - 5 * resizes);
+    if (resizes < 40)
+      later(2, resize);
+    else
+      later(50, [&] { escapes.start(20); });
+  };
+  inside('a', 1, resize);
   open(view);
   EXPECT_EQ(window.size(), QSize(300, 400));
   EXPECT_EQ(picture->image().size(), picture->size());
@@ -134,7 +143,7 @@ TEST_F(GraficoDrawing, ManyResizesInTheMiddleEndInTheLastOne) {
 
 TEST_F(GraficoDrawing, ARefusedViewInTheMiddleReturnsOnce) {
   addEndlessFamily('a');
-  later(50, [&] {
+  inside('a', 1, [&] {
     view.xf = view.xi;
     open(view);
   });
@@ -148,8 +157,10 @@ TEST_F(GraficoDrawing, ARefusedViewInTheMiddleReturnsOnce) {
 TEST_F(GraficoDrawing, GraphsMayGoInTheMiddle) {
   addEndlessFamily('a');
   addFunction('z', "x");
-  later(50, [&] { program.graphs.clearGraphs(); });
-  later(100, [&] { press(Qt::Key_Escape); });
+  inside('a', 1, [&] {
+    program.graphs.clearGraphs();
+    later(20, [&] { press(Qt::Key_Escape); });
+  });
   open(view);
   EXPECT_EQ(begun, "a");
 }

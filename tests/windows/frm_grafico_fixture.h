@@ -4,8 +4,11 @@
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <functional>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -45,7 +48,7 @@ class GraficoTest : public ::testing::Test {
   GraficoTest() {
     program.engine.InitEngine();
     picture = window.findChild<PictureBox*>("picGrafico");
-    QObject::connect(picture, &PictureBox::graphBegun, [this](char letter) { begun += letter; });
+    QObject::connect(picture, &PictureBox::graphBegun, [this](char letter) { note(letter); });
   }
 
   /// Shows the window as the main window does, and lets it draw.
@@ -62,7 +65,12 @@ class GraficoTest : public ::testing::Test {
     for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
   }
 
-  /// Does something while a long drawing is under way. Call it before the drawing begins.
+  /// Does something soon after a graph is begun for the nth time, while it is being drawn.
+  void inside(char letter, int time, const std::function<void()>& happening) {
+    happenings_[{letter, time}] = happening;
+  }
+
+  /// Does something a little later.
   template <class Happening>
   void later(int milliseconds, const Happening& happening) {
     QTimer::singleShot(milliseconds, &window, happening);
@@ -85,7 +93,7 @@ class GraficoTest : public ::testing::Test {
       program.graphs.clearGraphs();
       window.close();
     });
-    rescue_.start(10000);
+    rescue_.start(60000);
   }
 
   void press(Qt::Key key) { QTest::keyClick(picture, key); }
@@ -119,6 +127,16 @@ class GraficoTest : public ::testing::Test {
   ViewSettings view{-10, -10, 10, 10, 10, false};
 
  private:
+  void note(char letter) {
+    begun += letter;
+    const auto time = static_cast<int>(std::count(begun.begin(), begun.end(), letter));
+    const auto found = happenings_.find({letter, time});
+    if (found != happenings_.end()) later(kSoon, found->second);
+  }
+
+  static constexpr int kSoon = 20;  // milliseconds
+
+  std::map<std::pair<char, int>, std::function<void()>> happenings_;
   QTimer rescue_;
 };
 

@@ -17,12 +17,12 @@ class GraficoPicture : public GraficoTest {
 
   /// Resizes the window so that its picture would have this size.
   void resizeFor(QSize size) {
-    window.resize(window.size() + size - inside());
+    window.resize(window.size() + size - room());
     settle();
   }
 
   /// The size that a picture would have that fills the window but for its margins.
-  QSize inside() const {
+  QSize room() const {
     const QWidget* const parent = picture->parentWidget();
     return parent->size() - QSize(2 * picture->x(), 2 * picture->y());
   }
@@ -46,7 +46,7 @@ class GraficoPicture : public GraficoTest {
 
 TEST_F(GraficoPicture, IsOfTheFirstSizeThatTheScreenAllows) {
   open(view);
-  expectPicture(inside());
+  expectPicture(room());
   EXPECT_LE(window.width(), window.screen()->availableSize().width());
   EXPECT_GE(picture->width(), 600);
 }
@@ -73,7 +73,7 @@ TEST_F(GraficoPicture, FollowsWhileBothSidesHave1000Twips) {
   for (const Row& row : rows) {
     begun.clear();
     resizeFor(row.asked);
-    ASSERT_EQ(inside(), row.asked);
+    ASSERT_EQ(room(), row.asked);
     expectPicture(row.becomes);
     EXPECT_EQ(begun, row.asked == row.becomes ? "a" : "");
   }

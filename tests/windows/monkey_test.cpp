@@ -97,9 +97,10 @@ class Monkey : public WindowTest {
 
   void press(QWidget& target) {
     constexpr std::array<Qt::Key, 16> kKeys = {
-        Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab,    Qt::Key_Space,  Qt::Key_Up,   Qt::Key_Down,
-        Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Home,
-        Qt::Key_End,    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_F1,   Qt::Key_Backtab};
+        Qt::Key_Return, Qt::Key_Escape,    Qt::Key_Tab,  Qt::Key_Space,
+        Qt::Key_Up,     Qt::Key_Down,      Qt::Key_Left, Qt::Key_Right,
+        Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Home, Qt::Key_End,
+        Qt::Key_PageUp, Qt::Key_PageDown,  Qt::Key_F1,   Qt::Key_Backtab};
     constexpr std::string_view kTyped = "0123456789,.-+*/^()!xtpeEsincolg CcPp";
     if (below(2) == 0) {
       const Qt::Key key = kKeys[static_cast<std::size_t>(below(kKeys.size()))];

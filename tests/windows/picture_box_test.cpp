@@ -1,5 +1,6 @@
 #include "windows/picture_box.h"
 
+#include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
 #include <vector>
@@ -67,9 +68,14 @@ TEST_F(Box, ShowsWhatWasDrawnWhenItIsToldTo) {
 }
 
 TEST_F(Box, ShowsProgressOnceInAnInterval) {
+  QElapsedTimer clock;
+  clock.start();
   drawLine();
   box.showProgress();
-  EXPECT_EQ(middle(box.grab().toImage()), QColor(Qt::white));
+  // On a machine that is busy the interval may be over already.
+  if (clock.elapsed() < PictureBox::kProgressInterval) {
+    EXPECT_EQ(middle(box.grab().toImage()), QColor(Qt::white));
+  }
   QTest::qSleep(PictureBox::kProgressInterval + 5);
   box.showProgress();
   EXPECT_LT(middle(box.grab().toImage()).blue(), 128);
@@ -178,11 +184,15 @@ TEST_F(Box, PendingEventsRunAtMostEveryFewMilliseconds) {
         &box, [&] { ++runs; }, Qt::QueuedConnection);
   };
   post();
+  QElapsedTimer clock;
+  clock.start();
   screen.runPendingEvents();
   EXPECT_EQ(runs, 1);
   post();
   screen.runPendingEvents();
-  EXPECT_EQ(runs, 1);
+  if (clock.elapsed() < PlotScreen::kEventInterval) {
+    EXPECT_EQ(runs, 1);
+  }
   QTest::qSleep(PlotScreen::kEventInterval + 1);
   screen.runPendingEvents();
   EXPECT_EQ(runs, 2);

@@ -18,9 +18,7 @@ class PresentationWindow : public WindowTest {
     window.showForm();
   }
 
-  std::string label(const char* name) {
-    return fromQt(control<QLabel>(window, name).text());
-  }
+  std::string label(const char* name) { return fromQt(control<QLabel>(window, name).text()); }
 
   NotedWindow main_window;
   frmPresentacion window{program};

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
@@ -12,6 +10,8 @@
 #include <QSlider>
 #include <QTest>
 #include <string>
+
+#include <gtest/gtest.h>
 
 #include "app/program.h"
 #include "support/fake_services.h"
