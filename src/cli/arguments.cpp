@@ -1,19 +1,15 @@
 #include "cli/arguments.h"
 
-#include <array>
-
 #include "base/number_text.h"
 
 namespace zel {
 namespace {
 
 constexpr char kMark = '\x01';
-constexpr std::array<std::string_view, 2> kShortOptions = {"-o", "-h"};
-
 bool needsProtection(std::string_view argument) {
   if (argument.starts_with('[')) return true;
-  if (argument.size() < 2 || argument[0] != '-' || argument[1] == '-') return false;
-  return std::ranges::find(kShortOptions, argument) == kShortOptions.end();
+  const bool is_dashed = argument.size() > 1 && argument[0] == '-' && argument[1] != '-';
+  return is_dashed && argument != "-h" && !argument.starts_with("-o");
 }
 
 }  // namespace
@@ -32,16 +28,16 @@ std::vector<std::string> protectArguments(const std::vector<std::string>& argume
   return result;
 }
 
-std::string_view unprotected(std::string_view argument) {
-  if (argument.starts_with(kMark)) argument.remove_prefix(1);
+std::string unprotected(std::string argument) {
+  if (argument.starts_with(kMark)) argument.erase(0, 1);
   return argument;
 }
 
 double numberArgument(std::string_view name, std::string_view argument) {
-  const std::string_view text = unprotected(argument);
-  const auto number = readNumber(text);
+  const auto number = readNumber(argument);
   if (!number)
-    throw CLI::ValidationError(std::string(name), "'" + std::string(text) + "' is not a number");
+    throw CLI::ValidationError(std::string(name),
+                               "'" + std::string(argument) + "' is not a number");
   return *number;
 }
 

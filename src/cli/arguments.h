@@ -13,8 +13,8 @@ namespace zel {
 /// them as they are.
 std::vector<std::string> protectArguments(const std::vector<std::string>& arguments);
 
-/// The argument as it was typed.
-std::string_view unprotected(std::string_view argument);
+/// The argument as it was typed. Every option of every command passes its texts through it.
+std::string unprotected(std::string argument);
 
 /// A number of the command line, with either separator; throws CLI::ValidationError with a line
 /// that says what is wrong.

@@ -18,7 +18,12 @@ void addCommands(CLI::App& app, Console& console, Command& command) {
   for (const auto add : {addEvaluate, addCompile, addCheckFormula, addCheck, addResave, addTable,
                          addRender, addSelfTest})
     add(app, console, command);
-  for (CLI::App* subcommand : app.get_subcommands({})) subcommand->fallthrough();
+  for (CLI::App* subcommand : app.get_subcommands({})) {
+    subcommand->fallthrough();
+    for (CLI::Option* option : subcommand->get_options()) {
+      if (option->get_items_expected_max() > 0) option->transform(unprotected);
+    }
+  }
   app.require_subcommand(1);
 }
 

@@ -27,11 +27,10 @@ std::string onOneLine(std::string_view message) {
   return replaceAll(replaceAll(replaceAll(line, "\n", "\\n"), "\r", "\\r"), "\t", "\\t");
 }
 
-std::string asField(std::string_view text) {
-  std::string field(text);
-  for (char& character : field)
-    if (character == '\t' || character == '\r' || character == '\n') character = ' ';
-  return field;
+std::string asLine(std::string_view text) {
+  return replaceAll(replaceAll(text, "\r", " "), "\n", " ");
 }
+
+std::string asField(std::string_view text) { return replaceAll(asLine(text), "\t", " "); }
 
 }  // namespace zel

@@ -32,6 +32,9 @@ std::string_view inLanguage(std::string_view spanish, std::string_view english);
 /// A message on one line: a line break becomes "\n", a tab "\t", a backslash "\\".
 std::string onOneLine(std::string_view message);
 
+/// A text that is a line by itself: a line break inside becomes a blank.
+std::string asLine(std::string_view text);
+
 /// A field between tabs: what would break the line becomes a blank; a backslash stays.
 std::string asField(std::string_view text);
 

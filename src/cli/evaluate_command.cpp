@@ -134,7 +134,7 @@ int evaluate(const Options& options, const Console& console) {
   if (options.batch) return runBatch(options, console, session.engine);
 
   Compiled compiled(options.is_code);
-  const auto code = compiled.codeOf(unprotected(options.formula_and_xs[0]));
+  const auto code = compiled.codeOf(options.formula_and_xs[0]);
   for (const double x : xs) console.out << answer(console, session.engine, x, code) << '\n';
   return kExitDone;
 }

@@ -19,6 +19,8 @@ class SvgFile : public FilePicture {
 
 }  // namespace
 
+bool canMakePicture(std::string_view ending) { return ending == "svg" || canPaint(ending); }
+
 std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height) {
   if (ending == "svg") return std::make_unique<SvgFile>(width, height);
   return makePaintedPicture(ending, width, height);

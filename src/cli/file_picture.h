@@ -20,12 +20,15 @@ class FilePicture {
   virtual std::string bytes() = 0;
 };
 
+/// Whether this build can write pictures with this ending.
+bool canMakePicture(std::string_view ending);
+
 /// A picture of a size in pixels in the format of a file's ending in lower case: "svg", "png" or
-/// "pdf". Null for any other ending, for one that this build cannot write, and when there is not
-/// memory enough.
+/// "pdf". Null for an ending that this build cannot write, and when there is not memory enough.
 std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height);
 
-/// The formats that need a toolkit; null where there is none.
+/// The formats that need a toolkit; false and null where there is none.
+bool canPaint(std::string_view ending);
 std::unique_ptr<FilePicture> makePaintedPicture(std::string_view ending, int width, int height);
 
 }  // namespace zel

@@ -20,7 +20,7 @@ struct Options {
 
 int compile(const Options& options, const Console& console) {
   for (const std::string& formula : options.formulas)
-    console.out << asField(NormaliseFormula(unprotected(formula))) << '\n';
+    console.out << asLine(NormaliseFormula(formula)) << '\n';
   return kExitDone;
 }
 
@@ -29,7 +29,7 @@ int checkFormulas(const Options& options, const Console& console) {
   if (const int status = session.loadIfGiven(options.document, console)) return status;
   for (const std::string& formula : options.formulas) {
     std::string message;
-    if (CheckFormula(session.engine, unprotected(formula), message))
+    if (CheckFormula(session.engine, formula, message))
       console.out << "ok\n";
     else
       console.out << "error\t" << onOneLine(message) << '\n';

@@ -89,6 +89,8 @@ class PdfFile : public PaintedFile {
 
 }  // namespace
 
+bool canPaint(std::string_view ending) { return ending == "png" || ending == "pdf"; }
+
 std::unique_ptr<FilePicture> makePaintedPicture(std::string_view ending, int width, int height) {
   if (ending == "pdf") return std::make_unique<PdfFile>(width, height);
   if (ending != "png") return nullptr;

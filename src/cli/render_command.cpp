@@ -134,8 +134,11 @@ int draw(Session& session, Viewport& viewport, const ScaleMarks& marks, FilePict
 
 int render(const Options& options, const Console& console) {
   const Wanted wanted = readOptions(options);
-  const auto file = makeFilePicture(endingOf(options.out), options.width, options.height);
-  if (!file) throw CLI::ValidationError("-o", "the picture must end in .png, .svg or .pdf");
+  const std::string ending = endingOf(options.out);
+  if (!canMakePicture(ending))
+    throw CLI::ValidationError("-o", "the picture must end in .png, .svg or .pdf");
+  const auto file = makeFilePicture(ending, options.width, options.height);
+  if (!file) return console.fail("Valores demasiado grandes para operar.");
   Session session;
   if (const int status = session.load(options.file, console)) return status;
   const auto view = makeView(session.view, options, wanted);

@@ -47,9 +47,15 @@ class Rows {
   std::string message_;
 };
 
+/// A step below 0 leads from the first value down to the last.
+template <class Visit>
+void countDown(const ParameterRange& range, const Visit& visit) {
+  const ParameterRange mirrored = {-range.inicio, -range.fin, -range.variacion};
+  forEachParameter(mirrored, [&](double value) { return visit(-value); });
+}
+
 int noSuchGraph(const Options& options, const Console& console) {
-  console.err << inLanguage("No hay un gráfico ", "There is no graph ")
-              << unprotected(options.graph) << '\n';
+  console.err << inLanguage("No hay un gráfico ", "There is no graph ") << options.graph << '\n';
   return kExitFailed;
 }
 
@@ -68,14 +74,18 @@ int table(const Options& options, const Console& console) {
   session.engine.SetP(p);
   Rows rows(console, session.engine);
   Progress progress(console.err);
-  forEachParameter(range, [&](double x) {
+  const auto write_row = [&](double x) {
     if (def->tipo == 'T')
       rows.writeParametric(*def, x);
     else
       rows.writeFunction(*def, x);
     progress.show([&] { return console.number(x); });
     return console.out.good();
-  });
+  };
+  if (range.variacion < 0)
+    countDown(range, write_row);
+  else
+    forEachParameter(range, write_row);
   return kExitDone;
 }
 

@@ -66,6 +66,19 @@ TEST_F(DocumentCommands, ResaveSaysWhenItCannotWrite) {
   EXPECT_EQ(run({"resave", example("waves.zel"), path("")}).status, 1);
 }
 
+TEST_F(DocumentCommands, TakeFileNamesOfAnyForm) {
+  const CurrentFolderGuard current{std::filesystem::path(path("")).parent_path()};
+  putBytes("-w.zel", bytesOf(example("waves.zel")));
+  putBytes("[w].zel", bytesOf(example("waves.zel")));
+  EXPECT_EQ(run({"check", "--", "-w.zel"}).status, 0);
+  EXPECT_EQ(run({"check", "[w].zel"}).status, 0);
+  EXPECT_EQ(run({"evaluate", "a(x)", "90", "--document", "[w].zel"}).out, "ok\t1\n");
+  EXPECT_EQ(run({"resave", "--", "-w.zel", "-v.zel"}).status, 0);
+  EXPECT_EQ(bytesOf("-v.zel"), bytesOf(example("waves.zel")));
+  EXPECT_EQ(run({"render", "[w].zel", "-o", "[w].svg"}).status, 0);
+  EXPECT_NE(bytesOf("[w].svg"), "");
+}
+
 TEST_F(DocumentCommands, NeedTheirFiles) {
   EXPECT_EQ(run({"check"}).status, 2);
   EXPECT_EQ(run({"resave", "a"}).status, 2);
@@ -104,6 +117,11 @@ TEST_F(TableCommand, EndsWhereTheStepNoLongerAdvances) {
   EXPECT_EQ(table("a", "9007199254740992", "9007199254740996", "1").out,
             "9,00719925474099E+15;1,11022302462516E-16\n");
   EXPECT_EQ(table("a", "2", "1", "1").out, "");
+}
+
+TEST_F(TableCommand, CountsDownWithAStepBelowZero) {
+  EXPECT_EQ(table("a", "1", "-1", "-1").out, "1;1\n0;\n-1;-1\n");
+  EXPECT_EQ(table("a", "0", "1", "-1").out, "");
 }
 
 TEST_F(TableCommand, RefusesAGraphThatIsNotThere) {

@@ -12,7 +12,7 @@ TEST_F(FormulaCommands, CompileGivesALineForEachFormula) {
 }
 
 TEST_F(FormulaCommands, CompileKeepsEachCodeOnItsLine) {
-  EXPECT_EQ(run({"compile", "x\n+\t1"}).out, "x + 1\n");
+  EXPECT_EQ(run({"compile", "x\n+\t1"}).out, "x +\t1\n");
 }
 
 TEST_F(FormulaCommands, CheckSaysOkOrTheMessage) {
