@@ -118,6 +118,14 @@ TEST_F(RenderCommand, RefusesAWrongCommandLine) {
   }
 }
 
+TEST_F(RenderCommand, TakesPicturesUpToTheirBoundToThePixel) {
+  EXPECT_NE(svg(line, {"--width", "16384", "--height", "8192"}), "");
+  EXPECT_NE(svg(line, {"--width", "32767", "--height", "1"}), "");
+  const Run larger = run({"render", line, "-o", path("larger.svg"), "--width", "16384", "--height",
+                          "8193"});
+  EXPECT_EQ(larger.status, 2);
+}
+
 TEST_F(RenderCommand, SaysWhenItCannotWrite) {
   const Run result = run({"render", line, "-o", path("no/folder.svg")});
   EXPECT_EQ(result.status, 1);
