@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <string>
 
 #include "base/language.h"
 #include "base/number_text.h"
@@ -13,63 +12,52 @@
 namespace zel {
 namespace {
 
-constexpr double kLargestFactorial = 170;
+constexpr Computed failed(Failure failure) { return {0, failure}; }
 
-Outcome syntaxError() { return Outcome::error(Localize("Error de sintaxis.")); }
-
-Outcome functionError(std::string_view name, std::string_view detail) {
-  return Outcome::error(Localize("Error en Función") + " '" + std::string(name) + "'\r\n" +
-                        Localize("Detalle") + ": " + Localize(detail));
-}
-
-Outcome divisorError(char op) {
-  return Outcome::error(std::string("Error: Operador ") + op + ": " +
-                        Localize("El denominador debe ser distinto de cero."));
+/// A value that is no finite number is a fault.
+Computed finite(double value) {
+  return std::isfinite(value) ? Computed{value, Failure::none} : failed(Failure::fault);
 }
 
 /// e^LnGamma(v) with the 15-digit e.
-Outcome gamma(double v) {
+Computed gamma(double v) {
   const auto logarithm = LnGamma(v);
-  if (!logarithm)
-    return Outcome::error(Localize("La función LnGamma no existe para el valor solicitado."));
-  return Outcome::of(std::pow(kEuler, *logarithm));
+  return logarithm ? finite(std::pow(kEuler, *logarithm)) : failed(Failure::no_ln_gamma);
 }
 
-Outcome lnGamma(double v) {
+Computed lnGamma(double v) {
   const auto logarithm = LnGamma(v);
-  if (!logarithm)
-    return Outcome::error(Localize("La función LnGamma no existe para el valor solicitado."));
-  return Outcome::of(*logarithm);
+  return logarithm ? finite(*logarithm) : failed(Failure::no_ln_gamma);
 }
 
-Outcome sign(double v) { return Outcome::of(v > 0 ? 1 : v < 0 ? -1 : 0); }
+Computed sign(double v) { return finite(v > 0 ? 1 : v < 0 ? -1 : 0); }
 
 /// Degrees to radians before the function, also before the arc tangent, whose argument is no angle:
 /// this is meant. Scaling a huge argument can overflow.
 template <class Function>
-Outcome ofDegrees(double v, Function function) {
+Computed ofDegrees(double v, Function function) {
   const double scaled = v * kPi;
-  return std::isfinite(scaled) ? Outcome::of(function(scaled / 180)) : Outcome::fault();
+  return std::isfinite(scaled) ? finite(function(scaled / 180)) : failed(Failure::fault);
 }
 
 bool takesLogarithm(std::int32_t code) { return code == 4 || code == 5; }
 bool takesRoot(std::int32_t code) { return code == 7 || code == 8 || code == 15 || code == 17; }
 
-Outcome computePrefixFunction(std::int32_t code, double v) {
+Computed computePrefixFunction(std::int32_t code, double v) {
   switch (code) {
     case 0: return lnGamma(v);
     case 1: return gamma(v);
-    case 2: return Outcome::of(std::fabs(v));
+    case 2: return finite(std::fabs(v));
     case 3:
     case 16: return sign(v);
-    case 4: return Outcome::of(std::log(v));
-    case 5: return Outcome::of(std::log10(v));
-    case 6: return Outcome::of(std::exp(v));
+    case 4: return finite(std::log(v));
+    case 5: return finite(std::log10(v));
+    case 6: return finite(std::exp(v));
     case 7:
-    case 15: return Outcome::of(std::sqrt(v));
+    case 15: return finite(std::sqrt(v));
     case 8:
-    case 17: return Outcome::of(std::pow(v, 1.0 / 3.0));
-    case 9: return v == 0 ? Outcome::fault() : Outcome::of(1 / v);
+    case 17: return finite(std::pow(v, 1.0 / 3.0));
+    case 9: return v == 0 ? failed(Failure::fault) : finite(1 / v);
     case 10:
     case 14: return ofDegrees(v, [](double radians) { return std::sin(radians); });
     case 11: return ofDegrees(v, [](double radians) { return std::cos(radians); });
@@ -78,43 +66,56 @@ Outcome computePrefixFunction(std::int32_t code, double v) {
   }
 }
 
-Outcome applyPrefixFunction(double function, double v) {
+Computed applyPrefixFunction(double function, double v) {
   const auto code = roundToInt32(function);
-  if (!code) return Outcome::fault();
-  if (*code < 0 || *code >= static_cast<std::int32_t>(PrefixFunctions.size())) return syntaxError();
-  const std::string_view name = PrefixFunctions[static_cast<std::size_t>(*code)];
-  if (takesLogarithm(*code) && !(v > 0))
-    return functionError(name, "El logaritmando debe ser numérico y mayor que cero.");
-  if (takesRoot(*code) && v < 0)
-    return functionError(name, "El valor debe ser numérico y mayor o igual que cero.");
+  if (!code) return failed(Failure::fault);
+  if (*code < 0 || *code >= static_cast<std::int32_t>(PrefixFunctions.size()))
+    return failed(Failure::syntax);
+  if (takesLogarithm(*code) && !(v > 0)) return failed(Failure::logarithm_of_negative);
+  if (takesRoot(*code) && v < 0) return failed(Failure::root_of_negative);
   return computePrefixFunction(*code, v);
 }
 
-Outcome factorial(double v) {
+Computed factorial(double v) {
   if (v != std::nearbyint(v)) return gamma(v + 1);
-  if (v == 0) return Outcome::of(1);
+  if (v == 0) return finite(1);
   double product = v;
   for (double i = 1; i <= v - 1; ++i) product *= v - i;
-  return Outcome::of(product);
+  return finite(product);
 }
 
-Outcome applyPostfixFunction(double v, double code) {
-  if (code != 0) return syntaxError();
-  if (v < 0) return functionError(PostfixFunctions[0], "El valor debe ser numérico y positivo.");
-  if (v > kLargestFactorial)
-    return functionError(PostfixFunctions[0], "El resultado es demasiado grande.");
+Computed applyPostfixFunction(double v, double code) {
+  if (code != 0) return failed(Failure::syntax);
+  if (v < 0) return failed(Failure::factorial_of_negative);
+  if (v > kLargestFactorial) return failed(Failure::factorial_too_large);
   return factorial(v);
 }
 
 /// Both values are rounded first, so a divisor that rounds to 0 is a fault and not the error of a
 /// divisor that is 0: this is meant.
-Outcome divideIntegers(double left, double right) {
+Computed divideIntegers(double left, double right) {
   const auto dividend = roundToInt32(left);
   const auto divisor = roundToInt32(right);
-  if (!dividend || !divisor || *divisor == 0) return Outcome::fault();
+  if (!dividend || !divisor || *divisor == 0) return failed(Failure::fault);
   if (*dividend == std::numeric_limits<std::int32_t>::min() && *divisor == -1)
-    return Outcome::fault();
-  return Outcome::of(*dividend / *divisor);
+    return failed(Failure::fault);
+  return finite(*dividend / *divisor);
+}
+
+/// The name of the function that "@" or "#" applied.
+std::string_view functionName(double left, char op) {
+  if (op == '#') return PostfixFunctions[0];
+  return PrefixFunctions[static_cast<std::size_t>(roundToInt32(left).value_or(0))];
+}
+
+std::string_view detail(Failure failure) {
+  switch (failure) {
+    case Failure::logarithm_of_negative:
+      return "El logaritmando debe ser numérico y mayor que cero.";
+    case Failure::root_of_negative: return "El valor debe ser numérico y mayor o igual que cero.";
+    case Failure::factorial_of_negative: return "El valor debe ser numérico y positivo.";
+    default: return "El resultado es demasiado grande.";
+  }
 }
 
 }  // namespace
@@ -141,17 +142,40 @@ std::optional<double> LnGamma(double v) {
   return result;
 }
 
-Outcome ApplyOperator(double left, double right, char op) {
+Computed ComputeOperator(double left, double right, char op) {
   switch (op) {
-    case '+': return Outcome::of(left + right);
-    case '-': return Outcome::of(left - right);
-    case '*': return Outcome::of(left * right);
-    case '/': return right == 0 ? divisorError(op) : Outcome::of(left / right);
-    case '\\': return right == 0 ? divisorError(op) : divideIntegers(left, right);
-    case '^': return Outcome::of(std::pow(left, right));
+    case '+': return finite(left + right);
+    case '-': return finite(left - right);
+    case '*': return finite(left * right);
+    case '/': return right == 0 ? failed(Failure::zero_divisor) : finite(left / right);
+    case '\\': return right == 0 ? failed(Failure::zero_divisor) : divideIntegers(left, right);
+    case '^': return finite(std::pow(left, right));
     case '@': return applyPrefixFunction(left, right);
     default: return applyPostfixFunction(left, right);
   }
+}
+
+std::string FailureMessage(Failure failure, double left, char op) {
+  switch (failure) {
+    case Failure::none:
+    case Failure::fault: return {};
+    case Failure::syntax: return Localize("Error de sintaxis.");
+    case Failure::no_ln_gamma:
+      return Localize("La función LnGamma no existe para el valor solicitado.");
+    case Failure::zero_divisor:
+      return std::string("Error: Operador ") + op + ": " +
+             Localize("El denominador debe ser distinto de cero.");
+    default:
+      return Localize("Error en Función") + " '" + std::string(functionName(left, op)) + "'\r\n" +
+             Localize("Detalle") + ": " + Localize(detail(failure));
+  }
+}
+
+Outcome ApplyOperator(double left, double right, char op) {
+  const Computed computed = ComputeOperator(left, right, op);
+  if (computed.failure == Failure::none) return Outcome::of(computed.value);
+  if (computed.failure == Failure::fault) return Outcome::fault();
+  return Outcome::error(FailureMessage(computed.failure, left, op));
 }
 
 double FlooredModulo(double a, double b) { return a - std::floor(a / b) * b; }

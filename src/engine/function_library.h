@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "engine/outcome.h"
@@ -13,11 +14,39 @@ namespace zel {
 inline constexpr double kEuler = 2.71828182845905;
 inline constexpr double kPi = 3.14159265358979;
 
+/// From 171 on a factorial is too large.
+inline constexpr double kLargestFactorial = 170;
+
 /// The natural logarithm of the gamma function; nothing where an arithmetic fault stops the series.
 std::optional<double> LnGamma(double v);
 
+/// Why an operation has no value. Each but the fault has a message.
+enum class Failure {
+  none,
+  fault,
+  syntax,
+  logarithm_of_negative,
+  root_of_negative,
+  factorial_of_negative,
+  factorial_too_large,
+  zero_divisor,
+  no_ln_gamma,
+};
+
+/// The value of an operation, or why it has none.
+struct Computed {
+  double value = 0;
+  Failure failure = Failure::none;
+};
+
 /// One of "+-\/*@^#" applied to two values. The function code of "@" is the left value, rounded;
 /// that of "#" is the right value, as it stands.
+Computed ComputeOperator(double left, double right, char op);
+
+/// The message of a failure of an operator with this left value, in the current language.
+std::string FailureMessage(Failure failure, double left, char op);
+
+/// ComputeOperator with the message of an error.
 Outcome ApplyOperator(double left, double right, char op);
 
 /// a - Int(a / b) * b, where Int rounds down. b must not be 0.

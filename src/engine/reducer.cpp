@@ -21,6 +21,15 @@ std::string splitMessage(SplitFailure failure, std::string_view text) {
   return Localize("Error: No se entiende el elemento: ") + "'" + std::string(text) + "'";
 }
 
+std::string_view textOf(char name, const NameTexts& names) {
+  switch (name) {
+    case 'x': return names.x;
+    case 't': return names.t;
+    case 'p': return names.p;
+    default: return kEulerText;
+  }
+}
+
 }  // namespace
 
 Outcome::Kind Reducer::reduce(std::string_view code, const NameTexts& names) {
@@ -29,12 +38,13 @@ Outcome::Kind Reducer::reduce(std::string_view code, const NameTexts& names) {
   message_.clear();
   std::string_view text = code;
   for (;;) {
-    const Descent descent = descend(text, names);
-    if (descent == Descent::failed) return Kind::error;
-    if (descent == Descent::split) {
-      text = stack_.back().split.left;
+    const Descent descent = descend(text, cache_);
+    if (descent.kind == Descent::Kind::split) {
+      stack_.push_back({descent.split, {}, false});
+      text = descent.split.left;
       continue;
     }
+    if (!borrow(descent, names)) return Kind::error;
     // The value goes up until a split still waits for its right operand.
     while (!stack_.empty() && stack_.back().has_left) {
       const Kind kind = apply(stack_.back());
@@ -48,40 +58,12 @@ Outcome::Kind Reducer::reduce(std::string_view code, const NameTexts& names) {
   }
 }
 
-Reducer::Descent Reducer::descend(std::string_view text, const NameTexts& names) {
-  if (isNumeric(text)) {
-    value_.borrow(text);
-    return Descent::reduced;
-  }
-  if (text.starts_with('(') && text.ends_with(')')) text = cache_.strip(text);
-  if (borrowName(text, names)) return Descent::reduced;
-
-  const Split split = cache_.split(text);
-  if (split.failure != SplitFailure::none) {
-    raise(splitMessage(split.failure, text));
-    return Descent::failed;
-  }
-  if (!split.left.empty() && !split.right.empty()) {
-    stack_.push_back({split, {}, false});
-    return Descent::split;
-  }
-  // Only a record of the cache comes without an operand and yet without a failure.
-  if (isNumeric(text)) {
-    value_.borrow(text);
-    return Descent::reduced;
-  }
-  raiseUnknownElement();
-  return Descent::failed;
-}
-
-bool Reducer::borrowName(std::string_view text, const NameTexts& names) {
-  if (text.size() != 1) return false;
-  switch (text[0]) {
-    case 'x': value_.borrow(names.x); return true;
-    case 't': value_.borrow(names.t); return true;
-    case 'p': value_.borrow(names.p); return true;
-    case 'e': value_.borrow(kEulerText); return true;
-    default: return false;
+bool Reducer::borrow(const Descent& leaf, const NameTexts& names) {
+  switch (leaf.kind) {
+    case Descent::Kind::number: value_.borrow(leaf.text); return true;
+    case Descent::Kind::name: value_.borrow(textOf(leaf.text[0], names)); return true;
+    case Descent::Kind::user_function: raiseUnknownElement(); return false;
+    default: raise(splitMessage(leaf.split.failure, leaf.text)); return false;
   }
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "engine/descent.h"
 #include "engine/outcome.h"
 #include "engine/parse_cache.h"
 
@@ -59,10 +60,8 @@ class Reducer {
     bool has_left = false;
   };
 
-  enum class Descent { reduced, split, failed };
-
-  Descent descend(std::string_view text, const NameTexts& names);
-  bool borrowName(std::string_view text, const NameTexts& names);
+  /// The text of what needs no further reduction; false where it is an error.
+  bool borrow(const Descent& leaf, const NameTexts& names);
   Outcome::Kind apply(const Pending& pending);
   void raise(std::string message) { message_ = std::move(message); }
   void raiseUnknownElement();

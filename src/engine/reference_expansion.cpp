@@ -32,12 +32,19 @@ std::string_view argumentAt(std::string_view text) {
   return {};
 }
 
+bool hasCall(std::string_view text) {
+  for (std::size_t i = 1; i < text.size(); ++i)
+    if (text[i] == '(' && text[i - 1] >= 'a' && text[i - 1] <= 'z') return true;
+  return false;
+}
+
 }  // namespace
 
 std::optional<std::string> ExpandReferences(std::string_view code, const GraphCodes& graphs,
                                             std::size_t limit) {
   if (code.size() > limit) return std::nullopt;
   std::string expanded(code);
+  if (!hasCall(code)) return expanded;
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const std::string opening = {letter, '('};
     const std::size_t call = expanded.find(opening);

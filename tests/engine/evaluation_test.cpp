@@ -72,6 +72,18 @@ TEST_F(Evaluation, KnowsTheValuesOfTheNames) {
   EXPECT_EQ(engine.GetP(), 0);
 }
 
+TEST_F(Evaluation, CannotReadANameWhoseTextIsTooLarge) {
+  EXPECT_EQ(evaluate("1/t+x"), "! Error: Operador /: El denominador debe ser distinto de cero.");
+  EXPECT_EQ(evaluate("t+x"), "= 1");
+  engine.SetT(1.7976931348623157e308);
+  EXPECT_EQ(evaluate("t*0+x"), kFault);
+  evaluate("x");
+  evaluate("ln(0)");  // starts from the first slot again
+  EXPECT_EQ(evaluate("x+1"), "= 2");
+  EXPECT_EQ(evaluate("t"), kFault);
+  EXPECT_EQ(evaluate("x*0", 1.7976931348623157e308), kFault);
+}
+
 TEST_F(Evaluation, ReportsWhatTheGrammarRejects) {
   struct Row {
     std::string_view formula, outcome;

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cmath>
+
+#include "base/decades.h"
+#include "base/instruction_sets.h"
+
+/// The steps of the rounding to 15 digits, to be compiled into loops for each instruction set.
+namespace zel {
+
+/// roundTo15Digits by way of the text, for any finite value: slow, and never wrong.
+double roundThroughText(double value);
+
+/// Added and taken away again, it rounds a magnitude below 2^51 to a whole number, half to even.
+inline constexpr double kWholeNumbers = 6755399441055744;  // 1.5 * 2^52
+
+/// The rounding of a value of one of the exact decades. Needs a fused multiply-add: the whole
+/// number is the exact product, rounded once, and so is the quotient.
+ZEL_ALWAYS_INLINE double roundInDecade(double value, double scale, double inverse, double drift) {
+  const double whole = std::fma(value, scale, kWholeNumbers) - kWholeNumbers;
+  return std::fma(whole, inverse, value * drift);
+}
+
+/// The exact decade that the last value was in; none to begin with. The next one mostly is there
+/// too.
+struct DecadeGuess {
+  double low = 1;
+  double high = 0;
+  double scale = 0;
+  double inverse = 0;
+  double drift = 0;
+
+  ZEL_ALWAYS_INLINE bool holds(double value) const {
+    const double magnitude = std::fabs(value);
+    return (magnitude >= low) & (magnitude < high);
+  }
+  ZEL_ALWAYS_INLINE double round(double value) const {
+    return roundInDecade(value, scale, inverse, drift);
+  }
+  /// Any value will do; one that is in no exact decade changes nothing.
+  void moveTo(double value) {
+    const int exponent = decadeOf(std::fabs(value));
+    if (exponent < kLowestExactDecade || exponent > kHighestExactDecade) return;
+    const Decade& in = decade(exponent);
+    *this = {in.low, in.high, in.scale, in.inverse, in.drift};
+  }
+};
+
+constexpr bool isExactDecade(int exponent) {
+  return exponent >= kLowestExactDecade && exponent <= kHighestExactDecade;
+}
+
+/// The rounding of a value of any decade of the table, for an arithmetic that knows the remainder
+/// of a product. Where it cannot decide, the text does.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE double roundWithChecks(double value, const Decade& in) {
+  constexpr double kTieZone = 0x1p-30;
+  constexpr double kRelativeError = 0x1p-44;
+  const double whole = (value * in.scale + kWholeNumbers) - kWholeNumbers;
+  double remainder = Arithmetic::remainder(value, in.scale, whole) + value * in.scale_rest;
+  remainder -= (remainder + kWholeNumbers) - kWholeNumbers;
+  const double step = remainder * in.inverse;
+  const double rounded = value - step * (1 + kRelativeError);
+  const bool decided = std::fabs(std::fabs(remainder) - 0.5) > kTieZone &&
+                       rounded == value - step * (1 - kRelativeError);
+  return decided ? rounded : roundThroughText(value);
+}
+
+/// value * factor - whole, where `whole` is close to the product.
+struct PlainArithmetic {
+  static constexpr bool kIsFused = false;
+  static ZEL_ALWAYS_INLINE double remainder(double value, double factor, double whole) {
+    const DoubleDouble product = multiplyExactly(value, factor);
+    return (product.high - whole) + product.low;
+  }
+  static ZEL_ALWAYS_INLINE double round(double value, const Decade& in, int) {
+    return roundWithChecks<PlainArithmetic>(value, in);
+  }
+};
+
+/// The same for targets that have an instruction for it.
+struct FusedArithmetic {
+  static constexpr bool kIsFused = true;
+  static ZEL_ALWAYS_INLINE double remainder(double value, double factor, double whole) {
+    return std::fma(value, factor, -whole);
+  }
+  static ZEL_ALWAYS_INLINE double round(double value, const Decade& in, int exponent) {
+    return isExactDecade(exponent) ? roundInDecade(value, in.scale, in.inverse, in.drift)
+                                   : roundWithChecks<FusedArithmetic>(value, in);
+  }
+};
+
+/// roundTo15Digits of any finite value.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE double roundAny(double value) {
+  if (value == 0) return 0;
+  const int exponent = decadeOf(std::fabs(value));
+  if (exponent > kHighestDecade) return roundThroughText(value);
+  return Arithmetic::round(value, decade(exponent), exponent);
+}
+
+}  // namespace zel

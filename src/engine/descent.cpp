@@ -1,0 +1,25 @@
+#include "engine/descent.h"
+
+#include "base/number_text.h"
+
+namespace zel {
+namespace {
+
+bool isName(std::string_view text) {
+  return text == "x" || text == "t" || text == "p" || text == "e";
+}
+
+}  // namespace
+
+Descent descend(std::string_view text, ParseCache& cache) {
+  using Kind = Descent::Kind;
+  if (isNumeric(text)) return {Kind::number, text, {}};
+  if (text.starts_with('(') && text.ends_with(')')) text = cache.strip(text);
+  if (isName(text)) return {Kind::name, text, {}};
+  const Split split = cache.split(text);
+  if (split.failure != SplitFailure::none) return {Kind::failed, text, split};
+  if (!split.left.empty() && !split.right.empty()) return {Kind::split, text, split};
+  return {isNumeric(text) ? Kind::number : Kind::user_function, text, split};
+}
+
+}  // namespace zel

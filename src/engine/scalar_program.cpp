@@ -1,0 +1,104 @@
+#include "engine/scalar_program.h"
+
+#include <cmath>
+
+#include "engine/operation_steps.h"
+#include "engine/power_shortcuts.h"
+
+namespace zel {
+namespace {
+
+struct PlainSteps {
+  static bool round(double& value, DecadeGuess&) {
+    if (!std::isfinite(value)) return false;
+    value = roundAny<PlainArithmetic>(value);
+    return std::isfinite(value);
+  }
+  template <Kind kind>
+  static double apply(double left, double right, char op, const DecadeGuess&) {
+    return compute<kind>(left, right, op);
+  }
+};
+
+#if ZEL_HAS_TARGETS
+struct FusedSteps {
+  /// The rounding of a value that was not where it was guessed to be; not finite where it is none.
+  [[gnu::noinline]] ZEL_TARGET_V3 static double roundElsewhere(double value, DecadeGuess& guess) {
+    if (!std::isfinite(value)) return kNone;
+    guess.moveTo(value);
+    return roundAny<FusedArithmetic>(value);
+  }
+  static ZEL_ALWAYS_INLINE bool round(double& value, DecadeGuess& guess) {
+    if (guess.holds(value)) [[likely]] {
+      value = guess.round(value);
+      return true;
+    }
+    value = roundElsewhere(value, guess);
+    return std::isfinite(value);
+  }
+  template <Kind kind>
+  static ZEL_ALWAYS_INLINE double apply(double left, double right, char op,
+                                        const DecadeGuess& guess) {
+    if constexpr (hasShortcut(kind)) {
+      const DoubleDouble power = shortcut<kind>(left);
+      if (guess.holds(power.high) && !isDoubtful(power, guess.scale)) return power.high;
+    }
+    return compute<kind>(left, right, op);
+  }
+};
+#endif
+
+}  // namespace
+
+template <class Steps>
+ZEL_ALWAYS_INLINE double ScalarProgram::run(ScalarProgram& program, double x, double t, double p) {
+  double* const values = program.values_.data();
+  if (!Steps::round(x, program.guess_of_x_)) return kNone;
+  values[Plan::kX] = x;
+  values[Plan::kT] = t;
+  values[Plan::kP] = p;
+  std::uint32_t last = Plan::kX;
+  double value = x;
+  for (Step& step : program.steps_) {
+    const Operation& operation = step.operation;
+    DecadeGuess& guess = step.guess;
+    // What was computed last comes sooner from its register than from memory.
+    const double left = operation.left == last ? value : values[operation.left];
+    const double right = operation.right == last ? value : values[operation.right];
+    value = withKind(operation.kind, [&]<Kind kind>() ZEL_INLINE_LAMBDA {
+      return Steps::template apply<kind>(left, right, operation.op, guess);
+    });
+    if (!Steps::round(value, guess)) return kNone;
+    last = operation.result;
+    values[last] = value;
+  }
+  return values[program.result_];
+}
+
+double ScalarProgram::runPlain(ScalarProgram& program, double x, double t, double p) {
+  return run<PlainSteps>(program, x, t, p);
+}
+
+#if ZEL_HAS_TARGETS
+ZEL_TARGET_V3 double ScalarProgram::runFused(ScalarProgram& program, double x, double t, double p) {
+  return run<FusedSteps>(program, x, t, p);
+}
+#endif
+
+double ScalarProgram::giveUp(ScalarProgram&, double, double, double) { return kNone; }
+
+ScalarProgram::Run ScalarProgram::runFor(const Plan& plan, InstructionSet set) {
+  if (!plan.isPlain()) return giveUp;
+#if ZEL_HAS_TARGETS
+  if (set != InstructionSet::baseline) return runFused;
+#endif
+  static_cast<void>(set);
+  return runPlain;
+}
+
+ScalarProgram::ScalarProgram(const Plan& plan, InstructionSet set)
+    : values_(plan.values()), result_(plan.result()), run_(runFor(plan, set)) {
+  for (const Operation& operation : plan.operations()) steps_.push_back({operation, {}});
+}
+
+}  // namespace zel

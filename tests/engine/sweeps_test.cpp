@@ -1,0 +1,183 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "engine_fixture.h"
+
+namespace zel::test {
+namespace {
+
+class Sweeps : public EngineTest {
+ protected:
+  /// The values as number texts, "-" where there is none.
+  std::string sweep(std::string_view code, const std::vector<double>& xs) {
+    std::vector<double> values(xs.size());
+    engine.EvaluateSweep(code, xs, values);
+    return texts(values);
+  }
+
+  static std::string texts(const std::vector<double>& values) {
+    std::string text;
+    for (const double value : values)
+      text += (text.empty() ? "" : " ") + (std::isnan(value) ? "-" : writeNumber(value).str());
+    return text;
+  }
+
+  static std::vector<double> range(double first, std::size_t count) {
+    std::vector<double> xs(count);
+    for (std::size_t i = 0; i < count; ++i) xs[i] = first + static_cast<double>(i);
+    return xs;
+  }
+
+  std::string slots(std::size_t count) const {
+    std::string text;
+    for (std::size_t i = 1; i <= count; ++i) text += std::string(engine.parseCache().slot(i)) + "|";
+    return text;
+  }
+};
+
+TEST_F(Sweeps, GiveAValueForEachX) {
+  EXPECT_EQ(sweep("x^2-1", range(-3, 7)), "8 3 0 -1 0 3 8");
+  EXPECT_EQ(sweep("x^2-1", {}), "");
+  EXPECT_EQ(sweep("x^2-1", {5}), "24");
+}
+
+TEST_F(Sweeps, RoundToFifteenDigitsAfterEveryStep) {
+  EXPECT_EQ(sweep("(1/x)*x", range(1, 7)), "1 1 0,999999999999999 1 1 1 1");
+}
+
+TEST_F(Sweeps, HaveNoValueWhereTheCodeIsUndefined) {
+  EXPECT_EQ(sweep("7@x", range(-2, 6)), "- - 0 1 1,4142135623731 1,73205080756888");
+  EXPECT_EQ(sweep("1/x", range(-2, 6)), "-0,5 -1 - 1 0,5 0,333333333333333");
+  EXPECT_EQ(sweep("x)", range(-2, 6)), "- - - - - -");
+}
+
+TEST_F(Sweeps, LeaveTheParseCacheAsTheLastEvaluationDoes) {
+  sweep("4@x", range(-3, 7));
+  EXPECT_EQ(engine.parseCache().code(), "4@x");
+  EXPECT_EQ(slots(4), "4|x|@||");
+  sweep("4@x", range(-9, 7));
+  EXPECT_EQ(engine.parseCache().code(), "");
+  EXPECT_EQ(engine.parseCache().position(), 1u);
+}
+
+TEST_F(Sweeps, OfErrorsAloneRecordAsFarAsTheFurthestCame) {
+  sweep("x+5*2", {1});
+  EXPECT_EQ(slots(6), "x|5*2|+|5|2|*|");
+  // The square root fails before the sum on its right is taken apart.
+  EXPECT_EQ(sweep("7@x+(x+1)", range(-9, 8)), "- - - - - - - -");
+  EXPECT_EQ(slots(9), "7@x|x+1|+|7|x|@||||");
+}
+
+TEST_F(Sweeps, GoThroughAFaultAsSingleEvaluationsDo) {
+  // At 0 the record is read on from where the fault stopped, and there is nothing.
+  EXPECT_EQ(sweep("9@(x)", range(-3, 8)),
+            "-0,333333333333333 -0,5 -1 - - 0,5 0,333333333333333 "
+            "0,25");
+  // A fault before the record is valid mixes it with what comes next.
+  EXPECT_EQ(sweep("1+9@x*2", range(0, 6)), "- 3 2 1,66666666666667 1,5 1,4");
+}
+
+TEST_F(Sweeps, ReplayAMixedRecordUntilAnErrorEndsIt) {
+  EXPECT_EQ(evaluateCode("9@x+4@x", 0), kFault);
+  EXPECT_EQ(evaluateCode("9@x+4@x", 1), "= 1");
+  // Now the slots hold 9@x+(9@x+4@x).
+  EXPECT_EQ(sweep("9@x+4@x", std::vector<double>(20, 1)),
+            "2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2");
+  EXPECT_EQ(sweep("9@x+4@x", {1, -1, 1, 1, 1, 1}), "2 - 1 1 1 1");
+}
+
+TEST_F(Sweeps, GoThroughALongRunOfFaults) {
+  // Each fault records anew until no slot is left.
+  std::vector<double> xs = range(-300, 300);
+  std::vector<double> values(xs.size());
+  engine.EvaluateSweep("x^0,5", xs, values);
+  EXPECT_TRUE(std::all_of(values.begin(), values.end(), [](double y) { return std::isnan(y); }));
+  EXPECT_EQ(engine.parseCache().position(), 121u);
+  EXPECT_EQ(engine.parseCache().code(), "");
+  EXPECT_EQ(sweep("x^0,5", range(-4, 9)), "- - - - 0 1 1,4142135623731 1,73205080756888 2");
+  EXPECT_EQ(engine.parseCache().code(), "x^0,5");
+}
+
+TEST_F(Sweeps, EndARunOfFaultsWithAValueThatCannotBeRead) {
+  sweep("x^0,5", range(-300, 200));
+  EXPECT_EQ(engine.parseCache().position(), 121u);
+  EXPECT_EQ(sweep("x", std::vector<double>(6, 1.7976931348623157e308)), "- - - - - -");
+  EXPECT_EQ(engine.parseCache().position(), 1u);
+  EXPECT_EQ(engine.parseCache().code(), "x");
+}
+
+TEST_F(Sweeps, KnowTheValuesOfTheNames) {
+  engine.SetT(3);
+  engine.SetP(100);
+  EXPECT_EQ(sweep("x+t+p", range(0, 5)), "103 104 105 106 107");
+}
+
+TEST_F(Sweeps, PassOverWhatIsNoFiniteNumber) {
+  EXPECT_EQ(sweep("x+1", {HUGE_VAL, 1, std::nan(""), 2, 3, 4}), "- 2 - 3 4 5");
+  EXPECT_EQ(sweep("x+1", {std::nan(""), std::nan(""), std::nan(""), HUGE_VAL}), "- - - -");
+}
+
+TEST_F(Sweeps, TakeTheGraphsOfTheirTime) {
+  graphCode('f') = "x+1";
+  EXPECT_EQ(sweep("2*f(x)", range(0, 4)), "1 3 5 7");
+  graphCode('f') = "x-1";
+  EXPECT_EQ(sweep("2*f(x)", range(0, 4)), "1 3 5 7") << "the expansion of the last code is kept";
+  sweep("x", {1});
+  EXPECT_EQ(sweep("2*f(x)", range(0, 4)), "-1 1 3 5");
+}
+
+TEST_F(Sweeps, OfACurveSetTBeforeEachPoint) {
+  const auto ts = range(-2, 5);
+  std::vector<double> xs(ts.size());
+  std::vector<double> ys(ts.size());
+  engine.SetT(50);
+  engine.EvaluateCurve("t*10+x", "7@t", ts, xs, ys);
+  EXPECT_EQ(texts(xs), "-22 -11 0 11 22");
+  EXPECT_EQ(texts(ys), "- - 0 1 1,4142135623731");
+  EXPECT_EQ(evaluateCode("t"), "= 2");
+}
+
+TEST_F(Sweeps, OfACurveLeaveTheRecordsOfBothCodes) {
+  const auto ts = range(1, 20);
+  std::vector<double> xs(ts.size());
+  std::vector<double> ys(ts.size());
+  engine.EvaluateCurve("t*10+x", "7@t", ts, xs, ys);
+  EXPECT_EQ(slots(6), "7|t|@|t|10|*|");
+  EXPECT_EQ(engine.parseCache().code(), "7@t");
+}
+
+TEST_F(Sweeps, OfACurveBeginWithTheMixedRecordOfItsFirstCode) {
+  EXPECT_EQ(evaluateCode("9@x+x*2", 0), kFault);
+  EXPECT_EQ(evaluateCode("9@x+x*2", 1), "= 3");
+  const std::vector<double> ts(6, 1);
+  std::vector<double> xs(ts.size());
+  std::vector<double> ys(ts.size());
+  engine.EvaluateCurve("9@x+x*2", "t", ts, xs, ys);
+  EXPECT_EQ(texts(xs), "4 3 3 3 3 3");
+}
+
+TEST_F(Sweeps, OfACurveThatEndsInErrorsKeepTheRecordsFromBefore) {
+  const auto ts = range(0, 20);
+  std::vector<double> xs(ts.size());
+  std::vector<double> ys(ts.size());
+  // From 10 on the first code fails before its right side is taken apart.
+  engine.EvaluateCurve("7@(9-t)+(t+1)", "t*2", ts, xs, ys);
+  EXPECT_EQ(slots(12), "t|2|*|7|9-t|@|9|t|-|t|1|+|");
+  EXPECT_TRUE(std::isnan(xs[10]));
+  EXPECT_EQ(ys[19], 38);
+}
+
+TEST_F(Sweeps, OfACurveWithOneCodeReplayItForY) {
+  const auto ts = range(0, 6);
+  std::vector<double> xs(ts.size());
+  std::vector<double> ys(ts.size());
+  engine.EvaluateCurve("t^2", "t^2", ts, xs, ys);
+  EXPECT_EQ(texts(xs), "0 1 4 9 16 25");
+  EXPECT_EQ(texts(ys), "0 1 4 9 16 25");
+}
+
+}  // namespace
+}  // namespace zel::test
