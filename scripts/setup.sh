@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
 # Installs the Debian packages of the named groups that are missing, and nothing else:
-#   scripts/setup.sh build|test|wine|fuzz|tidy|format|coverage...
+#   scripts/setup.sh build|test|wine|bench|fuzz|tidy|format|coverage...
 set -euo pipefail
 
 declare -A groups=(
-  [build]="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n libcli11-dev nlohmann-json3-dev
-    libgtest-dev libgmock-dev libbenchmark-dev"
-  [test]="desktop-file-utils g++-mingw-w64-x86-64-posix git imagemagick libglib2.0-bin libxml2-utils
-    locales openbox poppler-utils python3 shared-mime-info strace x11-utils xdg-utils xdotool xvfb"
+  [build]="cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-translations-l10n libpng-dev
+    libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev"
+  [test]="cups-daemon desktop-file-utils g++-mingw-w64-x86-64-posix git imagemagick
+    libglib2.0-bin libxml2-utils locales openbox poppler-utils python3 shared-mime-info strace
+    x11-utils xclip xdg-utils xdotool xvfb"
   [wine]="wine64"
-  [bench]="python3 x11-utils xvfb"
+  [bench]="gnuplot-nox libbenchmark-dev libmuparser-dev python3 x11-utils xvfb"
   [fuzz]="clang libclang-rt-14-dev"
   [tidy]="clang clang-tidy"
   [format]="clang-format"

@@ -5,7 +5,6 @@
 
 #include "app/program.h"
 #include "platform/desktop_services.h"
-#include "platform/widgets/program_icon.h"
 #include "platform/widgets/widget_services.h"
 #include "windows/windows.h"
 
@@ -28,7 +27,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("zel");
   QApplication::setDesktopFileName("zel");
-  QApplication::setWindowIcon(zel::programIcon());
   QApplication::setQuitOnLastWindowClosed(false);
 
   const QFileInfo file(QApplication::applicationFilePath());
@@ -36,7 +34,8 @@ int main(int argc, char** argv) {
   zel::WidgetServices widgets(folder);
   const zel::DesktopServices desktop = zel::makeDesktopServices(file.filePath().toStdString());
   zel::Program program({widgets.boxes, widgets.files, widgets.colours, widgets.help,
-                        *desktop.registry, *desktop.browser, *desktop.mail});
+                        *desktop.registry, *desktop.browser, *desktop.mail, widgets.inputs,
+                        widgets.clipboard, widgets.printer});
   program.place = {folder, file.completeBaseName().toStdString()};
   program.end_process = endProcess;
 

@@ -12,6 +12,15 @@ double numberOf(const FormValue& value) {
   return 0;
 }
 
+void addViewAlone(FormParams& params, const ViewSettings& view) {
+  params.removeAll();
+  params.Add("xi", view.xi);
+  params.Add("xf", view.xf);
+  params.Add("yi", view.yi);
+  params.Add("yf", view.yf);
+  params.Add("definicion", view.definicion);
+}
+
 }  // namespace
 
 ViewSettings viewIn(const FormParams& params) {
@@ -27,13 +36,14 @@ ViewSettings viewIn(const FormParams& params) {
 }
 
 void handViewOver(FormParams& params, const ViewSettings& view, FormWindow* sender) {
-  params.removeAll();
-  params.Add("xi", view.xi);
-  params.Add("xf", view.xf);
-  params.Add("yi", view.yi);
-  params.Add("yf", view.yf);
-  params.Add("definicion", view.definicion);
+  addViewAlone(params, view);
   params.Add("llamador", sender);
+}
+
+void handPlotOver(FormParams& params, const ViewSettings& view, FormWindow* plot) {
+  addViewAlone(params, view);
+  params.Add("imprimir", plot);
+  params.Add("llamador", plot);
 }
 
 }  // namespace zel

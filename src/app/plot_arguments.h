@@ -13,4 +13,7 @@ ViewSettings viewIn(const FormParams& params);
 /// Empties FormParams and adds the view, without "mantener_prop", and "llamador", the sender.
 void handViewOver(FormParams& params, const ViewSettings& view, FormWindow* sender);
 
+/// The same with "imprimir" before "llamador", both the plot window: for the print window.
+void handPlotOver(FormParams& params, const ViewSettings& view, FormWindow* plot);
+
 }  // namespace zel

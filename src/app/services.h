@@ -4,6 +4,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "plot/drawing_list.h"
 
 /// What the program asks of the platform. Each service is handed in at start, so that tests can
 /// record what was asked and preset the answers. Texts and paths are UTF-8.
@@ -84,6 +87,67 @@ class MailClient {
   virtual bool send() = 0;
 };
 
+/// A box that asks for one line of text.
+class InputBoxes {
+ public:
+  virtual ~InputBoxes() = default;
+  /// What the user typed, as it is; nothing when the user cancels. The prompt may have several
+  /// lines.
+  virtual std::optional<std::string> ask(const std::string& prompt, const std::string& title) = 0;
+};
+
+/// Pixels row by row from the top, each 0xffRRGGBB.
+struct Bitmap {
+  int width = 0;
+  int height = 0;
+  std::vector<std::uint32_t> pixels;
+
+  bool operator==(const Bitmap&) const = default;
+};
+
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+  virtual void clear() = 0;
+  virtual void putBitmap(const Bitmap& bitmap) = 0;
+};
+
+/// Lengths on paper are in twips, 1440 to an inch.
+struct PaperSize {
+  double width = 0;
+  double height = 0;
+
+  bool operator==(const PaperSize&) const = default;
+};
+
+enum class PageOrientation { portrait, landscape };
+
+/// A picture on one page. It is cut at the page's edges.
+struct PrintJob {
+  PageOrientation orientation = PageOrientation::portrait;
+  Point position;  // of the picture, in twips from the left and top edges of the paper
+  PaperSize size;  // of the picture; its drawing has the same units
+  const DrawingList& drawing;
+  const Bitmap& bitmap;  // the same picture, for a drawing that is full
+};
+
+enum class PrintOutcome {
+  printed,
+  cancelled,    // by the user
+  not_started,  // the printer takes no job
+  failed,       // while printing, or when the job was ended
+};
+
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  /// The paper from edge to edge, as it lies in this orientation; nothing when there is no printer
+  /// or it names no paper.
+  virtual std::optional<PaperSize> paper(PageOrientation orientation) = 0;
+  /// Lets the user choose the printer first, and ends the job, so that the page comes out.
+  virtual PrintOutcome print(const PrintJob& job) = 0;
+};
+
 /// All of them; the objects outlive the program.
 struct Services {
   MessageBoxes& boxes;
@@ -93,6 +157,9 @@ struct Services {
   ClassRegistry& registry;
   Browser& browser;
   MailClient& mail;
+  InputBoxes& inputs;
+  Clipboard& clipboard;
+  Printer& printer;
 };
 
 }  // namespace zel

@@ -5,6 +5,7 @@
 #include "engine/engine.h"
 #include "graphs/graph_def.h"
 #include "plot/picture.h"
+#include "plot/sample_grid.h"
 #include "plot/screen.h"
 #include "plot/viewport.h"
 
@@ -19,19 +20,21 @@ class DrawingFlag {
   virtual ~DrawingFlag() = default;
   virtual void set(bool in_progress) = 0;
   virtual bool isSet() const = 0;
+  /// Whether another redraw owns the picture by now; asked wherever pending events ran.
+  virtual bool isAbandoned() const = 0;
 };
 
 /// What a curve is drawn with.
 struct CurveTools {
   const Viewport& viewport;
+  const SampleGrid& grid;
   Engine& engine;
   Picture& picture;
   Screen& screen;
   DrawingFlag& in_progress;
 };
 
-/// Samples the code from `xi` to `xf` by repeated addition of the x step. A step that does not lead
-/// on towards `xf` ends the sweep as if it had run out.
+/// Samples the code on the grid.
 void sweepFunction(const CurveTools& tools, std::string_view code);
 
 /// Draws the branches "codigo1" and "codigo2" of a conic, then joins their ends with its vertices.

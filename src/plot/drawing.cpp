@@ -81,7 +81,8 @@ RedrawOutcome Drawing::drawOnce(Viewport& viewport, const ScaleMarks& marks) {
 }
 
 RedrawOutcome Drawing::drawGraphs(const Viewport& viewport, Flag& flag) {
-  const CurveTools tools = {viewport, engine_, picture_, screen_, flag};
+  const SampleGrid grid(viewport);
+  const CurveTools tools = {viewport, grid, engine_, picture_, screen_, flag};
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const auto def = graphs_.graph(letter);
     if (!def || !def->defined) continue;

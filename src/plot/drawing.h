@@ -62,7 +62,7 @@ class Drawing {
     Flag(Drawing& drawing, std::uint64_t number) : drawing_(drawing), number_(number) {}
     void set(bool in_progress) override { drawing_.in_progress_ = in_progress; }
     bool isSet() const override { return drawing_.in_progress_ && !isAbandoned(); }
-    bool isAbandoned() const { return number_ != drawing_.latest_; }
+    bool isAbandoned() const override { return number_ != drawing_.latest_; }
 
    private:
     Drawing& drawing_;

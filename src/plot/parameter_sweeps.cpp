@@ -1,3 +1,7 @@
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <span>
 #include <string>
 
 #include "plot/curve.h"
@@ -6,36 +10,67 @@
 namespace zel {
 namespace {
 
-constexpr double kDotRadius = 20;  // twips
+constexpr double kDotRadius = 20;        // twips
+constexpr std::size_t kCurveBlock = 64;  // samples that are evaluated in one go
+
+/// Draws a parametric curve sample by sample.
+class CurveSweep {
+ public:
+  CurveSweep(const CurveTools& tools, const GraphDef& def)
+      : tools_(tools), code_x_(parameter(def, "codigo_xt")), code_y_(parameter(def, "codigo_yt")) {}
+
+  /// Takes the next t. False when the curve has been stopped.
+  bool take(double t) {
+    ts_[count_++] = t;
+    return count_ < kCurveBlock || flush();
+  }
+
+  /// Draws what was taken.
+  bool flush() {
+    std::array<double, kCurveBlock> xs;
+    std::array<double, kCurveBlock> ys;
+    const std::size_t count = count_;
+    count_ = 0;
+    tools_.engine.EvaluateCurve(code_x_, code_y_, std::span(ts_).first(count),
+                                std::span(xs).first(count), std::span(ys).first(count));
+    for (std::size_t i = 0; i < count; ++i) {
+      const bool defined = !std::isnan(xs[i]) && !std::isnan(ys[i]);
+      if (defined && tools_.viewport.isInside(xs[i], ys[i]))
+        draw(tools_.viewport.map(xs[i], ys[i]));
+      tools_.screen.runPendingEvents();
+      if (!tools_.in_progress.isSet()) return false;
+    }
+    return true;
+  }
+
+ private:
+  void draw(Point point) {
+    if (pen_up_)
+      tools_.picture.startPiece(point);
+    else
+      tools_.picture.extendPiece(point);
+    pen_up_ = false;
+    tools_.picture.dot(point, kDotRadius);
+  }
+
+  const CurveTools& tools_;
+  std::string code_x_;
+  std::string code_y_;
+  std::array<double, kCurveBlock> ts_;
+  std::size_t count_ = 0;
+  bool pen_up_ = true;
+};
 
 }  // namespace
 
 bool sweepParametric(const CurveTools& tools, const GraphDef& def) {
   const auto range = parameterRange(def);
   if (!range) return false;
-  const std::string code_x = parameter(def, "codigo_xt");
-  const std::string code_y = parameter(def, "codigo_yt");
-  std::string message;
-  bool pen_up = true;
+  CurveSweep sweep(tools, def);
   tools.in_progress.set(true);
-  forEachParameter(*range, [&](double t) {
-    double x = 0;
-    double y = 0;
-    tools.engine.SetT(t);
-    const bool has_x = tools.engine.Evaluate(t, x, code_x, message);
-    const bool has_y = tools.engine.Evaluate(t, y, code_y, message);
-    if (has_x && has_y && tools.viewport.isInside(x, y)) {
-      const Point point = tools.viewport.map(x, y);
-      if (pen_up)
-        tools.picture.startPiece(point);
-      else
-        tools.picture.extendPiece(point);
-      pen_up = false;
-      tools.picture.dot(point, kDotRadius);
-    }
-    tools.screen.runPendingEvents();
-    return tools.in_progress.isSet();
-  });
+  bool goes_on = true;
+  forEachParameter(*range, [&](double t) { return goes_on = sweep.take(t); });
+  if (goes_on) sweep.flush();
   tools.in_progress.set(false);
   return true;
 }

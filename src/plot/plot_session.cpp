@@ -3,16 +3,13 @@
 #include "base/language.h"
 
 namespace zel {
-namespace {
-
-constexpr char32_t kEscape = 27;
-constexpr char32_t kSpace = 32;
-
-}  // namespace
-
 PlotSession::PlotSession(Engine& engine, const GraphTable& graphs, Picture& picture, Screen& screen,
                          PlotListener& listener)
-    : drawing_(engine, graphs, picture, screen), screen_(screen), listener_(listener) {}
+    : engine_(engine),
+      graphs_(graphs),
+      drawing_(engine, graphs, picture, screen),
+      screen_(screen),
+      listener_(listener) {}
 
 void PlotSession::open(const ViewSettings& view, const ScaleMarks& marks) {
   drawing_.giveUp();
@@ -20,8 +17,20 @@ void PlotSession::open(const ViewSettings& view, const ScaleMarks& marks) {
   opened_view_ = view;
   marks_ = marks;
   mode_ = PlotMode::normal;
+  cursor_.reset();
+  trace_.reset();
+  rectangle_ = {};
+  is_dragging_ = false;
+  active_.reset();
+  activateFirst();
   state_ = State::opened;
   ++opened_count_;
+  listener_.toolsChanged();
+}
+
+void PlotSession::activateFirst() {
+  const auto first = graphs_.nextDefined('z');
+  if (first && first->defined) active_ = first->nombre;
 }
 
 void PlotSession::close() {
@@ -33,16 +42,31 @@ void PlotSession::drawFirst() {
   if (state_ == State::opened) redraw();
 }
 
-void PlotSession::redraw() {
-  if (state_ == State::closed || state_ == State::refused) return;
+void PlotSession::redraw() { drawView(); }
+
+bool PlotSession::drawView() {
+  if (state_ == State::closed || state_ == State::refused) return false;
   state_ = State::drawn;
   const RedrawOutcome outcome = drawing_.redraw(viewport_, marks_);
   // Whatever put an end to it, another redraw or a close, has the say now.
-  if (outcome == RedrawOutcome::abandoned) return;
+  if (outcome == RedrawOutcome::abandoned) return false;
   if (outcome != RedrawOutcome::drawn) state_ = State::refused;
   const auto opening = opened_count_;
   listener_.pictureDrawn();
-  if (state_ == State::refused && opening == opened_count_) report(outcome);
+  if (opening != opened_count_) return false;
+  if (state_ == State::refused) report(outcome);
+  return isDrawn();
+}
+
+bool PlotSession::takeView(const ViewSettings& view) {
+  if (!isFinite(view)) {
+    drawing_.giveUp();
+    state_ = State::refused;
+    report(RedrawOutcome::failed);
+    return false;
+  }
+  viewport_.view = view;
+  return true;
 }
 
 void PlotSession::report(RedrawOutcome outcome) {
@@ -62,13 +86,13 @@ void PlotSession::resize(const PictureSize& size) {
   redraw();
 }
 
-void PlotSession::keyPressed(char32_t key) {
-  if (key == kEscape || key == kSpace) drawing_.stop();
-}
-
 void PlotSession::setMode(PlotMode mode) {
   mode_ = mode;
-  if (mode != PlotMode::recorrido) screen_.showStatus(rangeStatus(viewport_.view));
+  if (mode != PlotMode::recorrido) {
+    cursor_.reset();
+    screen_.showStatus(rangeStatus(viewport_.view));
+  }
+  listener_.toolsChanged();
 }
 
 }  // namespace zel

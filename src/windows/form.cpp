@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QWindow>
 
 #include "base/language.h"
 
@@ -34,6 +35,13 @@ void Form::showForm() {
   show();
   raise();
   activateWindow();
+}
+
+void Form::layOverCaller() {
+  auto* caller = dynamic_cast<QWidget*>(callerOf(program_.params));
+  if (!caller || !caller->windowHandle()) return;
+  winId();  // makes the window handle
+  windowHandle()->setTransientParent(caller->windowHandle());
 }
 
 void Form::returnToCaller() {

@@ -45,6 +45,10 @@ class Form : public QMainWindow, public FormWindow {
   /// Called by showForm before the window is shown: reads FormParams.
   virtual void takeArguments() {}
 
+  /// Keeps a window that is modal over its caller, where that one has been shown. For
+  /// takeArguments.
+  void layOverCaller();
+
   /// Hides this window and shows the one under "llamador", as it was when this one was shown.
   void returnToCaller();
 

@@ -9,7 +9,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QWindow>
 
 #include "windows/colour_swatch.h"
 #include "windows/editor_fields.h"
@@ -41,13 +40,6 @@ void frmAdmGraficos::takeArguments() {
   GraphFields opened = start.fields;
   box(placesOf(opened).front().control)->setFocus(Qt::OtherFocusReason);
   layOverCaller();
-}
-
-void frmAdmGraficos::layOverCaller() {
-  auto* caller = dynamic_cast<QWidget*>(callerOf(program().params));
-  if (!caller || !caller->windowHandle()) return;
-  winId();  // makes the window handle
-  windowHandle()->setTransientParent(caller->windowHandle());
 }
 
 void frmAdmGraficos::bAceptar_Click() {

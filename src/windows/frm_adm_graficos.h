@@ -62,7 +62,6 @@ class frmAdmGraficos : public Form {
   void setFields(GraphFields fields);
   void clearFields();
   void markLettersInUse();
-  void layOverCaller();
   /// The one of the open tab that had the focus last, or its first one; null where it has none.
   QLineEdit* formulaBox() const;
 

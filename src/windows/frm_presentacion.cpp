@@ -1,5 +1,6 @@
 #include "windows/frm_presentacion.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFrame>
 #include <QKeyEvent>
@@ -8,9 +9,12 @@
 #include <QVBoxLayout>
 
 #include "base/language.h"
+#include "platform/icons/program_icon.h"
 
 namespace zel {
 namespace {
+
+constexpr QSize kFirstSize(360, 340);  // pixels; texts in a large font make it larger
 
 QLabel* makeLabel(const char* name) {
   auto* label = new QLabel;
@@ -30,6 +34,7 @@ void enlarge(QLabel& label, qreal factor) {
 
 frmPresentacion::frmPresentacion(Program& program)
     : Form(program, "frmPresentacion"),
+      inside_(new QFrame),
       Image1_(makeLabel("Image1")),
       LblVersion_(makeLabel("LblVersion")),
       LblQueEsZEL_(makeLabel("LblQueEsZEL")),
@@ -37,26 +42,39 @@ frmPresentacion::frmPresentacion(Program& program)
       bCerrar_(new QPushButton) {
   setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
   setWindowTitle("ZEL");
-  bCerrar_->setObjectName("bCerrar");
-  Image1_->setPixmap(windowIconPixmap(96));
-  LblVersion_->setText(QString("ZEL ") + kVersionText);
-  enlarge(*LblVersion_, 2);
-  auto* credits = makeLabel("LblCreditos");
-  credits->setText("© 2026 ZEL · https://zel.example/");
-  auto* centre = new QFrame;
-  centre->setFrameShape(QFrame::StyledPanel);
-  auto* column = new QVBoxLayout(centre);
-  column->setContentsMargins(48, 32, 48, 24);
-  column->setSpacing(12);
-  for (QLabel* label : {Image1_, LblVersion_, LblQueEsZEL_, credits, LblEstado_})
-    column->addWidget(label);
-  column->addWidget(bCerrar_, 0, Qt::AlignCenter);
-  setCentralWidget(centre);
+  resize(kFirstSize);
+  fillInside();
+  setCentralWidget(inside_);
+  inside_->hide();
   for (QLabel* label : {Image1_, LblVersion_}) label->installEventFilter(this);
   connect(bCerrar_, &QPushButton::clicked, this, &frmPresentacion::closePresentation);
   Timer1_.setInterval(Presentation::kInterval);
   connect(&Timer1_, &QTimer::timeout, this, &frmPresentacion::Timer1_Timer);
   assignCaptions();
+}
+
+void frmPresentacion::fillInside() {
+  bCerrar_->setObjectName("bCerrar");
+  LblVersion_->setText(QString("ZEL ") + kVersionText);
+  auto* credits = makeLabel("LblCreditos");
+  credits->setText("© 2026 ZEL · https://zel.example/");
+  inside_->setFrameShape(QFrame::StyledPanel);
+  auto* column = new QVBoxLayout(inside_);
+  column->setContentsMargins(48, 32, 48, 24);
+  column->setSpacing(12);
+  for (QLabel* label : {Image1_, LblVersion_, LblQueEsZEL_, credits, LblEstado_})
+    column->addWidget(label);
+  column->addWidget(bCerrar_, 0, Qt::AlignCenter);
+}
+
+void frmPresentacion::showForm() {
+  Form::showForm();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  if (Image1_->pixmap().isNull()) {
+    Image1_->setPixmap(programIcon().pixmap(96));
+    enlarge(*LblVersion_, 2);
+  }
+  inside_->show();
 }
 
 void frmPresentacion::enableTimer() {

@@ -6,6 +6,7 @@
 #include "app/presentation.h"
 #include "windows/form.h"
 
+class QFrame;
 class QLabel;
 class QPushButton;
 
@@ -24,6 +25,9 @@ class frmPresentacion : public Form {
   FormWindow* getLlamador() const { return llamador_; }
 
   void enableTimer();
+  /// The bare window comes up at once. Its icon and its texts follow: loading fonts takes longer
+  /// than the whole start before it.
+  void showForm() override;
   void assignCaptions() override;
 
  protected:
@@ -33,6 +37,7 @@ class frmPresentacion : public Form {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void fillInside();
   void activate();
   void Timer1_Timer();
   void closePresentation();
@@ -43,6 +48,7 @@ class frmPresentacion : public Form {
   FormWindow* llamador_ = nullptr;
   std::string shown_language_;
   QTimer Timer1_;
+  QFrame* inside_;
   QLabel* Image1_;
   QLabel* LblVersion_;
   QLabel* LblQueEsZEL_;

@@ -5,6 +5,11 @@
 #include "windows/form.h"
 
 namespace zel {
+namespace {
+
+constexpr int kIndent = 4;  // pixels beside a text
+
+}  // namespace
 
 PanelBar::PanelBar(const char* name) {
   setObjectName(QString::fromLatin1(name));
@@ -12,10 +17,11 @@ PanelBar::PanelBar(const char* name) {
     auto* panel = new QLabel;
     panel->setObjectName(objectName() + "_Panel" + QString::number(i + 1));
     panel->setTextFormat(Qt::PlainText);
-    // A long text takes room from short ones, and does not keep the window wide.
+    // The panels share the room, and a long text does not keep the window wide.
     panel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     panel->setMinimumWidth(1);
-    addWidget(panel);
+    panel->setIndent(kIndent);
+    addWidget(panel, 1);
     panel->setVisible(i == 0);
     panels_[i] = panel;
   }
@@ -28,6 +34,14 @@ void PanelBar::showPanels(const StatusPanels& panels) {
     panels_[i]->setText(toQt(*texts[i]));
     panels_[i]->setVisible(i == 0 || !texts[i]->empty());
   }
+  emit panelsShown();
+}
+
+QString PanelBar::text() const {
+  QStringList texts;
+  for (const QLabel* const panel : panels_)
+    if (!panel->text().isEmpty()) texts.append(panel->text().trimmed());
+  return texts.join("; ");
 }
 
 }  // namespace zel

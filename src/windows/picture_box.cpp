@@ -30,6 +30,7 @@ void PictureBox::clear() {
   is_stale_ = false;
   since_shown_.start();
   picture_->clear();
+  drawing_.clear();
 }
 
 void PictureBox::makeImage() {
@@ -47,9 +48,35 @@ void PictureBox::makeImage() {
   picture_.emplace(painter_, QRectF(QPointF(), twips), Qt::white, Qt::black);
 }
 
+void PictureBox::beginAxes() {
+  picture_->beginAxes();
+  drawing_.beginAxes();
+}
+
+void PictureBox::line(Point from, Point to) {
+  picture_->line(from, to);
+  drawing_.line(from, to);
+}
+
 void PictureBox::beginGraph(char letter, std::int32_t colour) {
   emit graphBegun(letter);
   picture_->beginGraph(letter, colour);
+  drawing_.beginGraph(letter, colour);
+}
+
+void PictureBox::startPiece(Point point) {
+  picture_->startPiece(point);
+  drawing_.startPiece(point);
+}
+
+void PictureBox::extendPiece(Point point) {
+  picture_->extendPiece(point);
+  drawing_.extendPiece(point);
+}
+
+void PictureBox::dot(Point centre, double radius) {
+  picture_->dot(centre, radius);
+  drawing_.dot(centre, radius);
 }
 
 void PictureBox::showDrawn() {

@@ -6,7 +6,10 @@
 #include <QWidget>
 #include <optional>
 
+#include "app/services.h"
+#include "platform/qt/bitmap_image.h"
 #include "platform/qt/painter_picture.h"
+#include "plot/drawing_list.h"
 
 namespace zel {
 
@@ -26,12 +29,12 @@ class PictureBox : public QWidget, public Picture {
   /// Makes an image of the widget's present size where there is another, also while something else
   /// is being drawn.
   void clear() override;
-  void beginAxes() override { picture_->beginAxes(); }
-  void line(Point from, Point to) override { picture_->line(from, to); }
+  void beginAxes() override;
+  void line(Point from, Point to) override;
   void beginGraph(char letter, std::int32_t colour) override;
-  void startPiece(Point point) override { picture_->startPiece(point); }
-  void extendPiece(Point point) override { picture_->extendPiece(point); }
-  void dot(Point centre, double radius) override { picture_->dot(centre, radius); }
+  void startPiece(Point point) override;
+  void extendPiece(Point point) override;
+  void dot(Point centre, double radius) override;
 
   /// Shows what has been drawn so far.
   void showDrawn();
@@ -40,6 +43,10 @@ class PictureBox : public QWidget, public Picture {
 
   /// A copy of what has been drawn so far.
   QImage image();
+  /// The same in the pixels of the device.
+  Bitmap bitmap() { return toBitmap(image()); }
+  /// The same as it was drawn, in twips.
+  const DrawingList& drawing() const { return drawing_; }
 
  signals:
   void graphBegun(char letter);
@@ -56,6 +63,7 @@ class PictureBox : public QWidget, public Picture {
   void makeImage();
   void noticeResolution();
 
+  DrawingList drawing_;
   QImage drawn_;
   QPainter painter_;                       // on drawn_
   std::optional<PainterPicture> picture_;  // by painter_; always there

@@ -1,7 +1,9 @@
 #include "windows/windows.h"
 
+#include <QApplication>
 #include <utility>
 
+#include "platform/icons/program_icon.h"
 #include "windows/frm_acerca_de.h"
 #include "windows/frm_adm_graficos.h"
 #include "windows/frm_controles.h"
@@ -27,6 +29,7 @@ void Windows::begin(StartStep step) {
 }
 
 void Windows::chooseLanguage() {
+  QApplication::setWindowIcon(programIcon());
   idioma_ = std::make_unique<frmIdioma>(program_);
   idioma_->accepted = [this] {
     showPresentation();
@@ -40,11 +43,13 @@ void Windows::chooseLanguage() {
 }
 
 void Windows::showPresentation() {
-  datos_ini_ = std::make_unique<frmDatosIni>(program_);
   presentacion_ = std::make_unique<frmPresentacion>(program_);
-  presentacion_->setLlamador(datos_ini_.get());
   presentacion_->enableTimer();
   presentacion_->showForm();
+  // What takes longer is made behind the first window; the user's events wait until it is there.
+  QApplication::setWindowIcon(programIcon());
+  datos_ini_ = std::make_unique<frmDatosIni>(program_);
+  presentacion_->setLlamador(datos_ini_.get());
   loadWindows();
 }
 
@@ -55,6 +60,7 @@ void Windows::loadWindows() {
   grafico_ = std::make_unique<frmGrafico>(program_);
   imprimir_ = std::make_unique<frmImprimir>(program_);
   acerca_de_ = std::make_unique<frmAcercaDe>(program_);
+  grafico_->setPrintWindow(imprimir_.get());
   datos_ini_->setTargets({adm_graficos_.get(), grafico_.get(), acerca_de_.get()});
 }
 

@@ -52,5 +52,18 @@ TEST(PlotArguments, AreHandedOverInTheirOrderWithTheSenderLast) {
   EXPECT_EQ(viewIn(params), (ViewSettings{-1, -2, 3, 4, 50, false}));
 }
 
+TEST(PlotArguments, GoToThePrintWindowWithThePlotWindowUnderImprimir) {
+  FormParams params;
+  params.Add("modo", std::string("agregar"));
+  Window plot;
+  handPlotOver(params, {-1, -2, 3, 4, 50, true}, &plot);
+  EXPECT_THAT(params.keys(),
+              ElementsAre("xi", "xf", "yi", "yf", "definicion", "imprimir", "llamador"));
+  EXPECT_EQ(params.Item("imprimir"), FormValue(static_cast<FormWindow*>(&plot)));
+  EXPECT_EQ(params.Item("definicion"), FormValue(std::int16_t{50}));
+  EXPECT_EQ(callerOf(params), &plot);
+  EXPECT_EQ(viewIn(params), (ViewSettings{-1, -2, 3, 4, 50, false}));
+}
+
 }  // namespace
 }  // namespace zel::test

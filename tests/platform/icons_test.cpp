@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/widgets/program_icon.h"
+#include "platform/icons/program_icon.h"
 #include "support/qt_application.h"
 
 namespace zel::test {

@@ -124,6 +124,44 @@ TEST(PaintingDensity, DrawsBothAxesInEquallyManyPixels) {
   }
 }
 
+TEST(PaintingInParts, LooksLikeOnePolyline) {
+  QPolygonF points;
+  for (int x = 0; x <= 200; ++x)
+    points.append({x * 15.0, std::floor(1500 + 1200 * std::sin(x * 0.07))});
+  QImage image(QSize(200, 200), QImage::Format_RGB32);
+  QImage expected = image;
+  for (QImage* target : {&image, &expected}) {
+    target->fill(Qt::white);
+    QPainter painter(target);
+    painter.scale(1 / 15.0, 1 / 15.0);
+    PainterPicture picture(painter, QRectF(0, 0, 3000, 3000), Qt::white, Qt::black);
+    picture.beginGraph('a', 0);
+    if (target == &expected) {
+      painter.drawPolyline(points);
+      continue;
+    }
+    picture.startPiece({points[0].x(), points[0].y()});
+    for (qsizetype i = 1; i < points.size(); ++i)
+      picture.extendPiece({points[i].x(), points[i].y()});
+  }
+  constexpr int kUnseen = 255 / 5;
+  for (int y = 0; y < 200; ++y)
+    for (int x = 0; x < 200; ++x)
+      ASSERT_NEAR(image.pixelColor(x, y).green(), expected.pixelColor(x, y).green(), kUnseen)
+          << x << "," << y;
+}
+
+TEST_F(Painting, DrawsAPieceThatTurnsBackToItsFarthestPoint) {
+  picture->beginGraph('a', kRed);
+  picture->startPiece({5 * 15, 10 * 15});
+  picture->extendPiece({20 * 15, 10 * 15});
+  picture->extendPiece({35 * 15, 10 * 15});
+  picture->extendPiece({10 * 15, 10 * 15});
+  const QImage& image = finish();
+  EXPECT_LT(image.pixelColor(33, 10).blue(), 140);
+  EXPECT_LT(image.pixelColor(7, 10).blue(), 140);
+}
+
 TEST_F(Painting, FillsADot) {
   picture->beginGraph('a', kBlue);
   picture->dot({20 * 15, 15 * 15}, 5 * 15);

@@ -148,5 +148,21 @@ TEST_F(FunctionSweep, TellsItsVisitorOfEachSampleAfterDrawingIt) {
                                 "defined 1125,1500 of 1", "defined 1500,460 of 2"));
 }
 
+TEST_F(FunctionSweep, LetsEventsRunBetweenItsBlocks) {
+  setQuality(600);  // 601 samples
+  sweep("x");
+  EXPECT_EQ(screen.event_runs, 2);
+  setQuality(250);
+  sweep("x");
+  EXPECT_EQ(screen.event_runs, 2);
+}
+
+TEST_F(FunctionSweep, EndsWhenAnotherRedrawHasBegunMeanwhile) {
+  setQuality(600);
+  screen.on_events = [&](std::size_t) { abandon(); };
+  sweep("0");
+  EXPECT_EQ(picture.calls.size(), kSweepBlock);
+}
+
 }  // namespace
 }  // namespace zel::test

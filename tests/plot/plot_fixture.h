@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -114,6 +115,7 @@ class CurveTest : public PlotTest, private DrawingFlag {
   }
 
   void stop() { in_progress_ = false; }
+  void abandon() { is_abandoned_ = true; }
   bool inProgress() const { return in_progress_; }
 
  private:
@@ -121,12 +123,18 @@ class CurveTest : public PlotTest, private DrawingFlag {
     picture.calls.clear();
     ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
   }
-  CurveTools tools() { return {viewport, engine, picture, screen, *this}; }
+  CurveTools tools() {
+    grid_.emplace(viewport);
+    return {viewport, *grid_, engine, picture, screen, *this};
+  }
 
   void set(bool in_progress) override { in_progress_ = in_progress; }
   bool isSet() const override { return in_progress_; }
+  bool isAbandoned() const override { return is_abandoned_; }
 
+  std::optional<SampleGrid> grid_;
   bool in_progress_ = false;
+  bool is_abandoned_ = false;
 };
 
 /// A graph of one of the kinds that have their values as texts only, as a document gives them.

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +22,19 @@ class RecorderListener : public PlotListener {
     messages.push_back(message);
     if (on_message) on_message();
   }
+  void toolsChanged() override { ++tools_changes; }
+  void showInformation(const std::string& message) override { informations.push_back(message); }
+  std::optional<std::string> askValue(const std::string& prompt,
+                                      const std::string& title) override {
+    asked.push_back(title + "|" + prompt);
+    if (on_ask) on_ask();
+    if (answers.empty()) return std::nullopt;
+    std::string answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+  void copyPicture() override { ++copies; }
+  void openPrint() override { ++prints; }
   void returnToMain() override {
     ++returns;
     if (on_return) on_return();
@@ -28,8 +43,15 @@ class RecorderListener : public PlotListener {
   int drawn = 0;
   std::vector<std::string> messages;
   int returns = 0;
+  int tools_changes = 0;
+  std::vector<std::string> informations;
+  std::vector<std::string> asked;   // "title|prompt"
+  std::deque<std::string> answers;  // none left: cancelled
+  int copies = 0;
+  int prints = 0;
   std::function<void()> on_drawn;
   std::function<void()> on_message;
+  std::function<void()> on_ask;
   std::function<void()> on_return;
 };
 

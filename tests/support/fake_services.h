@@ -140,6 +140,61 @@ class FakeMailClient : public MailClient {
   }
 };
 
+class FakeInputBoxes : public InputBoxes {
+ public:
+  std::optional<std::string> ask(const std::string& prompt, const std::string& title) override {
+    asked.emplace_back(prompt, title);
+    if (on_ask) on_ask();
+    return takeAnswer(answers);
+  }
+
+  std::vector<std::pair<std::string, std::string>> asked;  // prompt and title
+  std::deque<std::string> answers;
+  std::function<void()> on_ask;  // while the box is up
+};
+
+class FakeClipboard : public Clipboard {
+ public:
+  void clear() override {
+    calls.push_back("clear");
+    bitmap.reset();
+  }
+  void putBitmap(const Bitmap& put) override {
+    calls.push_back("bitmap");
+    bitmap = put;
+  }
+
+  std::vector<std::string> calls;  // "clear" or "bitmap"
+  std::optional<Bitmap> bitmap;    // what is on the clipboard
+};
+
+/// A printer with upright A4 paper, unless a test takes it away.
+class FakePrinter : public Printer {
+ public:
+  struct Page {
+    PageOrientation orientation;
+    Point position;
+    PaperSize size;
+    DrawingList drawing;
+    Bitmap bitmap;
+  };
+
+  std::optional<PaperSize> paper(PageOrientation orientation) override {
+    asked.push_back(orientation);
+    if (!upright || orientation == PageOrientation::portrait) return upright;
+    return PaperSize{upright->height, upright->width};
+  }
+  PrintOutcome print(const PrintJob& job) override {
+    printed.push_back({job.orientation, job.position, job.size, job.drawing, job.bitmap});
+    return outcome;
+  }
+
+  std::optional<PaperSize> upright = PaperSize{11900, 16840};  // nothing: no printer
+  PrintOutcome outcome = PrintOutcome::printed;
+  std::vector<PageOrientation> asked;
+  std::vector<Page> printed;
+};
+
 /// All of them; declare it before the Program that it serves.
 struct FakeServices {
   FakeMessageBoxes boxes;
@@ -149,8 +204,13 @@ struct FakeServices {
   FakeClassRegistry registry;
   FakeBrowser browser;
   FakeMailClient mail;
+  FakeInputBoxes inputs;
+  FakeClipboard clipboard;
+  FakePrinter printer;
 
-  Services services() { return {boxes, files, colours, help, registry, browser, mail}; }
+  Services services() {
+    return {boxes, files, colours, help, registry, browser, mail, inputs, clipboard, printer};
+  }
 };
 
 }  // namespace zel::test

@@ -2,8 +2,11 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
+#include <QWheelEvent>
 #include <algorithm>
 #include <functional>
 #include <map>
@@ -65,6 +68,68 @@ class GraficoTest : public ::testing::Test {
     for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
   }
 
+  /// The size that a picture would have that fills the window but for its margins.
+  QSize room() const {
+    const QSize inside = picture->parentWidget()->size();
+    return {inside.width() - 2 * picture->x(), inside.height() - picture->x() - picture->y()};
+  }
+
+  /// Resizes the window so that its picture would have this size.
+  void resizeFor(QSize size) {
+    window.resize(window.size() + size - room());
+    settle();
+  }
+
+  /// Opens a view of -10 to 10 on both axes on a picture of 400 x 400 pixels: a unit has 20 of
+  /// them, and a step of the trace is 0,5.
+  void openUsual() {
+    open(view);
+    resizeFor({400, 400});
+    begun.clear();
+  }
+
+  /// The place of a point of that view, in the pixels of its picture.
+  static QPointF at(double x, double y) { return {200 + 20 * x, 200 - 20 * y}; }
+
+  template <class Widget>
+  Widget& control(std::string_view name) {
+    return *window.findChild<Widget*>(toQt(name));
+  }
+  QToolButton& button(std::string_view key) { return control<QToolButton>(key); }
+  void click(std::string_view key) { button(key).click(); }
+
+  /// An event of the mouse on the picture, at a place in its pixels.
+  void mouse(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons held) {
+    QMouseEvent event(type, place, picture->mapToGlobal(place), button, held, Qt::NoModifier);
+    QApplication::sendEvent(picture, &event);
+  }
+  void mouseDown(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    mouse(QEvent::MouseButtonPress, place, button, button);
+  }
+  void mouseMove(QPointF place, Qt::MouseButtons held = Qt::NoButton) {
+    mouse(QEvent::MouseMove, place, Qt::NoButton, held);
+  }
+  void mouseUp(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    mouse(QEvent::MouseButtonRelease, place, button, Qt::NoButton);
+  }
+  void mouseClick(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    mouseDown(place, button);
+    mouseUp(place, button);
+  }
+  void turnWheel(QPointF place, QPoint eighths) {
+    QWheelEvent event(place, picture->mapToGlobal(place), QPoint(), eighths, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(picture, &event);
+  }
+
+  void expectView(double xi, double xf, double yi, double yf) {
+    const ViewSettings& is = window.session().view();
+    EXPECT_NEAR(is.xi, xi, 1e-9);
+    EXPECT_NEAR(is.xf, xf, 1e-9);
+    EXPECT_NEAR(is.yi, yi, 1e-9);
+    EXPECT_NEAR(is.yf, yf, 1e-9);
+  }
+
   /// Does something soon after a graph is begun for the nth time, while it is being drawn.
   void inside(char letter, int time, const std::function<void()>& happening) {
     happenings_[{letter, time}] = happening;
@@ -106,6 +171,26 @@ class GraficoTest : public ::testing::Test {
       if (panel->isVisible()) result.push_back(fromQt(panel->text()));
     }
     return result;
+  }
+
+  /// A parametric curve: a circle of radius 5.
+  void addParametric(char letter) {
+    std::string message;
+    const auto field = [](const char* text) { return Field{text, "campo"}; };
+    ASSERT_EQ(acceptGraph(program.graphs, program.engine, letter, 0x00FF00,
+                          ParametricFields{field("5*cos(t)"), field("5*sen(t)"), field("0"),
+                                           field("360"), field("10")},
+                          message),
+              Accepted::stored);
+  }
+
+  /// A family of the lines y = x + P, for P of -2, 0 and 2.
+  void addFamily(char letter) {
+    std::string message;
+    const auto field = [](const char* text) { return Field{text, "campo"}; };
+    ASSERT_EQ(acceptGraph(program.graphs, program.engine, letter, 0xFF0000,
+                          FamilyFields{field("x+P"), field("-2"), field("2"), field("2")}, message),
+              Accepted::stored);
   }
 
   static int pixelsThatAreNotWhite(const QImage& image) {

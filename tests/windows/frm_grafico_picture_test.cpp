@@ -15,18 +15,6 @@ class GraficoPicture : public GraficoTest {
     EXPECT_EQ(window.session().pictureSize(), PictureSize::ofPixels(size.width(), size.height()));
   }
 
-  /// Resizes the window so that its picture would have this size.
-  void resizeFor(QSize size) {
-    window.resize(window.size() + size - room());
-    settle();
-  }
-
-  /// The size that a picture would have that fills the window but for its margins.
-  QSize room() const {
-    const QWidget* const parent = picture->parentWidget();
-    return parent->size() - QSize(2 * picture->x(), 2 * picture->y());
-  }
-
   /// Runs the current test in a process of its own at this scale. True inside of that process.
   bool runsAtScale(const char* scale) {
     if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) return true;

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QWheelEvent>
 #include <cstdlib>
 #include <map>
 #include <optional>
@@ -58,6 +59,15 @@ class Monkey : public WindowTest {
     services.browser.calls.clear();
     services.mail.calls.clear();
     services.help.shown.clear();
+    services.inputs.asked.clear();
+    services.inputs.answers = {below(2) == 0 ? "0,5" : "nada"};
+    services.clipboard.calls.clear();
+    services.printer.asked.clear();
+    services.printer.printed.clear();
+    constexpr std::array<PrintOutcome, 4> kOutcomes = {
+        PrintOutcome::printed, PrintOutcome::cancelled, PrintOutcome::not_started,
+        PrintOutcome::failed};
+    services.printer.outcome = kOutcomes[static_cast<std::size_t>(below(4))];
   }
 
   QWidget* anyWindow() {
@@ -89,10 +99,23 @@ class Monkey : public WindowTest {
                       global, button, button, Qt::NoModifier);
     const QPointer<QWidget> alive(&target);
     QApplication::sendEvent(&target, &press);
+    if (alive && below(3) == 0) {
+      const QPointF further = place + QPointF(below(200) - 100, below(200) - 100);
+      QMouseEvent move(QEvent::MouseMove, further, target.mapToGlobal(further), Qt::NoButton,
+                       button, Qt::NoModifier);
+      QApplication::sendEvent(&target, &move);
+    }
     if (!alive) return;
     QMouseEvent release(QEvent::MouseButtonRelease, place, global, button, Qt::NoButton,
                         Qt::NoModifier);
     QApplication::sendEvent(&target, &release);
+  }
+
+  void turnWheel(QWidget& target) {
+    const QPointF place(below(std::max(1, target.width())), below(std::max(1, target.height())));
+    QWheelEvent event(place, target.mapToGlobal(place), QPoint(), QPoint(0, 60 * (below(9) - 4)),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&target, &event);
   }
 
   void press(QWidget& target) {
@@ -124,8 +147,10 @@ class Monkey : public WindowTest {
   void doSomething(QWidget& window) {
     const int choice = below(100);
     QWidget& target = *anyControl(window);
-    if (choice < 50)
+    if (choice < 48)
       click(target);
+    else if (choice < 52)
+      turnWheel(target);
     else if (choice < 88)
       press(target);
     else if (choice < 93)
@@ -170,7 +195,7 @@ TEST_F(Monkey, CannotBreakTheProgram) {
   }
   // A monkey that sits in a corner has tried nothing.
   for (const char* name : {"frmIdioma", "frmPresentacion", "frmDatosIni", "frmAdmGraficos",
-                           "frmGrafico", "frmAcercaDe"})
+                           "frmGrafico", "frmImprimir", "frmAcercaDe"})
     EXPECT_GT(visits_[name], 0u) << name;
 }
 

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include "support/qt_application.h"
+#include "support/recorder_picture.h"
 #include "windows/panel_bar.h"
 #include "windows/plot_screen.h"
 
@@ -106,6 +107,37 @@ TEST_F(Box, ACopyOfTheImageStaysAsItIs) {
   box.clear();
   EXPECT_LT(middle(copy).blue(), 128);
   EXPECT_EQ(middle(box.image()), QColor(Qt::white));
+}
+
+TEST_F(Box, KeepsWhatWasDrawnAsAListToo) {
+  box.beginGraph('z', 0);
+  drawLine();
+  box.beginAxes();
+  box.line({0, 0}, {15, 15});
+  box.dot({30, 30}, 20);
+  RecorderPicture recorder;
+  box.drawing().replay(recorder);
+  EXPECT_THAT(recorder.texts(), ElementsAre("graph a #ff0000", "start 0,600", "extend 1500,600",
+                                            "axes", "line 0,0 15,15", "dot 30,30 radius 20"));
+}
+
+TEST_F(Box, TheListDrawsTheSameImage) {
+  drawLine();
+  box.dot({300, 300}, 60);
+  PictureBox other;
+  other.resize(100, 80);
+  other.clear();
+  box.drawing().replay(other);
+  EXPECT_EQ(other.image(), box.image());
+}
+
+TEST_F(Box, GivesItsImageAsABitmap) {
+  drawLine();
+  const Bitmap bitmap = box.bitmap();
+  EXPECT_EQ(bitmap.width, 100);
+  EXPECT_EQ(bitmap.height, 80);
+  EXPECT_EQ(bitmap.pixels.at(0), 0xFFFFFFFF);
+  EXPECT_EQ(bitmap.pixels.at(40 * 100 + 50), box.image().pixel(50, 40));
 }
 
 TEST_F(Box, NoSizeIsTooSmall) {

@@ -1,10 +1,9 @@
-// The presentation, the language choice, the about box and the shell of the print preview.
+// The presentation, the language choice and the about box.
 #include <QRadioButton>
 
 #include "window_fixture.h"
 #include "windows/frm_acerca_de.h"
 #include "windows/frm_idioma.h"
-#include "windows/frm_imprimir.h"
 #include "windows/frm_presentacion.h"
 
 namespace zel::test {
@@ -159,39 +158,6 @@ TEST_F(AboutBox, ClosesWithEscapeAndEnterAndInItsLanguage) {
   expectAccessibleNames(window);
   QTest::keyClick(&window, Qt::Key_Escape);
   EXPECT_EQ(caller.shown, 1);
-}
-
-class PrintWindow : public WindowTest {
- protected:
-  frmImprimir window{program};
-};
-
-TEST_F(PrintWindow, HasItsCaptionsInBothLanguages) {
-  EXPECT_EQ(fromQt(window.windowTitle()), "Imprimir Gráfico");
-  EXPECT_EQ(fromQt(control<QPushButton>(window, "cmdImprimir").text()), "&Imprimir");
-  EXPECT_EQ(fromQt(control<QPushButton>(window, "cmdSalir").text()), "&Cerrar");
-  EXPECT_EQ(fromQt(control<QGroupBox>(window, "FraVistaPrevia").title()), "Vista Previa");
-  EXPECT_EQ(fromQt(control<QLabel>(window, "LblMensaje").text()), "Inicializando...");
-  SetCurrentLanguage("EN");
-  window.ApplyLanguage();
-  EXPECT_EQ(fromQt(window.windowTitle()), "Print graphics");
-  EXPECT_EQ(fromQt(control<QPushButton>(window, "cmdImprimir").text()), "&Print");
-  EXPECT_EQ(fromQt(control<QPushButton>(window, "cmdSalir").text()), "&Close");
-  EXPECT_EQ(fromQt(control<QGroupBox>(window, "FraVistaPrevia").title()), "Preview");
-  EXPECT_EQ(fromQt(control<QLabel>(window, "LblMensaje").text()), "initializing...");
-}
-
-TEST_F(PrintWindow, NamesItsControlsInBothLanguages) {
-  for (const char* language : {"ES", "EN"}) {
-    SetCurrentLanguage(language);
-    window.ApplyLanguage();
-    expectAccessibleNames(window);
-  }
-}
-
-TEST_F(PrintWindow, StaysHiddenWithoutAPicture) {
-  window.showForm();
-  EXPECT_FALSE(window.isVisible());
 }
 
 }  // namespace

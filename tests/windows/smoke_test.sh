@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# The real program as a user meets it: the first start, the choice of English, a function declared,
-# plotted and saved, and the document opened again from the command line.
+# The real program as a user meets it: the first start, the choice of English, a function declared
+# and plotted, the tools of the plot window, the document saved and opened again from the command
+# line.
 set -uo pipefail
 zel=$(dirname "$1")/zel
 [[ -x $zel ]] || { echo "no desktop program in this build"; exit 77; }
-for tool in Xvfb openbox xdotool xprop import; do
+for tool in Xvfb openbox xdotool xprop xwininfo xclip import; do
   command -v "$tool" >/dev/null || { echo "no $tool"; exit 77; }
 done
 
@@ -56,6 +57,34 @@ window() {
 }
 
 keys() { xdotool key --delay 60 "$@"; }
+# look NAME: takes a picture of the screen.
+look() { import -window root "$work/$1.png"; }
+# differs ONE OTHER: whether two pictures of the screen differ.
+differs() {
+  local count
+  count=$(compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>&1)
+  [[ ${count%%.*} != 0 ]]
+}
+# at X Y: moves the mouse to a place in the window that has the focus.
+at() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" sleep 0.2; }
+# onScreen PICTURE SCREEN: whether the plot window shows this picture, pixel by pixel, at its margin.
+onScreen() {
+  local size left top height row
+  size=$(identify -format '%wx%h' "$1")
+  read -r left top height < <(xwininfo -id "$(xdotool getactivewindow)" 2>/dev/null |
+    awk '/Absolute upper-left X/ {x = $4} /Absolute upper-left Y/ {y = $4} /Height/ {print x, y, $2}')
+  for row in $(seq 30 $((height - ${size#*x}))); do
+    [[ $(compare -metric AE "$1" \( "$2" -crop "$size+$((left + 8))+$((top + row))" +repage \) null: 2>&1) == 0 ]] &&
+      return 0
+  done
+  return 1
+}
+# button N: presses the toolbar's button N, from 0, with the keyboard, and goes back to the picture.
+button() {
+  keys Tab
+  for _ in $(seq "$1"); do keys Right; done
+  keys space
+}
 start() {
   "$zel" "$@" >"$work/zel.log" 2>&1 &
   program=$!
@@ -86,8 +115,62 @@ window 'ZEL - Graphic manager'
 keys alt+g
 window 'ZEL - Graphics'
 sleep 0.5
-import -window root "$work/plot.png"
+look plot
 [[ $(convert "$work/plot.png" -unique-colors -format '%w' info:) -gt 20 ]] || fail "an empty plot"
+
+keys Right
+sleep 0.3
+look panned
+differs plot panned || fail "the arrow keys do not pan"
+at 300 300
+xdotool click 1 sleep 0.3
+look traced
+differs panned traced || fail "a click does not trace"
+button 12
+sleep 0.3
+look found
+differs traced found || fail "no maximum is found"
+keys Left space
+window 'Evaluate specific values\.'
+xdotool type --delay 40 '2'
+keys Return
+window 'Information'
+keys Escape
+window 'Evaluate specific values\.'
+keys Escape
+window 'ZEL - Graphics'
+
+look before
+at 300 300
+xdotool click 3 sleep 0.2 mousedown 1 sleep 0.2
+at 400 380
+at 500 450
+look rectangle
+differs before rectangle || fail "no zoom rectangle"
+xdotool mouseup 1
+at 500 500
+sleep 0.3
+look zoomed
+differs before zoomed || fail "the rectangle does not zoom"
+xdotool click 3 sleep 0.3
+
+keys ctrl+c
+window 'Information'
+keys Escape
+window 'ZEL - Graphics'
+look copied
+xclip -selection clipboard -t image/png -o >"$work/copy.png" || fail "no picture on the clipboard"
+onScreen "$work/copy.png" "$work/copied.png" || fail "the clipboard has another picture"
+
+keys ctrl+p
+window 'Print graphics'
+# Without a printer there is a message over it.
+for _ in 1 2 3; do
+  xdotool search --onlyvisible --name '^Print graphics$' >"$work/found" 2>/dev/null || break
+  keys Escape
+  sleep 0.5
+done
+window 'ZEL - Graphics'
 keys alt+F4
 window 'ZEL - Graphic manager'
 keys ctrl+shift+s

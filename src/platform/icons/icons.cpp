@@ -3,10 +3,13 @@
 #include <QtCore/qglobal.h>
 
 /// Stands outside of any namespace, as the macro wants.
-static void initIconResource() { Q_INIT_RESOURCE(icons); }
+static void initIconResources() {
+  Q_INIT_RESOURCE(icons);
+  Q_INIT_RESOURCE(plot_icons);
+}
 
 namespace zel {
 
-void initIcons() { initIconResource(); }
+void initIcons() { initIconResources(); }
 
 }  // namespace zel

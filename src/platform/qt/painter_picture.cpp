@@ -1,5 +1,6 @@
 #include "platform/qt/painter_picture.h"
 
+#include <QPaintEngine>
 #include <QPen>
 #include <algorithm>
 #include <cmath>
@@ -14,6 +15,9 @@ constexpr double kFarAway = 1e6;
 /// How many points are held back at the most: painting a piece in parts bounds the memory of a
 /// curve that never ends.
 constexpr qsizetype kLongestPart = 4096;
+/// The same where the painter computes pixels. A stroke costs it much more than twice as much when
+/// it is twice as long; parts of so many points look the same, and are the fastest ones.
+constexpr qsizetype kLongestRasterPart = 17;
 
 bool isNear(QPointF point) {
   return std::fabs(point.x()) <= kFarAway && std::fabs(point.y()) <= kFarAway;
@@ -50,6 +54,19 @@ double axisWidth(const QPainter& painter) {
   return std::max(1.0, std::round(kAxisWidth * pixels_per_twip)) / pixels_per_twip;
 }
 
+/// Whether the last point of a piece lies on the straight line from the one before to the next.
+bool goesStraightOn(const QPolygonF& piece, QPointF next) {
+  if (piece.size() < 2) return false;
+  const QPointF before = piece.last() - piece[piece.size() - 2];
+  const QPointF after = next - piece.last();
+  return before.x() * after.y() == before.y() * after.x() && QPointF::dotProduct(before, after) > 0;
+}
+
+qsizetype longestPart(const QPainter& painter) {
+  const QPaintEngine* const engine = painter.paintEngine();
+  return engine && engine->type() == QPaintEngine::Raster ? kLongestRasterPart : kLongestPart;
+}
+
 QColor fromRgb(std::int32_t colour) {
   return {colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF};
 }
@@ -57,7 +74,11 @@ QColor fromRgb(std::int32_t colour) {
 }  // namespace
 
 PainterPicture::PainterPicture(QPainter& painter, QRectF area, QColor background, QColor axes)
-    : painter_(painter), area_(area), background_(background), axes_(axes) {}
+    : painter_(painter),
+      area_(area),
+      background_(background),
+      axes_(axes),
+      longest_part_(longestPart(painter)) {}
 
 PainterPicture::~PainterPicture() { paintPiece(); }
 
@@ -90,8 +111,10 @@ void PainterPicture::startPiece(Point point) {
 }
 
 void PainterPicture::extendPiece(Point point) {
-  piece_.append({point.x, point.y});
-  if (piece_.size() >= kLongestPart) flush();
+  const QPointF next(point.x, point.y);
+  if (goesStraightOn(piece_, next)) piece_.removeLast();
+  piece_.append(next);
+  if (piece_.size() >= longest_part_) flush();
 }
 
 void PainterPicture::dot(Point centre, double radius) {

@@ -9,7 +9,7 @@
 namespace zel {
 
 /// A picture on whatever a QPainter paints on, whose coordinates must be twips. Each piece of curve
-/// is painted as one polyline.
+/// is collected and painted in polylines as long as the painter is fastest with.
 class PainterPicture : public Picture {
  public:
   /// The painter must outlive the picture. `background` covers the picture when it is cleared.
@@ -35,6 +35,7 @@ class PainterPicture : public Picture {
   QRectF area_;
   QColor background_;
   QColor axes_;
+  qsizetype longest_part_;
   QPolygonF piece_;
   bool is_continued_ = false;  // the first point of piece_ has been painted
 };

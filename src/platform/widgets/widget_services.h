@@ -4,10 +4,13 @@
 
 #include "platform/widgets/help_files.h"
 #include "platform/widgets/qt_texts.h"
+#include "platform/widgets/widget_clipboard.h"
 #include "platform/widgets/widget_colour_dialog.h"
 #include "platform/widgets/widget_file_dialogs.h"
 #include "platform/widgets/widget_help_viewer.h"
+#include "platform/widgets/widget_input_boxes.h"
 #include "platform/widgets/widget_message_boxes.h"
+#include "platform/widgets/widget_printer.h"
 
 namespace zel {
 
@@ -20,6 +23,9 @@ struct WidgetServices {
   WidgetFileDialogs files{boxes};
   WidgetColourDialog colours;
   WidgetHelpViewer help;
+  WidgetInputBoxes inputs;
+  WidgetClipboard clipboard;
+  WidgetPrinter printer;
 };
 
 }  // namespace zel

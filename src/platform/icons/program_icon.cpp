@@ -1,4 +1,4 @@
-#include "platform/widgets/program_icon.h"
+#include "platform/icons/program_icon.h"
 
 #include "platform/icons/icons.h"
 

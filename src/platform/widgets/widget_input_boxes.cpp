@@ -1,0 +1,28 @@
+#include "platform/widgets/widget_input_boxes.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QPointer>
+
+#include "platform/widgets/qt_texts.h"
+
+namespace zel {
+
+std::optional<std::string> WidgetInputBoxes::ask(const std::string& prompt,
+                                                 const std::string& title) {
+  // The box goes away with the window below it, wherever that may be taken down.
+  const QPointer<QInputDialog> box = new QInputDialog(QApplication::activeWindow());
+  box->setWindowTitle(QString::fromStdString(title));
+  box->setLabelText(QString::fromStdString(prompt).replace("\r\n", "\n"));
+  box->setOkButtonText(inLanguage("Aceptar", "OK"));
+  box->setCancelButtonText(inLanguage("Cancelar", "Cancel"));
+  for (QLabel* const label : box->findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+  const bool accepted = box->exec() == QDialog::Accepted;
+  std::optional<std::string> typed;
+  if (box && accepted) typed = box->textValue().toStdString();
+  delete box;
+  return typed;
+}
+
+}  // namespace zel

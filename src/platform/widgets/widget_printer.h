@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "app/services.h"
+
+class QPrinter;
+
+namespace zel {
+
+/// The desktop's printers, of which the user chooses one in the desktop's dialog. What was chosen
+/// last stays chosen while that printer is there.
+class WidgetPrinter : public Printer {
+ public:
+  /// Sets a printer up as the user wants it; false when the user cancels.
+  using Chooser = std::function<bool(QPrinter&)>;
+
+  /// By the print dialog over the active window.
+  WidgetPrinter();
+  explicit WidgetPrinter(Chooser choose);
+  ~WidgetPrinter() override;
+
+  std::optional<PaperSize> paper(PageOrientation orientation) override;
+  PrintOutcome print(const PrintJob& job) override;
+
+ private:
+  Chooser choose_;
+  std::unique_ptr<QPrinter> printer_;
+};
+
+}  // namespace zel

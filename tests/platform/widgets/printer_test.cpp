@@ -1,0 +1,125 @@
+#include <QPrintDialog>
+#include <filesystem>
+
+#include "platform/widgets/modal_driver.h"
+#include "platform/widgets/printer_fixture.h"
+
+namespace zel::test {
+namespace {
+
+/// Prints to a PDF document.
+class PrinterOfFiles : public PrinterTest {
+ protected:
+  PrintOutcome print(const DrawingList& drawing, Point position,
+                     PageOrientation orientation = PageOrientation::landscape) {
+    return printer_.print({orientation, position, kPicture, drawing, bitmap});
+  }
+  QImage page() { return pageOf(file); }
+
+  TemporaryFolder folder;
+  std::string file = folder / "page.pdf";
+  bool is_accepted = true;
+  Bitmap bitmap{2, 1, {0xFF00FF00, 0xFF0000FF}};
+
+ private:
+  WidgetPrinter printer_{[this](QPrinter& printer) {
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setOutputFileName(QString::fromStdString(file));
+    return is_accepted;
+  }};
+};
+
+TEST_F(PrinterOfFiles, PutsThePictureAtItsPlaceInItsSize) {
+  EXPECT_EQ(print(frame(kPicture), {1000, 2000}), PrintOutcome::printed);
+  EXPECT_EQ(page().size(), QSize(1684, 1190));
+  expectInk(page(), 1000, 2000, 7000, 5000);
+}
+
+TEST_F(PrinterOfFiles, MeasuresFromTheEdgesOfThePaper) {
+  EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::printed);
+  expectInk(page(), 0, 0, 6000, 3000);
+}
+
+TEST_F(PrinterOfFiles, LaysThePageAsTheJobWantsIt) {
+  print(frame(kPicture), {1000, 2000}, PageOrientation::portrait);
+  EXPECT_EQ(page().size(), QSize(1190, 1684));
+  expectInk(page(), 1000, 2000, 7000, 5000);
+}
+
+TEST_F(PrinterOfFiles, CutsAtThePagesEdges) {
+  print(frame(kPicture), {-1000, -500}, PageOrientation::portrait);
+  expectInk(page(), 0, 0, 5000, 2500);
+}
+
+TEST_F(PrinterOfFiles, CutsWhatLeavesThePicture) {
+  DrawingList list = frame(kPicture);
+  list.startPiece({3000, 1500});
+  list.extendPiece({9000, 9000});
+  list.dot({0, 0}, 900);
+  print(list, {1000, 2000});
+  expectInk(page(), 1000, 2000, 7000, 5000);
+}
+
+TEST_F(PrinterOfFiles, DrawsLinesAsWideAsOnTheScreen) {
+  DrawingList list;
+  list.beginAxes();
+  list.line({3000, 0}, {3000, 3000});
+  print(list, {1000, 2000});
+  expectInk(page(), 4000 - 7.5, 2000, 4000 + 7.5, 5000);
+}
+
+TEST_F(PrinterOfFiles, TakesTheBitmapForADrawingThatIsFull) {
+  DrawingList list(1);
+  list.line({0, 0}, {1, 1});
+  EXPECT_EQ(print(list, {1000, 2000}), PrintOutcome::printed);
+  const QImage printed = page();
+  expectInk(printed, 1000, 2000, 7000, 5000);
+  EXPECT_EQ(printed.pixelColor(200, 350), QColor(Qt::green));
+  EXPECT_EQ(printed.pixelColor(600, 350), QColor(Qt::blue));
+}
+
+TEST_F(PrinterOfFiles, PrintsNothingWhenTheUserCancels) {
+  is_accepted = false;
+  EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::cancelled);
+  EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+TEST_F(PrinterOfFiles, IsNotStartedWhereNothingCanBeWritten) {
+  file = folder / "missing/page.pdf";
+  expectWarning("QPainter::begin");
+  EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::not_started);
+}
+
+TEST_F(PrinterOfFiles, NoticesThatTheDiskIsFull) {
+  file = "/dev/full";
+  if (!std::filesystem::exists(file)) GTEST_SKIP() << "no /dev/full here";
+  EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::failed);
+}
+
+using PrinterOfNobody = PrinterTest;
+
+TEST_F(PrinterOfNobody, HasNoPaperWithoutAPrinter) {
+  WidgetPrinter printer;
+  EXPECT_EQ(printer.paper(PageOrientation::portrait), std::nullopt);
+  EXPECT_EQ(printer.paper(PageOrientation::landscape), std::nullopt);
+}
+
+TEST_F(PrinterOfNobody, StartsNoJobWithoutAPrinter) {
+  WidgetPrinter printer([](QPrinter&) { return true; });
+  expectWarning("QPainter::begin");
+  EXPECT_EQ(printer.print({PageOrientation::portrait, {}, kPicture, frame(kPicture), Bitmap()}),
+            PrintOutcome::not_started);
+}
+
+TEST_F(PrinterOfNobody, AsksInAPrintDialogThatCanBeCancelled) {
+  WidgetPrinter printer;
+  const ModalDriver<QPrintDialog> driver({[](QPrintDialog& dialog) {
+    EXPECT_EQ(dialog.printer()->pageLayout().orientation(), QPageLayout::Landscape);
+    dialog.reject();
+  }});
+  EXPECT_EQ(printer.print({PageOrientation::landscape, {}, kPicture, frame(kPicture), Bitmap()}),
+            PrintOutcome::cancelled);
+}
+
+}  // namespace
+}  // namespace zel::test
