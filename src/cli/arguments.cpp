@@ -41,4 +41,10 @@ double numberArgument(std::string_view name, std::string_view argument) {
   return *number;
 }
 
+char letterArgument(std::string_view name, std::string_view argument) {
+  if (argument.size() != 1 || argument[0] < 'a' || argument[0] > 'z')
+    throw CLI::ValidationError(std::string(name), "give a letter from a to z");
+  return argument[0];
+}
+
 }  // namespace zel

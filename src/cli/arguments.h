@@ -20,4 +20,7 @@ std::string unprotected(std::string argument);
 /// that says what is wrong.
 double numberArgument(std::string_view name, std::string_view argument);
 
+/// The letter of a graph, "a" to "z"; throws likewise.
+char letterArgument(std::string_view name, std::string_view argument);
+
 }  // namespace zel

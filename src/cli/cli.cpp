@@ -16,7 +16,7 @@ namespace {
 
 void addCommands(CLI::App& app, Console& console, Command& command) {
   for (const auto add : {addEvaluate, addCompile, addCheckFormula, addCheck, addResave, addTable,
-                         addRender, addSelfTest})
+                         addRender, addDrive, addSelfTest})
     add(app, console, command);
   for (CLI::App* subcommand : app.get_subcommands({})) {
     subcommand->fallthrough();

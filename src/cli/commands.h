@@ -20,6 +20,7 @@ void addCheck(CLI::App& app, Console& console, Command& command);
 void addResave(CLI::App& app, Console& console, Command& command);
 void addTable(CLI::App& app, Console& console, Command& command);
 void addRender(CLI::App& app, Console& console, Command& command);
+void addDrive(CLI::App& app, Console& console, Command& command);
 void addSelfTest(CLI::App& app, Console& console, Command& command);
 
 }  // namespace zel

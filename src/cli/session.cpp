@@ -1,5 +1,7 @@
 #include "cli/session.h"
 
+#include <ostream>
+
 namespace zel {
 
 int Session::load(const std::string& path, const Console& console) {
@@ -10,6 +12,13 @@ int Session::load(const std::string& path, const Console& console) {
 
 int Session::loadIfGiven(const std::string& path, const Console& console) {
   return path.empty() ? kExitDone : load(path, console);
+}
+
+std::optional<GraphDef> Session::graphInUse(char letter, const Console& console) const {
+  auto def = graphs.graph(letter);
+  if (def && def->defined) return def;
+  console.err << inLanguage("No hay un gráfico ", "There is no graph ") << letter << '\n';
+  return std::nullopt;
 }
 
 }  // namespace zel

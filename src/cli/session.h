@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "cli/console.h"
@@ -21,6 +22,9 @@ struct Session {
 
   /// load, when there is a path.
   int loadIfGiven(const std::string& path, const Console& console);
+
+  /// A graph in use; that there is none is said on standard error.
+  std::optional<GraphDef> graphInUse(char letter, const Console& console) const;
 };
 
 }  // namespace zel

@@ -54,22 +54,16 @@ void countDown(const ParameterRange& range, const Visit& visit) {
   forEachParameter(mirrored, [&](double value) { return visit(-value); });
 }
 
-int noSuchGraph(const Options& options, const Console& console) {
-  console.err << inLanguage("No hay un gráfico ", "There is no graph ") << options.graph << '\n';
-  return kExitFailed;
-}
-
 int table(const Options& options, const Console& console) {
   const ParameterRange range = {numberArgument("--from", options.from),
                                 numberArgument("--to", options.to),
                                 numberArgument("--step", options.step)};
   const double p = numberArgument("--p", options.p);
-  if (options.graph.size() != 1 || options.graph[0] < 'a' || options.graph[0] > 'z')
-    throw CLI::ValidationError("--graph", "give a letter from a to z");
+  const char letter = letterArgument("--graph", options.graph);
   Session session;
   if (const int status = session.load(options.file, console)) return status;
-  const auto def = session.graphs.graph(options.graph[0]);
-  if (!def || !def->defined) return noSuchGraph(options, console);
+  const auto def = session.graphInUse(letter, console);
+  if (!def) return kExitFailed;
 
   session.engine.SetP(p);
   Rows rows(console, session.engine);

@@ -2,6 +2,7 @@
 # Ctrl-C ends a command that would never end with status 130 and leaves no half-written file.
 set -uo pipefail
 cli=$1
+source_dir=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 failures=0
@@ -43,6 +44,9 @@ interrupted "a table with a step of 0" \
   "$cli" table "$work/endless.zel" --graph a --from 0 --to 1 --step 0
 interrupted "a family with a step of 0" \
   "$cli" render "$work/endless.zel" -o "$work/picture.svg" --quality 1
+interrupted "a plot with a family with a step of 0" "$cli" drive "$work/endless.zel" --quality 1
+interrupted "a plot that waits for commands" \
+  "$cli" drive "$source_dir/examples/waves.zel" --quality 1
 interrupted "a batch that waits for input" "$cli" evaluate --batch
 
 left=$(find "$work" -name '*.svg*' -o -name '.zel-*')

@@ -121,8 +121,8 @@ TEST_F(RenderCommand, RefusesAWrongCommandLine) {
 TEST_F(RenderCommand, TakesPicturesUpToTheirBoundToThePixel) {
   EXPECT_NE(svg(line, {"--width", "16384", "--height", "8192"}), "");
   EXPECT_NE(svg(line, {"--width", "32767", "--height", "1"}), "");
-  const Run larger = run({"render", line, "-o", path("larger.svg"), "--width", "16384", "--height",
-                          "8193"});
+  const Run larger =
+      run({"render", line, "-o", path("larger.svg"), "--width", "16384", "--height", "8193"});
   EXPECT_EQ(larger.status, 2);
 }
 

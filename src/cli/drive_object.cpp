@@ -1,0 +1,87 @@
+#include "cli/drive_object.h"
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+
+#include <nlohmann/json.hpp>
+
+namespace zel {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr std::array<std::string_view, 3> kModes = {"NORMAL", "RECORRIDO", "ZOOM"};
+
+Json number(double value) {
+  constexpr double kMostExact = 1LL << 53;
+  if (!std::isfinite(value)) return nullptr;
+  if (std::trunc(value) == value && std::fabs(value) < kMostExact)
+    return static_cast<std::int64_t>(value);
+  return value;
+}
+
+Json panelList(const StatusPanels& panels) {
+  return {panels.first, panels.second, panels.third, panels.fourth};
+}
+
+void addCursor(Json& object, const std::optional<TraceCursor>& cursor) {
+  object["cursor"] = nullptr;
+  object["slope"] = nullptr;
+  if (!cursor || !std::isfinite(cursor->place.x) || !std::isfinite(cursor->place.y)) return;
+  object["cursor"] = {number(cursor->place.x), number(cursor->place.y)};
+  object["slope"] = slopeKey(cursor->slope);
+}
+
+Json rectangle(const std::optional<ZoomRectangle>& shown) {
+  if (!shown) return nullptr;
+  return {number(shown->left), number(shown->top), number(shown->width), number(shown->height)};
+}
+
+void addTools(Json& object, const PlotSession& session) {
+  const bool is_zoom = session.mode() == PlotMode::zoom;
+  object["zoom_rectangle"] = rectangle(session.zoomRectangle());
+  object["pointer"] = is_zoom ? "cross" : "default";
+  object["zoom_pressed"] = is_zoom;
+  for (const PlotCommand command : {PlotCommand::recorrer, PlotCommand::calcular_y})
+    object["enabled"][std::string(keyOf(command))] = session.isEnabled(command);
+}
+
+void addShown(Json& object, const ShownPlot& shown) {
+  object["redraws"] = shown.redraws;
+  if (shown.progress) {
+    object["progress"] = Json::array();
+    for (const StatusPanels& panels : *shown.progress)
+      object["progress"].push_back(panelList(panels));
+  }
+  object["messages"] = Json::array();
+  for (const ShownMessage& message : shown.messages)
+    object["messages"].push_back(
+        {{"kind", message.kind}, {"title", message.title}, {"text", message.text}});
+  object["closed_to"] = shown.closed_to.empty() ? Json() : Json(shown.closed_to);
+}
+
+}  // namespace
+
+std::string driveObject(const DriveWindow& window, const Engine& engine) {
+  const PlotSession& session = window.session();
+  const ViewSettings& view = session.view();
+  Json object;
+  object["mode"] = kModes[static_cast<std::size_t>(session.mode())];
+  object["xi"] = number(view.xi);
+  object["xf"] = number(view.xf);
+  object["yi"] = number(view.yi);
+  object["yf"] = number(view.yf);
+  const auto active = session.activeGraph();
+  object["active"] = active ? Json(std::string(1, *active)) : Json();
+  object["panels"] = panelList(window.shown().panels);
+  addCursor(object, session.cursor());
+  object["trace_x"] = number(session.tracePosition());
+  object["p"] = number(engine.GetP());
+  addTools(object, session);
+  addShown(object, window.shown());
+  // What is not UTF-8 can come from the answers that are read.
+  return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+}  // namespace zel

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "files/document.h"
+#include "plot/axes.h"
+#include "plot/viewport.h"
+
+namespace zel {
+
+inline constexpr int kLongestSide = 32767;  // pixels
+
+/// The options of a command that draws a document, as they were typed; empty where they were not.
+struct ViewOptions {
+  int width = 800;   // pixels
+  int height = 600;  // pixels
+  std::vector<std::string> range;
+  std::string quality;
+  std::string proportional;
+  std::vector<std::string> marks;
+};
+
+void addViewOptions(CLI::App& command, ViewOptions& options);
+
+/// What the command line says in the place of the document.
+struct WantedView {
+  PictureSize size;
+  std::vector<double> range;  // xi, xf, yi, yf, or nothing
+  std::optional<std::int16_t> quality;
+  std::optional<bool> proportional;
+  std::vector<double> marks;  // of the x and the y axis, or nothing
+};
+
+/// Throws CLI::ValidationError with a line that says what is wrong.
+WantedView readViewOptions(const ViewOptions& options);
+
+/// What the plot window opens with.
+struct OpenedView {
+  ViewSettings view;
+  ScaleMarks marks;
+};
+
+/// Nothing when a field of the document that counts is no number. An axis whose distance is 0 or
+/// not given shows no marks.
+std::optional<OpenedView> openedView(const WantedView& wanted, const MainView& fields);
+
+}  // namespace zel
