@@ -1,7 +1,7 @@
 option(ZEL_WITH_QT "Build what needs Qt: the windows, and the pictures of zel-cli" ON)
 option(ZEL_BUILD_CLI "Build zel-cli" ON)
 option(ZEL_BUILD_TESTS "Build the tests" OFF)
-option(ZEL_BUILD_BENCH "Build the benchmarks (target zel_bench)" OFF)
+option(ZEL_BUILD_BENCH "Build the benchmarks (targets zel_bench and bench_rows)" OFF)
 option(ZEL_BUILD_FUZZ "Build the fuzzers (needs clang)" OFF)
 option(ZEL_WERROR "Treat warnings as errors" OFF)
 option(ZEL_COVERAGE "Count which lines run" OFF)

@@ -6,5 +6,5 @@ cd "$(dirname "$0")/.."
 scripts/setup.sh format
 action=(-i)
 [[ ${1:-} != --check ]] || action=(--dry-run -Werror)
-find src tests bench fuzz \( -name '*.cpp' -o -name '*.h' \) -print0 |
+find src tests benchmarks fuzz \( -name '*.cpp' -o -name '*.h' \) -print0 |
   xargs -0 -r clang-format --style=file "${action[@]}"

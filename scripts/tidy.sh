@@ -4,6 +4,6 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
-scripts/setup.sh build tidy
+scripts/setup.sh build bench tidy
 configure tidy
 run-clang-tidy -quiet -p build/tidy -j "$(nproc)" "$PWD/${1:-src/}"

@@ -15,7 +15,7 @@ inline constexpr std::array<std::string_view, 12> kFormulas = {
     "2*sen(x)+cos(3*x)/2",
     "exp(-x^2/10)",
     "ln(x^2+1)",
-    "abs(x)!/1000",
+    "(abs(x))!/1000",
     "raiz3(abs(x))*tan(x)",
     "7*exp(-((x-(3))^2))*cos(30*x)",
     "raiz2((1-(x-(1))^2/(20)^2)*(4)^2)+(2)",

@@ -11,15 +11,18 @@ import sys
 import tempfile
 import time
 
+NAMES = ["zel", "empty_window"]
+RUNS = 15
+
 
 def start_screen():
     read_end, write_end = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1024x24"],
+        ["Xvfb", "-noreset", "-displayfd", str(write_end), "-screen", "0", "1280x1024x24"],
         pass_fds=[write_end], stderr=subprocess.DEVNULL)
     os.close(write_end)
-    display = ":" + os.read(read_end, 16).decode().strip()
-    os.close(read_end)
+    with open(read_end, encoding="ascii") as number:
+        display = ":" + number.readline().strip()
     return server, display
 
 
@@ -31,9 +34,8 @@ def time_to_window(program, folder, environment):
     began = time.perf_counter()
     process = subprocess.Popen([program], cwd=folder, env=environment,
                                stderr=subprocess.DEVNULL)
-    for line in watcher.stdout:
-        if line.startswith("MapNotify"):
-            break
+    if not any(line.startswith("MapNotify") for line in watcher.stdout):
+        sys.exit("the screen went away")
     elapsed = time.perf_counter() - began
     for child in (process, watcher):
         child.kill()
@@ -41,30 +43,31 @@ def time_to_window(program, folder, environment):
     return elapsed
 
 
-def main():
-    programs = {name: os.path.join(sys.argv[1], name) for name in ("zel", "empty_window")}
-    runs = int(sys.argv[2]) if len(sys.argv) > 2 else 15
+def first_window_times(folder_with_programs, runs=RUNS):
+    """Median seconds of zel and of the empty window, started in turn."""
+    programs = [os.path.join(os.path.abspath(folder_with_programs), name) for name in NAMES]
     server, display = start_screen()
-    times = {name: [] for name in programs}
     try:
         with tempfile.TemporaryDirectory() as folder:
             with open(os.path.join(folder, "config.ini"), "w", encoding="latin-1") as config:
                 config.write("EN\r\nFalse")
             environment = dict(os.environ, DISPLAY=display, QT_QPA_PLATFORM="xcb",
                                HOME=folder, XDG_RUNTIME_DIR=folder)
-            os.chmod(folder, 0o700)
-            for run in range(runs + 1):
-                for name, path in programs.items():
-                    elapsed = time_to_window(path, folder, environment)
-                    if run > 0:  # the first run of each warms the disk's cache
-                        times[name].append(elapsed)
+            times = [[time_to_window(program, folder, environment) for program in programs]
+                     for _ in range(runs + 1)]
     finally:
         server.kill()
         server.wait()
-    medians = {name: statistics.median(values) for name, values in times.items()}
-    for name, median in medians.items():
+    return [statistics.median(seconds) for seconds in zip(*times[1:])]  # the first ones warm up
+
+
+def main():
+    runs = int(sys.argv[2]) if len(sys.argv) > 2 else RUNS
+    medians = first_window_times(sys.argv[1], runs)
+    for name, median in zip(NAMES, medians):
         print(f"{name:>14}: {median * 1000:7.1f} ms to its first window (median of {runs})")
-    print(f"{'ratio':>14}: {medians['zel'] / medians['empty_window']:7.2f}")
+    print(f"{'ratio':>14}: {medians[0] / medians[1]:7.2f}")
 
 
-main()
+if __name__ == "__main__":
+    main()

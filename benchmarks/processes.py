@@ -1,0 +1,75 @@
+"""Rows that other processes measure or are."""
+import os
+import re
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+WIDTH, HEIGHT, QUALITY = 1920, 1080, 100
+RENDER_RUNS = 15
+
+
+def in_process(programs, row, threads=None):
+    """What bench_rows prints of a row: what exactly, seconds, and the seconds beside it. muParser's
+    bulk mode uses so many threads, by itself as many as there are processors."""
+    with tempfile.TemporaryDirectory() as folder:
+        environment = dict(os.environ, XDG_RUNTIME_DIR=folder)
+        if threads:
+            environment["OMP_NUM_THREADS"] = str(threads)
+        ran = subprocess.run([os.path.join(programs, "bench_rows"), row], env=environment,
+                             stdout=subprocess.PIPE, text=True, check=False)
+    if ran.returncode != 0:
+        sys.exit(f"The row {row} could not be measured.")
+    measured = []
+    for line in ran.stdout.splitlines():
+        _, what, *seconds = line.split("\t")
+        measured.append((what, *map(float, seconds)))
+    return measured
+
+
+def gnuplot_script(document, picture):
+    """The functions and the range of a document, in gnuplot's language."""
+    with open(document, encoding="cp1252") as file:
+        pairs = re.findall(r"^(\w+)=(.*?)\r?$", file.read(), re.MULTILINE)
+    view = dict(pairs)
+    functions = [re.sub(r"/(\d+)\b", r"/\1.0", text.replace("^", "**"))  # no division of integers
+                 for key, text in pairs if key == "ecuacion"]
+    return "\n".join([
+        f"set terminal png size {WIDTH},{HEIGHT}",
+        f"set output '{picture}'",
+        f"set samples {WIDTH * QUALITY // 100}",
+        "set angles degrees",
+        "set zeroaxis",
+        "unset key",
+        f"set xrange [{view['xi']}:{view['xf']}]",
+        f"set yrange [{view['yi']}:{view['yf']}]",
+        "plot " + ", ".join(functions), ""])
+
+
+def seconds_of(command, picture):
+    began = time.perf_counter()
+    subprocess.run(command, check=True)
+    seconds = time.perf_counter() - began
+    with open(picture, "rb") as file:
+        if not file.read(8).startswith(b"\x89PNG"):
+            sys.exit(f"{command[0]} made no picture.")
+    os.remove(picture)
+    return seconds
+
+
+def render_times(programs, document):
+    """Median seconds of zel-cli and of gnuplot, in turn, from a document to a PNG file."""
+    with tempfile.TemporaryDirectory() as folder:
+        picture = os.path.join(folder, "picture.png")
+        script = os.path.join(folder, "script")
+        with open(script, "w", encoding="ascii") as file:
+            file.write(gnuplot_script(document, picture))
+        commands = [
+            [os.path.join(programs, "zel-cli"), "render", document, "-o", picture,
+             "--width", str(WIDTH), "--height", str(HEIGHT), "--quality", str(QUALITY)],
+            ["gnuplot", script]]
+        times = [[seconds_of(command, picture) for command in commands]
+                 for _ in range(RENDER_RUNS + 1)]
+    return [statistics.median(seconds) for seconds in zip(*times[1:])]  # the first ones warm up
