@@ -1,6 +1,7 @@
 if(ZEL_WITH_QT)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Svg Widgets PrintSupport)
-  find_package(PNG REQUIRED)
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(isal REQUIRED IMPORTED_TARGET libisal)
   if(ZEL_BUILD_TESTS)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
   endif()

@@ -4,8 +4,8 @@
 set -euo pipefail
 
 declare -A groups=(
-  [build]="cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-translations-l10n libpng-dev
-    libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev"
+  [build]="cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-translations-l10n
+    libisal-dev pkg-config libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev"
   [test]="cups-daemon desktop-file-utils g++-mingw-w64-x86-64-posix git imagemagick
     libglib2.0-bin libxml2-utils locales openbox poppler-utils python3 shared-mime-info strace
     x11-utils xclip xdg-utils xdotool xvfb"
