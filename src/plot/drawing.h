@@ -45,6 +45,8 @@ class Drawing {
   /// bar after a whole redraw.
   RedrawOutcome redraw(Viewport& viewport, const ScaleMarks& marks);
 
+  /// Whether a redraw has begun and not returned.
+  bool isUnderWay() const { return nested_ > 0; }
   /// Whether a family or a parametric curve is being drawn.
   bool inProgress() const { return in_progress_; }
   /// Ends the family or parametric curve that is being drawn; what it has drawn stays.

@@ -29,8 +29,10 @@ void sweepSamples(const CurveTools& tools, std::string_view code, const Visit& v
   bool pen_up = true;
   for (std::size_t first = 0; first < tools.grid.size(); first += kSweepBlock) {
     if (first > 0) {
+      const double p = tools.engine.GetP();
       tools.screen.runPendingEvents();
       if (tools.in_progress.isAbandoned()) return;
+      tools.engine.SetP(p);  // a click may have picked another member of a family
     }
     const std::size_t count = std::min(kSweepBlock, tools.grid.size() - first);
     const auto xs = tools.grid.xs().subspan(first, count);

@@ -20,6 +20,7 @@ void PlotSession::open(const ViewSettings& view, const ScaleMarks& marks) {
   cursor_.reset();
   trace_.reset();
   rectangle_ = {};
+  ignores_press_ = false;
   is_dragging_ = false;
   active_.reset();
   activateFirst();
@@ -42,7 +43,10 @@ void PlotSession::drawFirst() {
   if (state_ == State::opened) redraw();
 }
 
-void PlotSession::redraw() { drawView(); }
+void PlotSession::redraw() {
+  const double traced = tracePosition();
+  if (drawView() && cursor_) trace(traced, 0);
+}
 
 bool PlotSession::drawView() {
   if (state_ == State::closed || state_ == State::refused) return false;

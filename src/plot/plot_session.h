@@ -19,7 +19,7 @@ namespace zel {
 /// What the mouse does on the picture: "NORMAL", "RECORRIDO" or "ZOOM".
 enum class PlotMode { normal, recorrido, zoom };
 
-enum class MouseButton { none, left, right };
+enum class MouseButton { none, left, right, other };
 
 /// The cross on the traced point, and the picture of the slope beside it.
 struct TraceCursor {
@@ -73,9 +73,13 @@ class PlotSession {
 
   /// Draws the view if nothing has been drawn since it was opened.
   void drawFirst();
-  /// Draws the view. When that is refused or fails, the listener shows why and then returns to the
-  /// main window; meanwhile nothing is drawn.
+  /// Draws the view; a point that is being traced stays traced while it is in the view. When that
+  /// is refused or fails, the listener shows why and then returns to the main window; meanwhile
+  /// nothing is drawn.
   void redraw();
+
+  /// Whether the view is being drawn; the panels tell of the drawing meanwhile.
+  bool isDrawing() const { return drawing_.isUnderWay(); }
 
   /// Whether a picture that follows its window takes this size: a smaller one stays as it was.
   static bool takesSize(const PictureSize& size);
@@ -169,7 +173,8 @@ class PlotSession {
   std::optional<PlanePoint> trace_;  // the last trace point
   std::optional<TraceCursor> cursor_;
   ZoomRectangle rectangle_;
-  bool is_dragging_ = false;  // the rectangle
+  bool is_dragging_ = false;    // the rectangle
+  bool ignores_press_ = false;  // with what belongs to it, until the button is up
   State state_ = State::closed;
   std::uint64_t opened_count_ = 0;  // tells one opening from the next
 };

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <utility>
 
 #include "base/number_text.h"
 #include "plot/graph_picker.h"
@@ -8,7 +9,9 @@
 namespace zel {
 
 void PlotSession::mouseDown(MouseButton button, Point mouse) {
-  if (!isDrawn() || drawing_.inProgress()) return;
+  if (!isDrawn()) return;
+  ignores_press_ = drawing_.inProgress();
+  if (ignores_press_) return;
   if (button == MouseButton::right) return toggleZoom();
   if (button != MouseButton::left) return;
   if (mode_ != PlotMode::zoom) return pick(mouse);
@@ -19,7 +22,7 @@ void PlotSession::mouseDown(MouseButton button, Point mouse) {
 
 void PlotSession::mouseMove(MouseButton held, Point mouse) {
   if (!isDrawn() || mode_ != PlotMode::zoom) return;
-  if (held != MouseButton::none) rectangle_.follow(mouse);
+  if (held != MouseButton::none && !ignores_press_) rectangle_.follow(mouse);
   const auto panel = [](const char* name, double value) {
     return std::isfinite(value) ? name + writeNumber(value).str() : "";
   };
@@ -29,9 +32,11 @@ void PlotSession::mouseMove(MouseButton held, Point mouse) {
 }
 
 void PlotSession::mouseUp(MouseButton button, Point) {
+  const bool is_ignored = std::exchange(ignores_press_, false);
   is_dragging_ = false;
   if (!isDrawn()) return;
   listener_.toolsChanged();
+  if (is_ignored) return;
   if (button == MouseButton::left && mode_ == PlotMode::zoom && rectangle_.isLargeEnough())
     applyRectangle();
 }

@@ -13,6 +13,8 @@
 namespace zel {
 
 void frmGrafico::showForm() {
+  // Behind the window that comes back, a drawing has failed and the view was handed back.
+  if (callerOf(program().params) == this && !session_.isOpen()) return;
   Form::showForm();
   picGrafico_->setFocus();
   draws_soon_.start();

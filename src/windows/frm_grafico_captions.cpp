@@ -23,7 +23,8 @@ void frmGrafico::describePicture() {
                             .arg(text(view.xi), text(view.xf), text(view.yi), text(view.yf));
   if (!graph_bar_->graphText().isEmpty())
     description += "; " + caption("gráfico activo: ", "active graph: ") + graph_bar_->graphText();
-  if (session_.cursor()) description += "; " + StatusBar1_->text();
+  if (session_.mode() == PlotMode::recorrido && !session_.isDrawing())
+    description += "; " + StatusBar1_->text();
   // Whoever listens hears each change once.
   if (description != picGrafico_->accessibleDescription())
     picGrafico_->setAccessibleDescription(description);

@@ -18,7 +18,7 @@ Point twipsOf(QPointF pixels) { return {pixels.x() * kTwipsPerPixel, pixels.y() 
 MouseButton buttonOf(Qt::MouseButtons buttons) {
   if (buttons & Qt::LeftButton) return MouseButton::left;
   if (buttons & Qt::RightButton) return MouseButton::right;
-  return MouseButton::none;
+  return buttons ? MouseButton::other : MouseButton::none;
 }
 
 }  // namespace

@@ -142,13 +142,16 @@ bool PageView::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
+      if (Shape1_->isVisible()) return true;  // another button while one drags
       Image3_MouseDown(static_cast<QMouseEvent*>(event)->position());
       return false;
     case QEvent::MouseMove:
       if (static_cast<QMouseEvent*>(event)->buttons() != Qt::NoButton)
         Image3_MouseMove(static_cast<QMouseEvent*>(event)->position());
       return true;
-    case QEvent::MouseButtonRelease: Image3_MouseUp(); return true;
+    case QEvent::MouseButtonRelease:
+      if (static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton) Image3_MouseUp();
+      return true;
     case QEvent::KeyPress: return Image3_KeyDown(static_cast<QKeyEvent*>(event)->key());
     default: return QWidget::eventFilter(watched, event);
   }
@@ -184,7 +187,7 @@ bool PageView::Image3_KeyDown(int key) {
     case Qt::Key_Down: step.y = kArrowStep; break;
     default: return false;
   }
-  if (preview_->moveBy(step.x, step.y)) {
+  if (!Shape1_->isVisible() && preview_->moveBy(step.x, step.y)) {
     placePicture();
     emit moved();
   }

@@ -157,6 +157,16 @@ TEST_F(FunctionSweep, LetsEventsRunBetweenItsBlocks) {
   EXPECT_EQ(screen.event_runs, 2);
 }
 
+TEST_F(FunctionSweep, KeepsItsParameterWhateverHappensMeanwhile) {
+  setQuality(600);
+  engine.SetP(2);
+  screen.on_events = [&](std::size_t) { engine.SetP(9); };
+  const Texts pieces = sweep("p");
+  screen.on_events = nullptr;
+  engine.SetP(2);
+  EXPECT_EQ(sweep("p"), pieces);
+}
+
 TEST_F(FunctionSweep, EndsWhenAnotherRedrawHasBegunMeanwhile) {
   setQuality(600);
   screen.on_events = [&](std::size_t) { abandon(); };

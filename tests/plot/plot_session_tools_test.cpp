@@ -127,6 +127,23 @@ TEST_F(SessionTools, APanKeepsTheTracePointWhileItIsInView) {
   EXPECT_EQ(session.tracePosition(), 1);
 }
 
+TEST_F(SessionTools, ARedrawKeepsTheTracePoint) {
+  session.execute(PlotCommand::recorrer_adelante);
+  session.redraw();
+  EXPECT_EQ(session.mode(), PlotMode::recorrido);
+  EXPECT_EQ(shown(), "X=1|Y=1||");
+}
+
+TEST_F(SessionTools, AfterAPanTheTraceOfAFamilyFollowsItsMemberDrawnLast) {
+  graphs.clearGraphs();
+  addGraph('b', FamilyFields{field("P*x/4"), field("0"), field("2"), field("1")});
+  openAndDraw();
+  session.mouseDown(MouseButton::left, {900, 715});  // x = 1, y = 0.23
+  EXPECT_EQ(shown(), "X=2|Y=0,5|P=1|");
+  session.execute(PlotCommand::derecha);
+  EXPECT_EQ(shown(), "X=2|Y=1|P=2|");
+}
+
 TEST_F(SessionTools, APanKeepsTheModeZoom) {
   session.execute(PlotCommand::zoom_a_medida);
   session.execute(PlotCommand::arriba);
@@ -426,6 +443,25 @@ TEST_F(SessionToolsInDrawing, ClicksAndTraceStepsAreIgnored) {
     EXPECT_FALSE(session.cursor());
   });
   EXPECT_EQ(picture.pieces().size(), 5);
+}
+
+TEST_F(SessionToolsInDrawing, APressThatIsIgnoredTakesItsReleaseWithIt) {
+  bool is_second = false;
+  drawWith([&] {
+    if (!is_second) return;
+    session.mouseDown(MouseButton::left, {100, 100});
+    session.mouseMove(MouseButton::left, {900, 900});
+    session.mouseUp(MouseButton::left, {900, 900});
+  });
+  session.execute(PlotCommand::zoom_a_medida);
+  session.mouseDown(MouseButton::left, {600, 450});
+  session.mouseMove(MouseButton::left, {1050, 750});
+  is_second = true;
+  screen.event_runs = 0;
+  session.mouseUp(MouseButton::left, {1050, 750});
+  EXPECT_EQ(session.view().xi, -1);
+  EXPECT_EQ(session.view().xf, 2);
+  EXPECT_EQ(listener.drawn, 2);
 }
 
 TEST_F(SessionToolsInDrawing, PararDoesNotStopIt) {

@@ -93,6 +93,17 @@ TEST_F(GraficoOutput, IsAsItWasAfterThePrintWindow) {
   EXPECT_EQ(print.shown, 1);
 }
 
+TEST_F(GraficoOutput, StaysAwayWhenItsViewWasHandedBackBehindThePrintWindow) {
+  openUsual();
+  click("Imprimir");
+  FormParams arguments = program.params;
+  click("Configurar");
+  ASSERT_FALSE(window.isVisible());
+  program.params = arguments;
+  callerOf(program.params)->showForm();
+  EXPECT_FALSE(window.isVisible());
+}
+
 TEST_F(GraficoOutput, ThePrintWindowLiesOverItUntilItIsClosed) {
   frmImprimir real(program);
   window.setPrintWindow(&real);

@@ -35,6 +35,18 @@ TEST_F(DraggedPicture, ThePictureGoesToTheOutlineWhenTheButtonIsReleased) {
   EXPECT_EQ(image().cursor().shape(), Qt::OpenHandCursor);
 }
 
+TEST_F(DraggedPicture, AnotherButtonOrAKeyDoesNotDisturbADrag) {
+  press();
+  moveBy({20, 10});
+  QTest::mousePress(&image(), Qt::RightButton);
+  QTest::mouseRelease(&image(), Qt::RightButton);
+  QTest::keyClick(&image(), Qt::Key_Left);
+  EXPECT_TRUE(outline().isVisible());
+  EXPECT_EQ(image().geometry(), start);
+  release({20, 10});
+  EXPECT_EQ(image().geometry(), start.translated(20, 10));
+}
+
 TEST_F(DraggedPicture, IsPrintedWhereItStands) {
   drag({-20, 13});
   const double twips = 16840.0 / page().width();

@@ -1,9 +1,11 @@
 // Random clicks, keys, resizes and closes over all windows: nothing crashes, hangs or warns.
 // ZEL_MONKEY_EVENTS and ZEL_MONKEY_SEED choose how many and which.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QTimer>
 #include <QWheelEvent>
 #include <cstdlib>
 #include <map>
@@ -26,6 +28,8 @@ class Monkey : public WindowTest {
   Monkey() : random_(setting("ZEL_MONKEY_SEED", 1)) {
     services.boxes.on_show = [this](const FakeMessageBoxes::Box&) { answerSomething(); };
     program.end_process = [this] { ended_ = true; };
+    QObject::connect(&patience_, &QTimer::timeout, [this] { closeForgottenMenu(); });
+    patience_.start(20);
     addFunction('a', "x^2/4-2");
     addFunction('b', "inv(x)");
     program.graphs.rebuildGraph('f', "p*x", "", 0x00FF00, 'Z', family());
@@ -144,7 +148,29 @@ class Monkey : public WindowTest {
     if (action->isEnabled()) action->trigger();
   }
 
+  /// Few random clicks lead to the plot and from there to the print window, so both are opened on
+  /// purpose now and then.
+  bool goFurther(QWidget& window) {
+    if (below(50) != 0) return false;
+    for (const char* name : {"CmdGraficarLista", "Imprimir"}) {
+      auto* const button = window.findChild<QAbstractButton*>(name);
+      if (!button) continue;
+      button->click();
+      return true;
+    }
+    return false;
+  }
+
+  /// The menu of a toolbar that is too narrow waits for its user; one who has gone is not coming.
+  void closeForgottenMenu() {
+    QWidget* const popup = QApplication::activePopupWidget();
+    if (popup && events_ == events_seen_) popup->close();
+    events_seen_ = events_;
+  }
+
   void doSomething(QWidget& window) {
+    ++events_;
+    if (goFurther(window)) return;
     const int choice = below(100);
     QWidget& target = *anyControl(window);
     if (choice < 48)
@@ -175,6 +201,9 @@ class Monkey : public WindowTest {
  private:
   std::mt19937 random_;
   std::optional<Windows> windows_;
+  QTimer patience_;
+  unsigned long events_ = 0;
+  unsigned long events_seen_ = 0;
 };
 
 TEST_F(Monkey, CannotBreakTheProgram) {
