@@ -93,8 +93,10 @@ std::size_t Engine::curveBlock(std::string_view code_x, std::string_view code_y,
                                std::span<double> ys) {
   std::size_t count = 1;
   const ParseCache& cache = reference_.parseCache();
+  // Where `code_x` was expanded last, the first point still has that expansion, and the others not.
   const bool is_plain = ts.size() >= kShortestBlock && code_x != code_y && cache.position() == 1 &&
-                        cache.code() != code_x && expand(code_x) && canRunBlocks(clean_plan_.get());
+                        cache.code() != code_x && reference_.lastCode() != code_x &&
+                        expand(code_x) && canRunBlocks(clean_plan_.get());
   const auto plan_x = clean_plan_;
   if (is_plain && expand(code_y) && canRunBlocks(clean_plan_.get())) {
     const auto plan_y = clean_plan_;

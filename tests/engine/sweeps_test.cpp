@@ -170,6 +170,20 @@ TEST_F(Sweeps, OfACurveThatEndsInErrorsKeepTheRecordsFromBefore) {
   EXPECT_EQ(ys[19], 38);
 }
 
+TEST_F(Sweeps, OfACurveBeginWithTheExpansionThatWasKept) {
+  graphCode('f') = "7@x";
+  double value = 0;
+  std::string message;
+  engine.SetT(-1);
+  ASSERT_FALSE(engine.Evaluate(0, value, "f(t)", message));
+  graphCode('f') = "x+1";
+  const std::vector<double> ts = range(4, 5);
+  std::vector<double> xs(5);
+  std::vector<double> ys(5);
+  engine.EvaluateCurve("f(t)", "t", ts, xs, ys);
+  EXPECT_EQ(texts(xs), "2 6 7 8 9");
+}
+
 TEST_F(Sweeps, OfACurveWithOneCodeReplayItForY) {
   const auto ts = range(0, 6);
   std::vector<double> xs(ts.size());
