@@ -4,7 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace {
 

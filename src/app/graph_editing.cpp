@@ -7,8 +7,8 @@
 #include "app/messages.h"
 #include "app/new_graph.h"
 #include "base/language.h"
-#include "base/number_text.h"
 #include "engine/compiler.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

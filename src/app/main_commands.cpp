@@ -5,8 +5,8 @@
 
 #include "app/messages.h"
 #include "base/language.h"
-#include "base/number_text.h"
 #include "base/text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

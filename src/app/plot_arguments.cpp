@@ -1,6 +1,6 @@
 #include "app/plot_arguments.h"
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

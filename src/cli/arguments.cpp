@@ -1,6 +1,6 @@
 #include "cli/arguments.h"
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

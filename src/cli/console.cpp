@@ -3,8 +3,8 @@
 #include <ostream>
 
 #include "base/language.h"
-#include "base/number_text.h"
 #include "base/text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "base/language.h"
-#include "base/number_text.h"
 #include "cli/console.h"
 #include "cli/view_options.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

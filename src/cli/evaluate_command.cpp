@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "base/language.h"
-#include "base/number_text.h"
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/line_reader.h"
@@ -14,6 +13,7 @@
 #include "cli/session.h"
 #include "engine/compiler.h"
 #include "graphs/field_validation.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

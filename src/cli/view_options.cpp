@@ -1,7 +1,7 @@
 #include "cli/view_options.h"
 
-#include "base/number_text.h"
 #include "cli/arguments.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

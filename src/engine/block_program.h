@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-#include "base/rounding_steps.h"
 #include "engine/plan.h"
+#include "numbers/rounding_steps.h"
 
 namespace zel {
 

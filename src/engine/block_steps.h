@@ -4,10 +4,10 @@
 #include <cmath>
 #include <cstdint>
 
-#include "base/rounding_steps.h"
 #include "engine/block_program.h"
 #include "engine/operation_steps.h"
 #include "engine/power_shortcuts.h"
+#include "numbers/rounding_steps.h"
 
 /// The loops of BlockProgram, to be compiled for each instruction set.
 namespace zel {

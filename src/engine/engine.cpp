@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "base/language.h"
-#include "base/rounding.h"
 #include "engine/compiler.h"
+#include "numbers/rounding.h"
 
 namespace zel {
 namespace {

@@ -6,8 +6,8 @@
 #include <limits>
 
 #include "base/language.h"
-#include "base/number_text.h"
 #include "engine/compiler.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <limits>
 
-#include "base/instruction_sets.h"
 #include "engine/function_library.h"
 #include "engine/plan.h"
+#include "numbers/instruction_sets.h"
 
 namespace zel {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "base/rounding.h"
+#include "numbers/rounding.h"
 
 namespace zel {
 

@@ -5,10 +5,10 @@
 #include <tuple>
 #include <utility>
 
-#include "base/number_text.h"
-#include "base/rounding.h"
 #include "engine/descent.h"
 #include "engine/plan.h"
+#include "numbers/number_text.h"
+#include "numbers/rounding.h"
 
 namespace zel {
 namespace {

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <cstdint>
 
-#include "base/rounding_steps.h"
 #include "engine/plan.h"
+#include "numbers/rounding_steps.h"
 
 /// Squares and cubes without the power function, where both give the same 15 digits for sure.
 namespace zel {

@@ -4,10 +4,10 @@
 #include <string_view>
 #include <vector>
 
-#include "base/number_text.h"
 #include "engine/descent.h"
 #include "engine/outcome.h"
 #include "engine/parse_cache.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 

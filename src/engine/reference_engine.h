@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "base/number_text.h"
 #include "engine/parse_cache.h"
 #include "engine/reducer.h"
 #include "engine/reference_expansion.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 

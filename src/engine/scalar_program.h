@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "base/rounding_steps.h"
 #include "engine/plan.h"
+#include "numbers/rounding_steps.h"
 
 namespace zel {
 

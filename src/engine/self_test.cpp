@@ -2,7 +2,7 @@
 
 #include "base/language.h"
 #include "base/message_table.h"
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/rounding.h"
 #include "engine/engine.h"
 #include "engine/operation_steps.h"
+#include "numbers/rounding.h"
 
 namespace zel {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "base/language.h"
-#include "base/number_text.h"
 #include "engine/formula_check.h"
 #include "graphs/kinds.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

@@ -1,7 +1,7 @@
 #include "graphs/graph_def.h"
 
-#include "base/number_text.h"
 #include "graphs/kinds.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 

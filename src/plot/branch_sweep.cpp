@@ -2,7 +2,7 @@
 #include <cmath>
 #include <optional>
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 #include "plot/function_sweep.h"
 
 namespace zel {

@@ -1,6 +1,6 @@
 #include "plot/parameter_range.h"
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 

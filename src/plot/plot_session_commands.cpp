@@ -1,5 +1,5 @@
 #include "base/language.h"
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 #include "plot/plot_session.h"
 #include "plot/value_texts.h"
 

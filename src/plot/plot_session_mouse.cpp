@@ -1,7 +1,7 @@
 #include <cmath>
 #include <utility>
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 #include "plot/graph_picker.h"
 #include "plot/plot_session.h"
 

@@ -1,5 +1,5 @@
 #include "base/language.h"
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 #include "plot/extremum_search.h"
 #include "plot/plot_session.h"
 

@@ -1,7 +1,7 @@
 #include "plot/value_texts.h"
 
 #include "base/language.h"
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel {
 

@@ -1,5 +1,5 @@
 // The plot window's captions in both languages, and what it tells those who cannot see it.
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 #include "windows/frm_grafico.h"
 #include "windows/graph_bar.h"
 #include "windows/panel_bar.h"

@@ -7,9 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include "base/rounding.h"
 #include "engine/block_program.h"
 #include "engine/scalar_program.h"
+#include "numbers/rounding.h"
 #include "random_codes.h"
 
 namespace zel::test {

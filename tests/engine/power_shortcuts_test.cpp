@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/rounding.h"
+#include "numbers/rounding.h"
 
 namespace zel::test {
 namespace {

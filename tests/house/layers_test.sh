@@ -5,8 +5,8 @@ set -euo pipefail
 export LC_ALL=C
 root=$2
 
-below=base
-declare -A may_include=([base]="$below")
+declare -A may_include=([base]=base [numbers]=numbers)
+below="base|numbers"
 for floor in engine graphs files plot app; do
   below+="|$floor"
   may_include[$floor]=$below

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/number_text.h"
 #include "counting_new.h"
+#include "numbers/number_text.h"
 
 namespace zel::test {
 namespace {

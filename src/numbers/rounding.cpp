@@ -1,9 +1,9 @@
-#include "base/rounding.h"
+#include "numbers/rounding.h"
 
 #include <limits>
 
-#include "base/number_text.h"
-#include "base/rounding_steps.h"
+#include "numbers/number_text.h"
+#include "numbers/rounding_steps.h"
 
 namespace zel {
 

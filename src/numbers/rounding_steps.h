@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "base/decades.h"
-#include "base/instruction_sets.h"
+#include "numbers/decades.h"
+#include "numbers/instruction_sets.h"
 
 /// The steps of the rounding to 15 digits, to be compiled into loops for each instruction set.
 namespace zel {

@@ -13,7 +13,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 namespace zel::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "base/number_text.h"
+#include "numbers/number_text.h"
 
 #include <cfloat>
 #include <cmath>

@@ -1,6 +1,6 @@
 // The rounding to 15 digits beside the number text that it stands for, bit for bit.
 
-#include "base/rounding.h"
+#include "numbers/rounding.h"
 
 #include <bit>
 #include <cfloat>
@@ -10,8 +10,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/number_text.h"
-#include "base/rounding_steps.h"
+#include "numbers/number_text.h"
+#include "numbers/rounding_steps.h"
 
 namespace zel::test {
 namespace {
