@@ -9,8 +9,8 @@
 #include "benchmarks/rows/offscreen_plot.h"
 #include "benchmarks/rows/rows.h"
 #include "graphs/graph_builders.h"
+#include "pictures/drawing_list.h"
 #include "platform/qt/painter_picture.h"
-#include "plot/drawing_list.h"
 
 namespace zel::bench {
 namespace {

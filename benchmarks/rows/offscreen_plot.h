@@ -5,7 +5,7 @@
 
 #include "engine/engine.h"
 #include "graphs/graph_table.h"
-#include "plot/drawing_list.h"
+#include "pictures/drawing_list.h"
 #include "plot/plot_session.h"
 #include "windows/panel_bar.h"
 #include "windows/picture_box.h"

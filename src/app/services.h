@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "plot/drawing_list.h"
+#include "pictures/drawing_list.h"
 
 /// What the program asks of the platform. Each service is handed in at start, so that tests can
 /// record what was asked and preset the answers. Texts and paths are UTF-8.

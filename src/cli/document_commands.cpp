@@ -6,7 +6,7 @@
 #include "cli/commands.h"
 #include "cli/interrupt.h"
 #include "cli/session.h"
-#include "plot/colour.h"
+#include "pictures/colour.h"
 
 namespace zel {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/file_picture.h"
 
-#include "plot/svg_picture.h"
+#include "pictures/svg_picture.h"
 
 namespace zel {
 namespace {

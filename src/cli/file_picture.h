@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "plot/picture.h"
+#include "pictures/picture.h"
 
 namespace zel {
 

@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "cli/file_picture.h"
+#include "pictures/picture_size.h"
 #include "platform/qt/painter_picture.h"
 #include "platform/qt/png_writer.h"
-#include "plot/viewport.h"
 
 namespace zel {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/picture.h"
+#include "pictures/picture.h"
 #include "plot/viewport.h"
 
 namespace zel {

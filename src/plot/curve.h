@@ -4,7 +4,7 @@
 
 #include "engine/engine.h"
 #include "graphs/graph_def.h"
-#include "plot/picture.h"
+#include "pictures/picture.h"
 #include "plot/sample_grid.h"
 #include "plot/screen.h"
 #include "plot/viewport.h"

@@ -5,9 +5,9 @@
 
 #include "engine/engine.h"
 #include "graphs/graph_table.h"
+#include "pictures/picture.h"
 #include "plot/axes.h"
 #include "plot/curve.h"
-#include "plot/picture.h"
 #include "plot/screen.h"
 #include "plot/viewport.h"
 

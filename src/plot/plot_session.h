@@ -4,10 +4,10 @@
 #include <optional>
 #include <string>
 
+#include "pictures/picture.h"
 #include "plot/axes.h"
 #include "plot/drawing.h"
 #include "plot/navigation.h"
-#include "plot/picture.h"
 #include "plot/plot_command.h"
 #include "plot/screen.h"
 #include "plot/trace.h"

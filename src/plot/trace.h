@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "engine/engine.h"
-#include "plot/picture.h"
+#include "pictures/picture.h"
 #include "plot/viewport.h"
 
 namespace zel {

@@ -6,12 +6,6 @@
 
 namespace zel {
 
-PictureSize PictureSize::ofPixels(int width, int height) {
-  const double twips_wide = width * kTwipsPerPixel;
-  const double twips_high = height * kTwipsPerPixel;
-  return {twips_wide, twips_high, twips_wide, twips_high, static_cast<double>(width)};
-}
-
 RangeVerdict Viewport::prepare() {
   const auto count = sampleCount();
   if (!count || (view.mantener_prop && !makeProportional())) return RangeVerdict::failed;

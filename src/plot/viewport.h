@@ -3,7 +3,8 @@
 #include <cstdint>
 #include <optional>
 
-#include "plot/picture.h"
+#include "pictures/picture.h"
+#include "pictures/picture_size.h"
 
 namespace zel {
 
@@ -17,23 +18,6 @@ struct ViewSettings {
   bool mantener_prop = false;     // one plane unit has the same length on both axes
 
   bool operator==(const ViewSettings&) const = default;
-};
-
-inline constexpr double kTwipsPerPixel = 15;
-
-/// The size of a picture: its inner size, on which everything is drawn, and its outer size, which
-/// includes a border where it has one.
-struct PictureSize {
-  double scale_width = 0;   // twips
-  double scale_height = 0;  // twips
-  double width = 0;         // twips
-  double height = 0;        // twips
-  double pixel_width = 0;
-
-  /// A picture without a border.
-  static PictureSize ofPixels(int width, int height);
-
-  bool operator==(const PictureSize&) const = default;
 };
 
 /// Why a view cannot be drawn.

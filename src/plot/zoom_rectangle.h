@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "plot/picture.h"
+#include "pictures/picture.h"
 
 namespace zel {
 

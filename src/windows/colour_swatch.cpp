@@ -4,7 +4,7 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-#include "plot/colour.h"
+#include "pictures/colour.h"
 #include "windows/form.h"
 
 namespace zel {

@@ -11,8 +11,8 @@
 #include <QVBoxLayout>
 
 #include "app/printing.h"
+#include "pictures/picture_size.h"
 #include "platform/qt/bitmap_image.h"
-#include "plot/viewport.h"
 #include "windows/page_view.h"
 #include "windows/picture_box.h"
 #include "windows/printed_window.h"

@@ -3,7 +3,7 @@
 #include <QImage>
 #include <optional>
 
-#include "plot/drawing_list.h"
+#include "pictures/drawing_list.h"
 #include "windows/form.h"
 
 class QGroupBox;

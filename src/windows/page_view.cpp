@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "plot/viewport.h"
+#include "pictures/picture_size.h"
 
 namespace zel {
 namespace {

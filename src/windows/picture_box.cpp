@@ -4,7 +4,7 @@
 #include <QPaintEvent>
 #include <cmath>
 
-#include "plot/viewport.h"
+#include "pictures/picture_size.h"
 
 namespace zel {
 namespace {

@@ -7,9 +7,9 @@
 #include <optional>
 
 #include "app/services.h"
+#include "pictures/drawing_list.h"
 #include "platform/qt/bitmap_image.h"
 #include "platform/qt/painter_picture.h"
-#include "plot/drawing_list.h"
 
 namespace zel {
 

@@ -5,9 +5,10 @@ set -euo pipefail
 export LC_ALL=C
 root=$2
 
-declare -A may_include=([base]=base [numbers]=numbers)
+declare -A may_include=([base]=base [numbers]=numbers [pictures]="base|pictures")
 below="base|numbers"
 for floor in engine graphs files plot app; do
+  [[ $floor != plot ]] || below+="|pictures"
   below+="|$floor"
   may_include[$floor]=$below
 done

@@ -2,7 +2,7 @@
 #include <iterator>
 #include <string>
 
-#include "plot/svg_picture.h"
+#include "pictures/svg_picture.h"
 #include "plot_fixture.h"
 
 /// Whole pictures of each kind, 200 x 150 pixels with 40 samples, compared byte for byte.

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "plot/colour.h"
-#include "plot/picture.h"
+#include "pictures/colour.h"
+#include "pictures/picture.h"
 
 namespace zel::test {
 

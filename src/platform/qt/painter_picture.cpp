@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "plot/line_style.h"
+#include "pictures/line_style.h"
 
 namespace zel {
 namespace {

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPolygonF>
 
-#include "plot/picture.h"
+#include "pictures/picture.h"
 
 namespace zel {
 

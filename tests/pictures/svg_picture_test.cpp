@@ -1,4 +1,4 @@
-#include "plot/svg_picture.h"
+#include "pictures/svg_picture.h"
 
 #include <string>
 #include <string_view>

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "plot/picture.h"
+#include "pictures/picture.h"
 
 namespace zel {
 

@@ -1,4 +1,4 @@
-#include "plot/colour.h"
+#include "pictures/colour.h"
 
 namespace zel {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "plot/picture.h"
+#include "pictures/picture.h"
 
 namespace zel {
 

@@ -1,12 +1,12 @@
-#include "plot/svg_picture.h"
+#include "pictures/svg_picture.h"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 
-#include "plot/colour.h"
-#include "plot/line_style.h"
-#include "plot/viewport.h"
+#include "pictures/colour.h"
+#include "pictures/line_style.h"
+#include "pictures/picture_size.h"
 
 namespace zel {
 namespace {

@@ -1,4 +1,4 @@
-#include "plot/drawing_list.h"
+#include "pictures/drawing_list.h"
 
 #include <limits>
 
