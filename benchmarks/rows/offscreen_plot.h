@@ -6,7 +6,7 @@
 #include "engine/engine.h"
 #include "graphs/graph_table.h"
 #include "pictures/drawing_list.h"
-#include "plot/plot_session.h"
+#include "plot/session/plot_session.h"
 #include "windows/panel_bar.h"
 #include "windows/picture_box.h"
 #include "windows/plot_screen.h"

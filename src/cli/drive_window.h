@@ -10,7 +10,7 @@
 
 #include "app/services.h"
 #include "cli/progress.h"
-#include "plot/plot_session.h"
+#include "plot/session/plot_session.h"
 
 namespace zel {
 

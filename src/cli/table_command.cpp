@@ -6,7 +6,7 @@
 #include "cli/commands.h"
 #include "cli/progress.h"
 #include "cli/session.h"
-#include "plot/parameter_range.h"
+#include "plot/curves/parameter_range.h"
 
 namespace zel {
 namespace {

@@ -7,7 +7,7 @@
 #include "graphs/graph_table.h"
 #include "pictures/picture.h"
 #include "plot/axes.h"
-#include "plot/curve.h"
+#include "plot/curves/curve.h"
 #include "plot/screen.h"
 #include "plot/viewport.h"
 

@@ -2,7 +2,7 @@
 
 #include <QTimer>
 
-#include "plot/plot_session.h"
+#include "plot/session/plot_session.h"
 #include "windows/form.h"
 #include "windows/plot_screen.h"
 #include "windows/printed_window.h"

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "platform/icons/plot_icons.h"
-#include "plot/plot_session.h"
+#include "plot/session/plot_session.h"
 
 namespace zel {
 namespace {

@@ -5,8 +5,8 @@
 #include <array>
 #include <optional>
 
-#include "plot/trace.h"
-#include "plot/zoom_rectangle.h"
+#include "plot/session/trace.h"
+#include "plot/session/zoom_rectangle.h"
 
 namespace zel {
 

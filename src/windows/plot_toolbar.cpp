@@ -4,7 +4,7 @@
 #include <QToolButton>
 
 #include "platform/icons/plot_icons.h"
-#include "plot/plot_session.h"
+#include "plot/session/plot_session.h"
 #include "windows/form.h"
 
 namespace zel {

@@ -3,7 +3,7 @@
 #include <QToolBar>
 #include <array>
 
-#include "plot/plot_command.h"
+#include "plot/session/plot_command.h"
 
 namespace zel {
 

@@ -2,7 +2,7 @@
 #include <set>
 
 #include "drive_fixture.h"
-#include "plot/plot_command.h"
+#include "plot/session/plot_command.h"
 
 namespace zel::test {
 namespace {

@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "plot/plot_command.h"
-#include "plot/trace.h"
+#include "plot/session/plot_command.h"
+#include "plot/session/trace.h"
 #include "support/qt_application.h"
 
 namespace zel::test {

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "plot_fixture.h"
+#include "plot/plot_fixture.h"
 
 namespace zel::test {
 namespace {

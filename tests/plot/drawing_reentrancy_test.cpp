@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "plot_fixture.h"
+#include "plot/plot_fixture.h"
 
 /// What may happen inside of a redraw while pending events run.
 namespace zel::test {

@@ -1,6 +1,6 @@
 #include "plot/drawing.h"
 
-#include "plot_fixture.h"
+#include "plot/plot_fixture.h"
 
 namespace zel::test {
 namespace {

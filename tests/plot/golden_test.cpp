@@ -3,7 +3,7 @@
 #include <string>
 
 #include "pictures/svg_picture.h"
-#include "plot_fixture.h"
+#include "plot/plot_fixture.h"
 
 /// Whole pictures of each kind, 200 x 150 pixels with 40 samples, compared byte for byte.
 namespace zel::test {

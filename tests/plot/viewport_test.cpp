@@ -4,7 +4,7 @@
 #include <limits>
 #include <string>
 
-#include "plot_fixture.h"
+#include "plot/plot_fixture.h"
 
 namespace zel::test {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "plot/plot_session.h"
+#include "plot/session/plot_session.h"
 #include "support/qt_application.h"
 
 namespace zel::test {

@@ -1,0 +1,92 @@
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <span>
+#include <string>
+
+#include "plot/curves/curve.h"
+#include "plot/curves/parameter_range.h"
+
+namespace zel {
+namespace {
+
+constexpr double kDotRadius = 20;        // twips
+constexpr std::size_t kCurveBlock = 64;  // samples that are evaluated in one go
+
+/// Draws a parametric curve sample by sample.
+class CurveSweep {
+ public:
+  CurveSweep(const CurveTools& tools, const GraphDef& def)
+      : tools_(tools), code_x_(parameter(def, "codigo_xt")), code_y_(parameter(def, "codigo_yt")) {}
+
+  /// Takes the next t. False when the curve has been stopped.
+  bool take(double t) {
+    ts_[count_++] = t;
+    return count_ < kCurveBlock || flush();
+  }
+
+  /// Draws what was taken.
+  bool flush() {
+    std::array<double, kCurveBlock> xs;
+    std::array<double, kCurveBlock> ys;
+    const std::size_t count = count_;
+    count_ = 0;
+    tools_.engine.EvaluateCurve(code_x_, code_y_, std::span(ts_).first(count),
+                                std::span(xs).first(count), std::span(ys).first(count));
+    for (std::size_t i = 0; i < count; ++i) {
+      const bool defined = !std::isnan(xs[i]) && !std::isnan(ys[i]);
+      if (defined && tools_.viewport.isInside(xs[i], ys[i]))
+        draw(tools_.viewport.map(xs[i], ys[i]));
+      tools_.screen.runPendingEvents();
+      if (!tools_.in_progress.isSet()) return false;
+    }
+    return true;
+  }
+
+ private:
+  void draw(Point point) {
+    if (pen_up_)
+      tools_.picture.startPiece(point);
+    else
+      tools_.picture.extendPiece(point);
+    pen_up_ = false;
+    tools_.picture.dot(point, kDotRadius);
+  }
+
+  const CurveTools& tools_;
+  std::string code_x_;
+  std::string code_y_;
+  std::array<double, kCurveBlock> ts_;
+  std::size_t count_ = 0;
+  bool pen_up_ = true;
+};
+
+}  // namespace
+
+bool sweepParametric(const CurveTools& tools, const GraphDef& def) {
+  const auto range = parameterRange(def);
+  if (!range) return false;
+  CurveSweep sweep(tools, def);
+  tools.in_progress.set(true);
+  bool goes_on = true;
+  forEachParameter(*range, [&](double t) { return goes_on = sweep.take(t); });
+  if (goes_on) sweep.flush();
+  tools.in_progress.set(false);
+  return true;
+}
+
+bool sweepFamily(const CurveTools& tools, const GraphDef& def) {
+  const auto range = parameterRange(def);
+  if (!range) return false;
+  tools.in_progress.set(true);
+  forEachParameter(*range, [&](double p) {
+    tools.engine.SetP(p);
+    sweepFunction(tools, def.codigo);
+    tools.screen.runPendingEvents();
+    return tools.in_progress.isSet();
+  });
+  tools.in_progress.set(false);
+  return true;
+}
+
+}  // namespace zel

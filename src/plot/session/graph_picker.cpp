@@ -1,0 +1,72 @@
+#include "plot/session/graph_picker.h"
+
+#include <cmath>
+#include <string>
+#include <string_view>
+
+#include "plot/curves/parameter_range.h"
+
+namespace zel {
+namespace {
+
+/// Compares candidates as they come; an equally near one does not replace an earlier one.
+class NearestGraph {
+ public:
+  NearestGraph(Engine& engine, PlanePoint point) : engine_(engine), point_(point) {}
+
+  void visit(const GraphDef& def) {
+    if (isTwoBranch(def)) {
+      consider(def.nombre, parameter(def, "codigo1"));
+      consider(def.nombre, parameter(def, "codigo2"));
+    } else if (def.tipo == 'Z') {
+      visitFamily(def);
+    } else {
+      consider(def.nombre, def.codigo);
+    }
+  }
+
+  const std::optional<PickedGraph>& best() const { return best_; }
+
+ private:
+  void visitFamily(const GraphDef& def) {
+    const auto range = parameterRange(def);
+    if (!range) return;
+    int members = 0;
+    forEachParameter(*range, [&](double p) {
+      engine_.SetP(p);
+      consider(def.nombre, def.codigo, p);
+      return range->variacion != 0 && ++members < kMostPickedMembers;
+    });
+  }
+
+  void consider(char letter, std::string_view code, std::optional<double> member = std::nullopt) {
+    double y = 0;
+    if (!engine_.Evaluate(point_.x, y, code, message_)) return;
+    const double distance = std::fabs(point_.y - y);
+    if (best_ && distance >= best_distance_) return;
+    best_ = PickedGraph{letter, member};
+    best_distance_ = distance;
+  }
+
+  Engine& engine_;
+  PlanePoint point_;
+  std::optional<PickedGraph> best_;
+  double best_distance_ = 0;
+  std::string message_;
+};
+
+}  // namespace
+
+std::optional<PickedGraph> pickGraph(Engine& engine, const GraphTable& graphs, char active,
+                                     PlanePoint point) {
+  NearestGraph nearest(engine, point);
+  for (int i = 0; i < GraphTable::kSlots; ++i) {
+    const auto letter = static_cast<char>('a' + (active - 'a' + i) % GraphTable::kSlots);
+    const auto def = graphs.graph(letter);
+    if (def && def->defined) nearest.visit(*def);
+  }
+  if (nearest.best() && nearest.best()->member) engine.SetP(*nearest.best()->member);
+  return nearest.best();
+}
+
+}  // namespace zel

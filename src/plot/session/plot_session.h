@@ -1,0 +1,182 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "pictures/picture.h"
+#include "plot/axes.h"
+#include "plot/drawing.h"
+#include "plot/screen.h"
+#include "plot/session/navigation.h"
+#include "plot/session/plot_command.h"
+#include "plot/session/trace.h"
+#include "plot/session/zoom_rectangle.h"
+#include "plot/viewport.h"
+
+namespace zel {
+
+/// What the mouse does on the picture: "NORMAL", "RECORRIDO" or "ZOOM".
+enum class PlotMode { normal, recorrido, zoom };
+
+enum class MouseButton { none, left, right, other };
+
+/// The cross on the traced point, and the picture of the slope beside it.
+struct TraceCursor {
+  Point place;  // on the picture, and perhaps outside of it after a search
+  Slope slope = Slope::igual;
+
+  bool operator==(const TraceCursor&) const = default;
+};
+
+/// The window around a plot. Events may run inside of each call.
+class PlotListener {
+ public:
+  virtual ~PlotListener() = default;
+
+  /// The picture has been drawn, or cleared where its range is refused.
+  virtual void pictureDrawn() = 0;
+  /// The mode, the cursor, the zoom rectangle or the active graph is no longer what it was.
+  virtual void toolsChanged() = 0;
+  /// Why the view was not drawn, in the current language. Shown until the user has seen it.
+  virtual void showMessage(const std::string& message) = 0;
+  /// The same for what the user wanted to know.
+  virtual void showInformation(const std::string& message) = 0;
+  /// What the user types; nothing, or an empty text, when that was cancelled.
+  virtual std::optional<std::string> askValue(const std::string& prompt,
+                                              const std::string& title) = 0;
+  /// The picture goes to the clipboard as it is.
+  virtual void copyPicture() = 0;
+  /// The view goes to the print window, which is shown.
+  virtual void openPrint() = 0;
+  /// The view goes back to the main window, which is shown again.
+  virtual void returnToMain() = 0;
+};
+
+/// What the plot window does, without the window. Every call may arrive while a drawing is under
+/// way, from the pending events that it lets run: a drawing that is out of date ends by itself.
+class PlotSession {
+ public:
+  static constexpr double kSmallestSide = 1000;  // twips
+
+  /// All must outlive the session. The graphs are those of each moment.
+  PlotSession(Engine& engine, const GraphTable& graphs, Picture& picture, Screen& screen,
+              PlotListener& listener);
+
+  /// Takes a view and the scale marks; drawFirst or redraw draws them. A drawing of an earlier view
+  /// ends. The mode is "NORMAL".
+  /// Of the graphs the first in letter order is active.
+  void open(const ViewSettings& view, const ScaleMarks& marks);
+  /// Ends a drawing; nothing more is drawn until the next open.
+  void close();
+  bool isOpen() const { return state_ != State::closed; }
+
+  /// Draws the view if nothing has been drawn since it was opened.
+  void drawFirst();
+  /// Draws the view; a point that is being traced stays traced while it is in the view. When that
+  /// is refused or fails, the listener shows why and then returns to the main window; meanwhile
+  /// nothing is drawn.
+  void redraw();
+
+  /// Whether the view is being drawn; the panels tell of the drawing meanwhile.
+  bool isDrawing() const { return drawing_.isUnderWay(); }
+
+  /// Whether a picture that follows its window takes this size: a smaller one stays as it was.
+  static bool takesSize(const PictureSize& size);
+  /// The picture has this size, which must be one that it takes. The mode is "NORMAL" again and the
+  /// view is redrawn, once it has been drawn at all.
+  void resize(const PictureSize& size);
+
+  /// A button of the toolbar. One that is not enabled does nothing.
+  void execute(PlotCommand command);
+  bool isEnabled(PlotCommand command) const;
+
+  /// A key on the picture, as its character code: Esc and Space stop a long drawing, a capital "C"
+  /// shows the active graph's code, "+" and "-" zoom as the buttons do.
+  void keyPressed(char32_t key);
+
+  /// The mouse on the picture, at a place in twips.
+  void mouseDown(MouseButton button, Point mouse);
+  void mouseMove(MouseButton held, Point mouse);
+  void mouseUp(MouseButton button, Point mouse);
+  /// Zooms about the place under the mouse.
+  void wheelTurned(Zoom zoom, Point mouse);
+
+  /// The next or the previous graph in use becomes the active one; the mode is "NORMAL".
+  void activateNext();
+  void activatePrevious();
+  /// Makes a graph in use the active one; false when there is no such graph.
+  bool activate(char letter);
+  /// The active graph's letter; nothing in a document without graphs.
+  std::optional<char> activeGraph() const { return active_; }
+
+  void setMode(PlotMode mode);
+  PlotMode mode() const { return mode_; }
+
+  /// The cursor while it is shown, and the plane x of the last trace point; 0 before the first.
+  const std::optional<TraceCursor>& cursor() const { return cursor_; }
+  double tracePosition() const { return trace_ ? trace_->x : 0; }
+  /// The rectangle while it is dragged.
+  std::optional<ZoomRectangle> zoomRectangle() const;
+
+  /// The view as it is, and as it was when it was opened.
+  const ViewSettings& view() const { return viewport_.view; }
+  const ViewSettings& openedView() const { return opened_view_; }
+  const PictureSize& pictureSize() const { return viewport_.size; }
+
+ private:
+  enum class State {
+    closed,
+    opened,  // and not drawn yet
+    drawn,
+    refused,  // the message is being shown
+  };
+
+  bool isDrawn() const { return state_ == State::drawn; }
+  void report(RedrawOutcome outcome);
+  /// Draws the view; false when that was not done to its end.
+  bool drawView();
+  /// A view to be drawn next. One that leads beyond the range of a double fails like a drawing, and
+  /// is not taken.
+  bool takeView(const ViewSettings& view);
+
+  void activateFirst();
+  void makeActive(const std::optional<GraphDef>& def);
+  /// An empty definition in a document without graphs.
+  GraphDef activeDef() const;
+
+  void pan(PlotCommand direction);
+  void zoomTo(const ViewSettings& view);
+  void toggleZoom();
+  void applyRectangle();
+  void pick(Point mouse);
+
+  /// In the mode "RECORRIDO", which a step that finds nothing ends.
+  void trace(double x, int direction);
+  void startTrace(double x, int direction);
+  void placeCursor(PlanePoint cursor, PlanePoint traced, bool to_the_left);
+  /// "P=" and its value for a family, else an empty text.
+  std::string parameterText(const GraphDef& def) const;
+  void search();
+  void calculateValues();
+
+  Engine& engine_;
+  const GraphTable& graphs_;
+  Drawing drawing_;
+  Screen& screen_;
+  PlotListener& listener_;
+  Viewport viewport_;
+  ViewSettings opened_view_;
+  ScaleMarks marks_;
+  PlotMode mode_ = PlotMode::normal;
+  std::optional<char> active_;
+  std::optional<PlanePoint> trace_;  // the last trace point
+  std::optional<TraceCursor> cursor_;
+  ZoomRectangle rectangle_;
+  bool is_dragging_ = false;    // the rectangle
+  bool ignores_press_ = false;  // with what belongs to it, until the button is up
+  State state_ = State::closed;
+  std::uint64_t opened_count_ = 0;  // tells one opening from the next
+};
+
+}  // namespace zel
