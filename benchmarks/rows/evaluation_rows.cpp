@@ -15,7 +15,7 @@
 #include "benchmarks/rows/rows.h"
 #include "engine/compiler.h"
 #include "engine/engine.h"
-#include "engine/reference_engine.h"
+#include "engine/reference/reference_engine.h"
 
 namespace zel::bench {
 namespace {

@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "engine/parse_cache.h"
-#include "engine/plan_cache.h"
-#include "engine/reference_engine.h"
+#include "engine/plan/plan_cache.h"
+#include "engine/reference/parse_cache.h"
+#include "engine/reference/reference_engine.h"
 
 namespace zel {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "engine/engine.h"
-#include "engine/operation_steps.h"
+#include "engine/plan/operation_steps.h"
 #include "numbers/rounding.h"
 
 namespace zel {

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "engine/engine.h"
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 
 namespace zel::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "engine/formula_check.h"
 
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 
 namespace zel::test {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 
 namespace zel::test {
 namespace {

@@ -12,8 +12,8 @@
 #include <gtest/gtest.h>
 
 #include "engine/engine.h"
-#include "engine/reference_engine.h"
-#include "random_codes.h"
+#include "engine/random_codes.h"
+#include "engine/reference/reference_engine.h"
 #include "support/language_guard.h"
 
 namespace zel::test {

@@ -1,4 +1,4 @@
-#include "random_codes.h"
+#include "engine/random_codes.h"
 
 #include <array>
 #include <bit>

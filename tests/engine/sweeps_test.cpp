@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 
 namespace zel::test {
 namespace {

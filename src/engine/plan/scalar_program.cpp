@@ -1,9 +1,9 @@
-#include "engine/scalar_program.h"
+#include "engine/plan/scalar_program.h"
 
 #include <cmath>
 
-#include "engine/operation_steps.h"
-#include "engine/power_shortcuts.h"
+#include "engine/plan/operation_steps.h"
+#include "engine/plan/power_shortcuts.h"
 
 namespace zel {
 namespace {

@@ -1,4 +1,4 @@
-#include "engine/plan_cache.h"
+#include "engine/plan/plan_cache.h"
 
 namespace zel {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "engine/plan.h"
+#include "engine/plan/plan.h"
 #include "numbers/rounding_steps.h"
 
 namespace zel {

@@ -5,8 +5,8 @@
 #include <tuple>
 #include <utility>
 
-#include "engine/descent.h"
-#include "engine/plan.h"
+#include "engine/plan/plan.h"
+#include "engine/reference/descent.h"
 #include "numbers/number_text.h"
 #include "numbers/rounding.h"
 

@@ -1,4 +1,4 @@
-#include "engine/plan.h"
+#include "engine/plan/plan.h"
 
 #include <cmath>
 

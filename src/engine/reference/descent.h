@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "engine/grammar.h"
-#include "engine/parse_cache.h"
+#include "engine/reference/parse_cache.h"
 
 namespace zel {
 

@@ -1,4 +1,4 @@
-#include "engine/descent.h"
+#include "engine/reference/descent.h"
 
 #include "numbers/number_text.h"
 

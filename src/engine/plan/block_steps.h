@@ -4,9 +4,9 @@
 #include <cmath>
 #include <cstdint>
 
-#include "engine/block_program.h"
-#include "engine/operation_steps.h"
-#include "engine/power_shortcuts.h"
+#include "engine/plan/block_program.h"
+#include "engine/plan/operation_steps.h"
+#include "engine/plan/power_shortcuts.h"
 #include "numbers/rounding_steps.h"
 
 /// The loops of BlockProgram, to be compiled for each instruction set.

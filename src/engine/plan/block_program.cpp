@@ -1,8 +1,8 @@
-#include "engine/block_program.h"
+#include "engine/plan/block_program.h"
 
 #include <algorithm>
 
-#include "engine/block_steps.h"
+#include "engine/plan/block_steps.h"
 
 namespace zel {
 namespace {

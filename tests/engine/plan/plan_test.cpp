@@ -1,4 +1,4 @@
-#include "engine/plan.h"
+#include "engine/plan/plan.h"
 
 #include <bit>
 #include <cmath>
@@ -7,10 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/block_program.h"
-#include "engine/scalar_program.h"
+#include "engine/plan/block_program.h"
+#include "engine/plan/scalar_program.h"
+#include "engine/random_codes.h"
 #include "numbers/rounding.h"
-#include "random_codes.h"
 
 namespace zel::test {
 namespace {

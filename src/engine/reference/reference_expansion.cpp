@@ -1,4 +1,4 @@
-#include "engine/reference_expansion.h"
+#include "engine/reference/reference_expansion.h"
 
 #include "base/text.h"
 

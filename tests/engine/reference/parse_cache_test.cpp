@@ -1,9 +1,9 @@
-#include "engine/parse_cache.h"
+#include "engine/reference/parse_cache.h"
 
 #include <string>
 #include <vector>
 
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 
 namespace zel::test {
 namespace {

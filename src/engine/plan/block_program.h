@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "engine/plan.h"
+#include "engine/plan/plan.h"
 #include "numbers/rounding_steps.h"
 
 namespace zel {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "engine/function_library.h"
-#include "engine/parse_cache.h"
+#include "engine/reference/parse_cache.h"
 
 /// A code as a list of operations over numbered values, in the order in which the reference applies
 /// them. docs/evaluation.md tells why both give the same.

@@ -1,4 +1,4 @@
-#include "engine/reducer.h"
+#include "engine/reference/reducer.h"
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "engine/reference_engine.h"
+#include "engine/reference/reference_engine.h"
 
 #include <cmath>
 #include <optional>

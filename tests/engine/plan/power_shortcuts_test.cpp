@@ -1,4 +1,4 @@
-#include "engine/power_shortcuts.h"
+#include "engine/plan/power_shortcuts.h"
 
 #include <cmath>
 #include <random>

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "engine/plan.h"
+#include "engine/plan/plan.h"
 #include "numbers/rounding_steps.h"
 
 /// Squares and cubes without the power function, where both give the same 15 digits for sure.

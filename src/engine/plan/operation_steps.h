@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "engine/function_library.h"
-#include "engine/plan.h"
+#include "engine/plan/plan.h"
 #include "numbers/instruction_sets.h"
 
 namespace zel {

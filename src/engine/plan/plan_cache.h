@@ -5,9 +5,9 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "engine/block_program.h"
-#include "engine/plan.h"
-#include "engine/scalar_program.h"
+#include "engine/plan/block_program.h"
+#include "engine/plan/plan.h"
+#include "engine/plan/scalar_program.h"
 
 namespace zel {
 

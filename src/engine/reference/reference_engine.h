@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "engine/parse_cache.h"
-#include "engine/reducer.h"
-#include "engine/reference_expansion.h"
+#include "engine/reference/parse_cache.h"
+#include "engine/reference/reducer.h"
+#include "engine/reference/reference_expansion.h"
 #include "numbers/number_text.h"
 
 namespace zel {

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/descent.h"
 #include "engine/outcome.h"
-#include "engine/parse_cache.h"
+#include "engine/reference/descent.h"
+#include "engine/reference/parse_cache.h"
 #include "numbers/number_text.h"
 
 namespace zel {

@@ -1,4 +1,4 @@
-#include "engine/parse_cache.h"
+#include "engine/reference/parse_cache.h"
 
 #include <algorithm>
 #include <utility>

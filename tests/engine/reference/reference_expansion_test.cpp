@@ -1,8 +1,8 @@
-#include "engine/reference_expansion.h"
+#include "engine/reference/reference_expansion.h"
 
 #include <cmath>
 
-#include "engine_fixture.h"
+#include "engine/engine_fixture.h"
 
 namespace zel::test {
 namespace {
