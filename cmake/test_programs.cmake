@@ -21,7 +21,7 @@ function(zel_tests folder)
     ZEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
     ZEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples")
   target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <string> <vector>)
-  if(folder STREQUAL "windows" OR folder STREQUAL "platform")
+  if(folder STREQUAL "forms" OR folder STREQUAL "platform")
     target_precompile_headers(${target} PRIVATE <QTest> <QApplication> <QLineEdit> <QPushButton>)
   endif()
   if(folder STREQUAL "cli" AND TARGET zel-cli)

@@ -6,6 +6,6 @@ cd "$(dirname "$0")/.."
 . scripts/common.sh
 
 scripts/setup.sh build
-build release windows_tests
+build release forms_tests
 QT_QPA_PLATFORM=offscreen ZEL_MONKEY_EVENTS=${1:-1000000} ZEL_MONKEY_SEED=${2:-1} \
-  build/release/bin/windows_tests --gtest_filter='Monkey.*'
+  build/release/bin/forms_tests --gtest_filter='Monkey.*'

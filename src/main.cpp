@@ -4,9 +4,9 @@
 #include <cstdlib>
 
 #include "app/program.h"
+#include "forms/forms.h"
 #include "platform/desktop_services.h"
 #include "platform/widgets/widget_services.h"
-#include "windows/windows.h"
 
 namespace {
 
@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
 
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
-  zel::Windows windows(program, commandLine(application));
-  windows.begin(step);
+  zel::Forms forms(program, commandLine(application));
+  forms.begin(step);
   return QApplication::exec();
 }

@@ -4,12 +4,12 @@
 #include <string>
 
 #include "engine/engine.h"
+#include "forms/plot/panel_bar.h"
+#include "forms/plot/picture_box.h"
+#include "forms/plot/plot_screen.h"
 #include "graphs/graph_table.h"
 #include "pictures/drawing_list.h"
 #include "plot/session/plot_session.h"
-#include "windows/panel_bar.h"
-#include "windows/picture_box.h"
-#include "windows/plot_screen.h"
 
 namespace zel::bench {
 

@@ -20,7 +20,7 @@ complaints() {
 # What this machine cannot compile: the headers for Windows, and without Qt those of its folders.
 possible() {
   local folders=(-e /platform/windows/)
-  [[ -n $qt_folders ]] || folders+=(-e /windows/ -e /platform/)
+  [[ -n $qt_folders ]] || folders+=(-e /forms/ -e /platform/)
   grep -v "${folders[@]}" || true
 }
 

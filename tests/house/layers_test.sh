@@ -13,9 +13,9 @@ for floor in engine graphs files plot app; do
   may_include[$floor]=$below
 done
 may_include[platform]="$below|platform"
-may_include[windows]="$below|platform|windows"
-may_include[cli]="$below|platform|windows|cli"
-may_include[main.cpp]="$below|platform|windows"
+may_include[forms]="$below|platform|forms"
+may_include[cli]="$below|platform|forms|cli"
+may_include[main.cpp]="$below|platform|forms"
 
 standard="algorithm|any|array|atomic|barrier|bit|bitset|charconv|chrono|codecvt|compare|complex"
 standard+="|concepts|condition_variable|coroutine|deque|exception|execution|filesystem|format"

@@ -1,0 +1,52 @@
+#include "forms/form.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QWindow>
+
+#include "base/language.h"
+
+namespace zel {
+
+QString toQt(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::string fromQt(const QString& text) { return text.toStdString(); }
+
+QString caption(const char* spanish, const char* english) {
+  return QString::fromUtf8(CurrentLanguage() == "EN" ? english : spanish);
+}
+
+QPixmap windowIconPixmap(int side) { return QApplication::windowIcon().pixmap(side); }
+
+Form::Form(Program& program, const char* name) : program_(program) {
+  setObjectName(QString::fromLatin1(name));
+}
+
+void Form::ApplyLanguage() {
+  if (CurrentLanguage() == "ES" || CurrentLanguage() == "EN") assignCaptions();
+}
+
+void Form::showForm() {
+  caller_ = callerOf(program_.params);
+  ApplyLanguage();
+  takeArguments();
+  show();
+  raise();
+  activateWindow();
+}
+
+void Form::layOverCaller() {
+  auto* caller = dynamic_cast<QWidget*>(callerOf(program_.params));
+  if (!caller || !caller->windowHandle()) return;
+  winId();  // makes the window handle
+  windowHandle()->setTransientParent(caller->windowHandle());
+}
+
+void Form::returnToCaller() {
+  hide();
+  if (caller_) caller_->showForm();
+}
+
+}  // namespace zel

@@ -1,0 +1,67 @@
+#include "forms/forms.h"
+
+#include <QApplication>
+#include <utility>
+
+#include "forms/editor/frm_adm_graficos.h"
+#include "forms/frm_controles.h"
+#include "forms/main/frm_datos_ini.h"
+#include "forms/plot/frm_grafico.h"
+#include "forms/print/frm_imprimir.h"
+#include "forms/start/frm_acerca_de.h"
+#include "forms/start/frm_idioma.h"
+#include "forms/start/frm_presentacion.h"
+#include "platform/icons/program_icon.h"
+
+namespace zel {
+
+Forms::Forms(Program& program, QString command_line)
+    : program_(program), command_line_(std::move(command_line)) {}
+
+Forms::~Forms() = default;
+
+void Forms::begin(StartStep step) {
+  if (step == StartStep::first_start)
+    chooseLanguage();
+  else
+    showPresentation();
+  chooseHelpFile(program_);
+}
+
+void Forms::chooseLanguage() {
+  QApplication::setWindowIcon(programIcon());
+  idioma_ = std::make_unique<frmIdioma>(program_);
+  idioma_->accepted = [this] {
+    showPresentation();
+    chooseHelpFile(program_);
+  };
+  idioma_->refused = [this] {
+    forgetFirstStart();
+    program_.end_process();
+  };
+  idioma_->showForm();
+}
+
+void Forms::showPresentation() {
+  presentacion_ = std::make_unique<frmPresentacion>(program_);
+  presentacion_->enableTimer();
+  presentacion_->showForm();
+  // What takes longer is made behind the first window; the user's events wait until it is there.
+  QApplication::setWindowIcon(programIcon());
+  datos_ini_ = std::make_unique<frmDatosIni>(program_);
+  presentacion_->setLlamador(datos_ini_.get());
+  loadForms();
+}
+
+void Forms::loadForms() {
+  adm_graficos_ = std::make_unique<frmAdmGraficos>(program_);
+  controles_ = std::make_unique<frmControles>(program_);
+  datos_ini_->openCommandLine(command_line_);
+  grafico_ = std::make_unique<frmGrafico>(program_);
+  imprimir_ = std::make_unique<frmImprimir>(program_);
+  acerca_de_ = std::make_unique<frmAcercaDe>(program_);
+  grafico_->setPrintWindow(imprimir_.get());
+  datos_ini_->setTargets({adm_graficos_.get(), grafico_.get(), acerca_de_.get()});
+}
+
+}  // namespace zel

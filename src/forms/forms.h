@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "app/program.h"
+
+namespace zel {
+
+class frmAcercaDe;
+class frmAdmGraficos;
+class frmControles;
+class frmDatosIni;
+class frmGrafico;
+class frmIdioma;
+class frmImprimir;
+class frmPresentacion;
+
+/// The windows of the program, each made once and kept for the run.
+class Forms {
+ public:
+  /// The program outlives its windows. `command_line` is the path of the document to open.
+  Forms(Program& program, QString command_line);
+  ~Forms();
+
+  /// The rest of the start: the language choice at the first start, otherwise the presentation,
+  /// which hands over to the main window.
+  void begin(StartStep step);
+
+ private:
+  void chooseLanguage();
+  void showPresentation();
+  void loadForms();
+
+  Program& program_;
+  QString command_line_;
+  std::unique_ptr<frmIdioma> idioma_;
+  std::unique_ptr<frmPresentacion> presentacion_;
+  std::unique_ptr<frmAdmGraficos> adm_graficos_;
+  std::unique_ptr<frmControles> controles_;
+  std::unique_ptr<frmDatosIni> datos_ini_;
+  std::unique_ptr<frmGrafico> grafico_;
+  std::unique_ptr<frmImprimir> imprimir_;
+  std::unique_ptr<frmAcercaDe> acerca_de_;
+};
+
+}  // namespace zel

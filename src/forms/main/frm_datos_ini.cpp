@@ -1,0 +1,230 @@
+#include "forms/main/frm_datos_ini.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSlider>
+
+#include "app/desktop.h"
+#include "base/language.h"
+#include "forms/button_mnemonics.h"
+#include "forms/main/graph_list.h"
+
+namespace zel {
+namespace {
+
+/// The first document among the files that are dragged; empty when there is none.
+QString documentIn(const QMimeData& data) {
+  for (const QUrl& url : data.urls())
+    if (url.isLocalFile() && url.fileName().endsWith(".zel", Qt::CaseInsensitive))
+      return url.toLocalFile();
+  return {};
+}
+
+}  // namespace
+
+frmDatosIni::frmDatosIni(Program& program) : Form(program, "frmDatosIni") {
+  buildMenus();
+  buildControls();
+  connectControls();
+  setAcceptDrops(true);
+  setFields(MainView());
+  assignCaptions();
+  preferButtonMnemonics(*this);  // "&Agregar" and "&Ayuda"
+  updateList();
+}
+
+void frmDatosIni::openCommandLine(QString command_line) {
+  command_line.remove('"');
+  if (!command_line.isEmpty()) openPath(fromQt(command_line));
+}
+
+void frmDatosIni::actProporcional(bool on) {
+  chkProporcional_->setChecked(on);
+  txtRanYi_->setEnabled(!on);
+  txtRanYf_->setEnabled(!on);
+}
+
+void frmDatosIni::takeArguments() {
+  fillRangeBoxes();
+  updateList();
+  updateTitle();
+}
+
+/// A box takes its value from the arguments; without one it keeps what it holds, and gets the
+/// default when that is nothing.
+void frmDatosIni::fillRangeBoxes() {
+  const auto fill = [this](QLineEdit& box, const char* key, const char* otherwise) {
+    const FormValue value = program().params.Item(key);
+    if (const auto* number = std::get_if<double>(&value))
+      box.setText(toQt(writeNumber(*number)));
+    else if (box.text().isEmpty())
+      box.setText(QString::fromLatin1(otherwise));
+  };
+  fill(*txtRanXi_, "xi", "-10");
+  fill(*txtRanXf_, "xf", "10");
+  fill(*txtRanYi_, "yi", "-10");
+  fill(*txtRanYf_, "yf", "10");
+}
+
+MainView frmDatosIni::fields() const {
+  MainView view;
+  view.xi = fromQt(txtRanXi_->text());
+  view.xf = fromQt(txtRanXf_->text());
+  view.yi = fromQt(txtRanYi_->text());
+  view.yf = fromQt(txtRanYf_->text());
+  view.definicion = static_cast<std::int16_t>(Slider1_->value());
+  view.proporcional = chkProporcional_->isChecked();
+  view.escala_x = fromQt(txtEscalaX_->text());
+  view.escala_y = fromQt(txtEscalaY_->text());
+  return view;
+}
+
+void frmDatosIni::setFields(const MainView& view) {
+  txtRanXi_->setText(toQt(view.xi));
+  txtRanXf_->setText(toQt(view.xf));
+  txtRanYi_->setText(toQt(view.yi));
+  txtRanYf_->setText(toQt(view.yf));
+  Slider1_->setValue(view.definicion);
+  Slider1_Change();
+  actProporcional(view.proporcional);
+  txtEscalaX_->setText(toQt(view.escala_x));
+  txtEscalaY_->setText(toQt(view.escala_y));
+}
+
+void frmDatosIni::updateList() {
+  listaG_->listGraphs(program().graphs);
+  updateButtons();
+}
+
+void frmDatosIni::updateButtons() {
+  const std::string selected = listaG_->selectedLetters();
+  CmdModificar_->setEnabled(selected.size() == 1);
+  CmdBorrar_->setEnabled(!selected.empty());
+}
+
+void frmDatosIni::openPath(const std::string& path) {
+  MainView view = fields();
+  openDocumentAt(program(), path, view);
+  setFields(view);
+  updateTitle();
+  updateList();
+}
+
+void frmDatosIni::mNuevo_Click() {
+  newDocument(program());
+  for (QLineEdit* box : {txtRanXi_, txtRanXf_, txtRanYi_, txtRanYf_}) box->clear();
+  fillRangeBoxes();
+  updateTitle();
+  updateList();
+}
+
+void frmDatosIni::mAbrir_Click() {
+  MainView view = fields();
+  openDocument(program(), view);
+  setFields(view);
+  updateTitle();
+  updateList();
+}
+
+void frmDatosIni::mGuardar_Click() {
+  saveDocument(program(), fields());
+  updateTitle();
+}
+
+void frmDatosIni::mGuardarComo_Click() {
+  saveDocumentAs(program(), fields());
+  updateTitle();
+}
+
+void frmDatosIni::mSalir_Click() { shutDown(program()); }
+
+void frmDatosIni::mConfirmarBorrado_Click() {
+  bool& confirms = program().configuration.confirm_deletion;
+  confirms = !confirms;
+  updateLanguageMenu();
+}
+
+void frmDatosIni::mEspanol_Click() {
+  SetCurrentLanguage("ES");
+  ApplyLanguage();
+  chooseHelpFile(program());
+}
+
+void frmDatosIni::mEnglish_Click() {
+  SetCurrentLanguage("EN");
+  ApplyLanguage();
+}
+
+void frmDatosIni::mTemasDeAyuda_Click() { ShowHelpTopics(program().services.help); }
+
+void frmDatosIni::mComoConseguirEstePrograma_Click() { OpenWebPage(program().services.browser); }
+
+void frmDatosIni::mAcercaDeZel_Click() {
+  program().params.removeAll();
+  program().params.Add("llamador", static_cast<FormWindow*>(this));
+  targets_.about->showForm();
+}
+
+void frmDatosIni::CmdAgregar_Click() {
+  prepareNewGraph(program(), this);
+  targets_.editor->showForm();
+}
+
+void frmDatosIni::CmdModificar_Click() {
+  const std::string selected = listaG_->selectedLetters();
+  if (selected.empty()) return;
+  prepareGraphChange(program(), selected.front(), this);
+  targets_.editor->showForm();
+}
+
+void frmDatosIni::CmdBorrar_Click() {
+  if (deleteGraphs(program(), listaG_->selectedLetters())) updateList();
+}
+
+void frmDatosIni::CmdGraficarLista_Click() {
+  const auto field = [](const QLineEdit* box, const QLabel* label) {
+    return Field{fromQt(box->text()), fromQt(label->text())};
+  };
+  PlotFields plot;
+  plot.xi = field(txtRanXi_, range_labels_[1]);
+  plot.xf = field(txtRanXf_, range_labels_[0]);
+  plot.yi = field(txtRanYi_, range_labels_[3]);
+  plot.yf = field(txtRanYf_, range_labels_[2]);
+  plot.escala_x = fromQt(txtEscalaX_->text());
+  plot.escala_y = fromQt(txtEscalaY_->text());
+  plot.mantener_prop = chkProporcional_->isChecked();
+  plot.definicion = static_cast<std::int16_t>(Slider1_->value());
+  if (!preparePlot(program(), plot, this)) return;
+  hide();
+  targets_.plot->showForm();
+}
+
+void frmDatosIni::Slider1_Change() {
+  LblCalidad_->setText(QString::number(Slider1_->value()) + "%");
+}
+
+void frmDatosIni::closeEvent(QCloseEvent* event) {
+  shutDown(program());
+  event->accept();
+}
+
+void frmDatosIni::dragEnterEvent(QDragEnterEvent* event) {
+  if (!documentIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void frmDatosIni::dropEvent(QDropEvent* event) {
+  const QString path = documentIn(*event->mimeData());
+  if (path.isEmpty()) return;
+  event->acceptProposedAction();
+  openPath(fromQt(path));
+}
+
+}  // namespace zel

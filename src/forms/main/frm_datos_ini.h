@@ -1,0 +1,121 @@
+#pragma once
+
+#include <array>
+
+#include "app/main_commands.h"
+#include "forms/form.h"
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QSlider;
+
+namespace zel {
+
+class GraphList;
+
+/// The windows that the main window opens.
+struct MainWindowTargets {
+  FormWindow* editor = nullptr;
+  FormWindow* plot = nullptr;
+  FormWindow* about = nullptr;
+};
+
+/// The main window: range, scale, quality and the list of graphs of the document. Closing it ends
+/// the process.
+class frmDatosIni : public Form {
+  Q_OBJECT
+
+ public:
+  explicit frmDatosIni(Program& program);
+
+  /// The targets outlive the window.
+  void setTargets(const MainWindowTargets& targets) { targets_ = targets; }
+
+  void assignCaptions() override;
+
+  /// Opens the document that the program was started with; an empty command line does nothing.
+  /// Double quotes are taken out of it.
+  void openCommandLine(QString command_line);
+
+  /// Sets the box and lets the y range be edited exactly when it is off.
+  void actProporcional(bool on);
+
+ protected:
+  void takeArguments() override;
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  /// A menu command, known by its object name.
+  QAction* addCommand(QMenu* menu, const char* name, void (frmDatosIni::*handler)());
+
+  void buildMenus();
+  void buildControls();
+  QGroupBox* buildRange();
+  QGroupBox* buildScale();
+  QGroupBox* buildQuality();
+  QGroupBox* buildGraphs();
+  QLineEdit* makeNumberBox(const char* name, bool refuses_minus);
+  void connectControls();
+  void applyMenuCaptions();
+  void applyControlCaptions();
+  void applyAccessibleNames();
+
+  void mNuevo_Click();
+  void mAbrir_Click();
+  void mGuardar_Click();
+  void mGuardarComo_Click();
+  void mSalir_Click();
+  void mConfirmarBorrado_Click();
+  void mEspanol_Click();
+  void mEnglish_Click();
+  void mTemasDeAyuda_Click();
+  void mComoConseguirEstePrograma_Click();
+  void mAcercaDeZel_Click();
+  void CmdAgregar_Click();
+  void CmdModificar_Click();
+  void CmdBorrar_Click();
+  void CmdGraficarLista_Click();
+  void Slider1_Change();
+
+  MainView fields() const;
+  void setFields(const MainView& view);
+  void fillRangeBoxes();
+  void openPath(const std::string& path);
+  void updateLanguageMenu();
+  void updateTitle();
+  void updateList();
+  void updateButtons();
+
+  MainWindowTargets targets_;
+  std::array<QLabel*, 4> range_labels_{};  // xf, xi, yf, yi
+  std::array<QLabel*, 2> scale_labels_{};
+  QGroupBox* graph_frame_ = nullptr;
+  QGroupBox* quality_frame_ = nullptr;
+  QGroupBox* range_frame_ = nullptr;
+  QGroupBox* scale_frame_ = nullptr;
+  QLineEdit* txtRanXi_ = nullptr;
+  QLineEdit* txtRanXf_ = nullptr;
+  QLineEdit* txtRanYi_ = nullptr;
+  QLineEdit* txtRanYf_ = nullptr;
+  QLineEdit* txtEscalaX_ = nullptr;
+  QLineEdit* txtEscalaY_ = nullptr;
+  QCheckBox* chkProporcional_ = nullptr;
+  QSlider* Slider1_ = nullptr;
+  QLabel* LblCalidad_ = nullptr;
+  GraphList* listaG_ = nullptr;
+  QPushButton* CmdAgregar_ = nullptr;
+  QPushButton* CmdModificar_ = nullptr;
+  QPushButton* CmdBorrar_ = nullptr;
+  QPushButton* CmdGraficarLista_ = nullptr;
+  QMenu* mArchivo_ = nullptr;
+  QMenu* mOpciones_ = nullptr;
+  QMenu* mLenguaje_ = nullptr;
+  QMenu* mAyuda_ = nullptr;
+};
+
+}  // namespace zel

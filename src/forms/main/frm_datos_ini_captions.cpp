@@ -1,0 +1,90 @@
+// The main window's captions in both languages.
+#include <QAction>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSlider>
+
+#include "base/language.h"
+#include "forms/main/frm_datos_ini.h"
+#include "forms/main/graph_list.h"
+
+namespace zel {
+
+void frmDatosIni::assignCaptions() {
+  applyMenuCaptions();
+  applyControlCaptions();
+  applyAccessibleNames();
+  listaG_->applyLanguage(program().graphs);
+  updateLanguageMenu();
+  updateTitle();
+}
+
+void frmDatosIni::applyMenuCaptions() {
+  const auto set = [this](const char* name, const char* spanish, const char* english) {
+    findChild<QAction*>(QString::fromLatin1(name))->setText(caption(spanish, english));
+  };
+  mArchivo_->setTitle(caption("A&rchivo", "File"));
+  set("mNuevo", "&Nuevo", "New");
+  set("mAbrir", "A&brir", "&Open");
+  set("mGuardar", "G&uardar", "&Save");
+  set("mGuardarComo", "Guardar &como...", "Save &As...");
+  set("mSalir", "&Salir", "Exit");
+  mOpciones_->setTitle(caption("&Opciones", "Options"));
+  set("mConfirmarBorrado", "&Pedir confirmación para borrar funciones",
+      "&Confirm before removing functions");
+  mLenguaje_->setTitle(caption("&Lenguaje", "Language"));
+  set("mEspanol", "&Español", "&Español");
+  set("mEnglish", "&English", "&English");
+  mAyuda_->setTitle(caption("&Ayuda", "Help"));
+  set("mTemasDeAyuda", "Temas de Ayuda", "Contents");
+  set("mComoConseguirEstePrograma", "Como conseguir este programa", "How to get this software");
+  set("mAcercaDeZel", "Acerca de ZEL", "&About ZEL");
+}
+
+void frmDatosIni::applyControlCaptions() {
+  CmdAgregar_->setText(caption("&Agregar", "&Add"));
+  CmdBorrar_->setText(caption("&Borrar", "&Remove"));
+  CmdGraficarLista_->setText(caption("Graficar", "&Graph"));
+  CmdModificar_->setText(caption("&Modificar", "&Edit"));
+  range_labels_[0]->setText(caption("X MÁXIMO", "X MAXIMUN"));
+  range_labels_[1]->setText(caption("x mínimo", "x minimun"));
+  range_labels_[2]->setText(caption("Y MÁXIMO", "Y MAXIMUN"));
+  range_labels_[3]->setText(caption("y mínimo", "y minimun"));
+  chkProporcional_->setText(caption("Mantener proporcionalidad", "Keep proportionally"));
+  quality_frame_->setTitle(caption("CALIDAD", "Quality"));
+  graph_frame_->setTitle(caption("GRAFICOS", "Graphics"));
+  range_frame_->setTitle(caption("RANGO", "Range"));
+  scale_frame_->setTitle(caption("ESCALA", "Ruler"));
+  scale_labels_[0]->setText(caption("Reales/unidad X =", "Reals per unit X="));
+  scale_labels_[1]->setText(caption("Reales/unidad Y =", "Reals per unit Y="));
+}
+
+void frmDatosIni::applyAccessibleNames() {
+  txtRanXf_->setAccessibleName(range_labels_[0]->text());
+  txtRanXi_->setAccessibleName(range_labels_[1]->text());
+  txtRanYf_->setAccessibleName(range_labels_[2]->text());
+  txtRanYi_->setAccessibleName(range_labels_[3]->text());
+  txtEscalaX_->setAccessibleName(scale_labels_[0]->text());
+  txtEscalaY_->setAccessibleName(scale_labels_[1]->text());
+  Slider1_->setAccessibleName(quality_frame_->title());
+  listaG_->setAccessibleName(graph_frame_->title());
+}
+
+void frmDatosIni::updateLanguageMenu() {
+  const auto action = [this](const char* name) {
+    return findChild<QAction*>(QString::fromLatin1(name));
+  };
+  action("mEspanol")->setChecked(CurrentLanguage() == "ES");
+  action("mEnglish")->setChecked(CurrentLanguage() == "EN");
+  action("mConfirmarBorrado")->setChecked(program().configuration.confirm_deletion);
+  // Help topics are offered in Spanish only: this is meant.
+  action("mTemasDeAyuda")->setEnabled(CurrentLanguage() == "ES");
+}
+
+void frmDatosIni::updateTitle() { setWindowTitle(toQt(mainWindowTitle(program()))); }
+
+}  // namespace zel

@@ -1,0 +1,189 @@
+// How the main window is built: its menus and controls, and what leads where.
+#include <QAction>
+#include <QActionGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSlider>
+
+#include "forms/main/frm_datos_ini.h"
+#include "forms/main/graph_list.h"
+#include "forms/numeric_keys.h"
+
+namespace zel {
+namespace {
+
+QLabel* makeLabel(const char* name, QWidget* buddy) {
+  auto* label = new QLabel;
+  label->setObjectName(QString::fromLatin1(name));
+  label->setBuddy(buddy);
+  return label;
+}
+
+QPushButton* makeButton(const char* name) {
+  auto* button = new QPushButton;
+  button->setObjectName(QString::fromLatin1(name));
+  return button;
+}
+
+}  // namespace
+
+QAction* frmDatosIni::addCommand(QMenu* menu, const char* name, void (frmDatosIni::*handler)()) {
+  auto* action = menu->addAction(QString());
+  action->setObjectName(QString::fromLatin1(name));
+  connect(action, &QAction::triggered, this, handler);
+  return action;
+}
+
+void frmDatosIni::buildMenus() {
+  mArchivo_ = menuBar()->addMenu(QString());
+  addCommand(mArchivo_, "mNuevo", &frmDatosIni::mNuevo_Click)->setShortcut(QKeySequence::New);
+  addCommand(mArchivo_, "mAbrir", &frmDatosIni::mAbrir_Click)->setShortcut(QKeySequence::Open);
+  mArchivo_->addSeparator();
+  addCommand(mArchivo_, "mGuardar", &frmDatosIni::mGuardar_Click)->setShortcut(QKeySequence::Save);
+  addCommand(mArchivo_, "mGuardarComo", &frmDatosIni::mGuardarComo_Click)
+      ->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+  mArchivo_->addSeparator();
+  addCommand(mArchivo_, "mSalir", &frmDatosIni::mSalir_Click)->setShortcut(QKeySequence::Quit);
+
+  mOpciones_ = menuBar()->addMenu(QString());
+  addCommand(mOpciones_, "mConfirmarBorrado", &frmDatosIni::mConfirmarBorrado_Click)
+      ->setCheckable(true);
+  mLenguaje_ = mOpciones_->addMenu(QString());
+  auto* languages = new QActionGroup(this);
+  for (QAction* action : {addCommand(mLenguaje_, "mEspanol", &frmDatosIni::mEspanol_Click),
+                          addCommand(mLenguaje_, "mEnglish", &frmDatosIni::mEnglish_Click)}) {
+    action->setCheckable(true);
+    languages->addAction(action);
+  }
+
+  mAyuda_ = menuBar()->addMenu(QString());
+  addCommand(mAyuda_, "mTemasDeAyuda", &frmDatosIni::mTemasDeAyuda_Click)
+      ->setShortcut(QKeySequence::HelpContents);
+  addCommand(mAyuda_, "mComoConseguirEstePrograma", &frmDatosIni::mComoConseguirEstePrograma_Click);
+  mAyuda_->addSeparator();
+  addCommand(mAyuda_, "mAcercaDeZel", &frmDatosIni::mAcercaDeZel_Click);
+  mArchivo_->setObjectName("mArchivo");
+  mOpciones_->setObjectName("mOpciones");
+  mLenguaje_->setObjectName("mLenguaje");
+  mAyuda_->setObjectName("mAyuda");
+}
+
+void frmDatosIni::buildControls() {
+  auto* settings = new QVBoxLayout;
+  settings->addWidget(buildRange());
+  settings->addWidget(buildScale());
+  settings->addWidget(buildQuality());
+  settings->addStretch();
+  CmdGraficarLista_ = makeButton("CmdGraficarLista");
+  CmdGraficarLista_->setDefault(true);
+  QFont bold = CmdGraficarLista_->font();
+  bold.setBold(true);
+  CmdGraficarLista_->setFont(bold);
+  CmdGraficarLista_->setMinimumHeight(CmdGraficarLista_->sizeHint().height() * 3 / 2);
+  settings->addWidget(CmdGraficarLista_);
+
+  auto* centre = new QWidget;
+  auto* columns = new QHBoxLayout(centre);
+  columns->setContentsMargins(12, 12, 12, 12);
+  columns->setSpacing(12);
+  columns->addWidget(buildGraphs(), 1);
+  columns->addLayout(settings);
+  setCentralWidget(centre);
+  constexpr int kRoomForFormulas = 260;  // beside what the controls need
+  resize(sizeHint() + QSize(kRoomForFormulas, 0));
+}
+
+QLineEdit* frmDatosIni::makeNumberBox(const char* name, bool refuses_minus) {
+  auto* box = new QLineEdit;
+  box->setObjectName(QString::fromLatin1(name));
+  filterNumericKeys(*box, refuses_minus);
+  return box;
+}
+
+QGroupBox* frmDatosIni::buildRange() {
+  range_frame_ = new QGroupBox;
+  range_frame_->setObjectName("fraRango");
+  txtRanXf_ = makeNumberBox("txtRanXf", false);
+  txtRanXi_ = makeNumberBox("txtRanXi", false);
+  txtRanYf_ = makeNumberBox("txtRanYf", false);
+  txtRanYi_ = makeNumberBox("txtRanYi", false);
+  range_labels_ = {makeLabel("LblRanXf", txtRanXf_), makeLabel("LblRanXi", txtRanXi_),
+                   makeLabel("LblRanYf", txtRanYf_), makeLabel("LblRanYi", txtRanYi_)};
+  chkProporcional_ = new QCheckBox;
+  chkProporcional_->setObjectName("chkProporcional");
+  auto* grid = new QGridLayout(range_frame_);
+  const std::array<QLineEdit*, 4> boxes = {txtRanXf_, txtRanXi_, txtRanYf_, txtRanYi_};
+  for (int row = 0; row < 4; ++row) {
+    grid->addWidget(range_labels_[static_cast<std::size_t>(row)], row, 0);
+    grid->addWidget(boxes[static_cast<std::size_t>(row)], row, 1);
+  }
+  grid->addWidget(chkProporcional_, 4, 0, 1, 2);
+  return range_frame_;
+}
+
+QGroupBox* frmDatosIni::buildScale() {
+  scale_frame_ = new QGroupBox;
+  scale_frame_->setObjectName("fraEscala");
+  txtEscalaX_ = makeNumberBox("txtEscalaX", true);
+  txtEscalaY_ = makeNumberBox("txtEscalaY", true);
+  scale_labels_ = {makeLabel("LblEscalaX", txtEscalaX_), makeLabel("LblEscalaY", txtEscalaY_)};
+  auto* grid = new QGridLayout(scale_frame_);
+  grid->addWidget(scale_labels_[0], 0, 0);
+  grid->addWidget(txtEscalaX_, 0, 1);
+  grid->addWidget(scale_labels_[1], 1, 0);
+  grid->addWidget(txtEscalaY_, 1, 1);
+  return scale_frame_;
+}
+
+QGroupBox* frmDatosIni::buildQuality() {
+  quality_frame_ = new QGroupBox;
+  quality_frame_->setObjectName("fraCalidad");
+  Slider1_ = new QSlider(Qt::Horizontal);
+  Slider1_->setObjectName("Slider1");
+  Slider1_->setRange(MainView::kLowestDefinicion, MainView::kHighestDefinicion);
+  Slider1_->setPageStep(10);
+  LblCalidad_ = makeLabel("LblCalidad", Slider1_);
+  LblCalidad_->setMinimumWidth(LblCalidad_->fontMetrics().horizontalAdvance("100%"));
+  LblCalidad_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* row = new QHBoxLayout(quality_frame_);
+  row->addWidget(Slider1_, 1);
+  row->addWidget(LblCalidad_);
+  return quality_frame_;
+}
+
+QGroupBox* frmDatosIni::buildGraphs() {
+  graph_frame_ = new QGroupBox;
+  graph_frame_->setObjectName("fraGraficos");
+  listaG_ = new GraphList;
+  listaG_->setObjectName("listaG");
+  CmdAgregar_ = makeButton("CmdAgregar");
+  CmdModificar_ = makeButton("CmdModificar");
+  CmdBorrar_ = makeButton("CmdBorrar");
+  auto* buttons = new QHBoxLayout;
+  for (QPushButton* button : {CmdAgregar_, CmdModificar_, CmdBorrar_}) buttons->addWidget(button);
+  buttons->addStretch();
+  auto* column = new QVBoxLayout(graph_frame_);
+  column->addWidget(listaG_, 1);
+  column->addLayout(buttons);
+  return graph_frame_;
+}
+
+void frmDatosIni::connectControls() {
+  connect(CmdAgregar_, &QPushButton::clicked, this, &frmDatosIni::CmdAgregar_Click);
+  connect(CmdModificar_, &QPushButton::clicked, this, &frmDatosIni::CmdModificar_Click);
+  connect(CmdBorrar_, &QPushButton::clicked, this, &frmDatosIni::CmdBorrar_Click);
+  connect(CmdGraficarLista_, &QPushButton::clicked, this, &frmDatosIni::CmdGraficarLista_Click);
+  connect(chkProporcional_, &QCheckBox::clicked, this, &frmDatosIni::actProporcional);
+  connect(Slider1_, &QSlider::valueChanged, this, &frmDatosIni::Slider1_Change);
+  connect(listaG_, &GraphList::editRequested, this, &frmDatosIni::CmdModificar_Click);
+  connect(listaG_, &GraphList::deleteRequested, this, &frmDatosIni::CmdBorrar_Click);
+  connect(listaG_, &QTreeWidget::itemSelectionChanged, this, &frmDatosIni::updateButtons);
+}
+
+}  // namespace zel

@@ -1,0 +1,89 @@
+// The plot window: what the session asks of it, and how it is opened and left.
+#include "forms/plot/frm_grafico.h"
+
+#include <QCloseEvent>
+
+#include "app/messages.h"
+#include "app/plot_arguments.h"
+#include "forms/plot/graph_bar.h"
+#include "forms/plot/picture_box.h"
+#include "forms/plot/plot_overlay.h"
+#include "forms/plot/plot_toolbar.h"
+
+namespace zel {
+
+void frmGrafico::showForm() {
+  // Behind the window that comes back, a drawing has failed and the view was handed back.
+  if (callerOf(program().params) == this && !session_.isOpen()) return;
+  Form::showForm();
+  picGrafico_->setFocus();
+  draws_soon_.start();
+}
+
+void frmGrafico::takeArguments() {
+  const FormParams& params = program().params;
+  if (callerOf(params) == this) {
+    setCaller(opener_);
+    return;
+  }
+  opener_ = callerOf(params);
+  session_.open(viewIn(params), program().marks);
+}
+
+void frmGrafico::closeEvent(QCloseEvent* event) {
+  if (session_.isOpen())
+    leave(session_.openedView());
+  else if (isVisible())
+    returnToCaller();
+  event->setAccepted(isHidden());  // its caller may have shown it again
+}
+
+void frmGrafico::pictureDrawn() {
+  picGrafico_->showDrawn();
+  describePicture();
+}
+
+void frmGrafico::toolsChanged() {
+  Toolbar1_->follow(session_);
+  overlay_->show(session_.cursor(), session_.zoomRectangle());
+  picGrafico_->setCursor(session_.mode() == PlotMode::zoom ? Qt::CrossCursor : Qt::ArrowCursor);
+  const auto active = session_.activeGraph();
+  graph_bar_->showGraph(active ? program().graphs.graph(*active) : std::nullopt);
+  // While a point is traced the panels follow, and then it is described.
+  if (session_.mode() != PlotMode::recorrido) describePicture();
+}
+
+void frmGrafico::showMessage(const std::string& message) {
+  ShowAttention(program().services.boxes, message);
+}
+
+void frmGrafico::showInformation(const std::string& message) {
+  ShowInformation(program().services.boxes, message);
+}
+
+std::optional<std::string> frmGrafico::askValue(const std::string& prompt,
+                                                const std::string& title) {
+  return program().services.inputs.ask(prompt, title);
+}
+
+void frmGrafico::copyPicture() {
+  Clipboard& clipboard = program().services.clipboard;
+  clipboard.clear();
+  clipboard.putBitmap(picGrafico_->bitmap());
+}
+
+void frmGrafico::openPrint() {
+  if (!print_) return;
+  handPlotOver(program().params, session_.view(), this);
+  print_->showForm();
+}
+
+void frmGrafico::returnToMain() { leave(session_.view()); }
+
+void frmGrafico::leave(const ViewSettings& view) {
+  session_.close();
+  handViewOver(program().params, view, this);
+  returnToCaller();
+}
+
+}  // namespace zel

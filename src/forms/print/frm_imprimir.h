@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QImage>
+#include <optional>
+
+#include "forms/form.h"
+#include "pictures/drawing_list.h"
+
+class QGroupBox;
+class QLabel;
+class QPushButton;
+
+namespace zel {
+
+class PageView;
+class PrintedWindow;
+
+/// The print preview: the plot window's picture on a scaled page, where it can be dragged to its
+/// place.
+class frmImprimir : public Form {
+  Q_OBJECT
+
+ public:
+  explicit frmImprimir(Program& program);
+
+  void assignCaptions() override;
+  /// Takes the picture as it is now from the window under "imprimir"; without one there is nothing
+  /// to print, and this window hides.
+  void showForm() override;
+
+ protected:
+  void takeArguments() override { layOverCaller(); }
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void buildControls();
+  void takePicture();
+  /// Builds the preview of the picture that was taken, or tells that there is none.
+  void showPreview();
+  void cmdImprimir_Click();
+
+  QGroupBox* FraVistaPrevia_;
+  PageView* page_;
+  QLabel* LblMensaje_;
+  QPushButton* cmdImprimir_;
+  QPushButton* cmdSalir_;
+  PrintedWindow* printed_ = nullptr;
+  QImage image_;
+  DrawingList drawing_;         // what image_ shows
+  std::optional<Point> place_;  // on the paper, where the user has put a picture last
+};
+
+}  // namespace zel

@@ -1,0 +1,100 @@
+#include "forms/forms.h"
+
+#include "forms/window_fixture.h"
+
+namespace zel::test {
+namespace {
+
+/// The windows together, from the start to the main window.
+class AllWindows : public WindowTest {
+ protected:
+  AllWindows() {
+    program.end_process = [this] { ++ends; };
+  }
+
+  /// The window of a name when it is shown, null otherwise.
+  static QWidget* shown(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->isVisible() && window->objectName() == QLatin1String(name)) return window;
+    }
+    return nullptr;
+  }
+
+  int ends = 0;
+};
+
+TEST_F(AllWindows, GoFromTheLanguageChoiceToTheMainWindow) {
+  ASSERT_EQ(startProgram(program), StartStep::first_start);
+  Forms forms(program, QString());
+  forms.begin(StartStep::first_start);
+  ASSERT_NE(shown("frmIdioma"), nullptr);
+  EXPECT_EQ(shown("frmPresentacion"), nullptr);
+  QTest::keyClick(shown("frmIdioma"), Qt::Key_Return);
+  EXPECT_EQ(shown("frmIdioma"), nullptr);
+  ASSERT_NE(shown("frmPresentacion"), nullptr);
+  EXPECT_EQ(program.help_file, "ayuda_es.hlp");
+  QTest::keyClick(shown("frmPresentacion"), Qt::Key_Return);
+  EXPECT_EQ(shown("frmPresentacion"), nullptr);
+  EXPECT_NE(shown("frmDatosIni"), nullptr);
+  EXPECT_EQ(ends, 0);
+}
+
+TEST_F(AllWindows, EndAndAskAgainWhenTheLanguageIsNotChosen) {
+  ASSERT_EQ(startProgram(program), StartStep::first_start);
+  Forms forms(program, QString());
+  forms.begin(StartStep::first_start);
+  shown("frmIdioma")->close();
+  EXPECT_EQ(ends, 1);
+  EXPECT_FALSE(std::filesystem::exists("config.ini"));
+  EXPECT_EQ(startProgram(program), StartStep::first_start);
+}
+
+TEST_F(AllWindows, OpenTheDocumentOfTheCommandLine) {
+  addFunction('a', "x^2");
+  MainView view;
+  view.xi = "-3";
+  ASSERT_TRUE(writeDocument("uno.zel", view, program.graphs).written);
+  program.graphs.clearGraphs();
+  Forms forms(program, "uno.zel");
+  forms.begin(StartStep::presentation);
+  QTest::keyClick(shown("frmPresentacion"), Qt::Key_Return);
+  QWidget* const main_window = shown("frmDatosIni");
+  ASSERT_NE(main_window, nullptr);
+  EXPECT_EQ(fromQt(main_window->windowTitle()), "ZEL - uno.zel");
+  EXPECT_EQ(text(*main_window, "txtRanXi"), "-3");
+  EXPECT_EQ(program.graphs.count(), 1);
+}
+
+TEST_F(AllWindows, PlotAndComeBackWithTheRange) {
+  addFunction('a', "x^2");
+  Forms forms(program, QString());
+  forms.begin(StartStep::presentation);
+  QTest::keyClick(shown("frmPresentacion"), Qt::Key_Return);
+  QWidget* const main_window = shown("frmDatosIni");
+  control<QLineEdit>(*main_window, "txtRanXi").setText("-4");
+  control<QPushButton>(*main_window, "CmdGraficarLista").click();
+  EXPECT_EQ(shown("frmDatosIni"), nullptr);
+  ASSERT_NE(shown("frmGrafico"), nullptr);
+  shown("frmGrafico")->close();
+  EXPECT_EQ(shown("frmGrafico"), nullptr);
+  ASSERT_EQ(shown("frmDatosIni"), main_window);
+  EXPECT_EQ(text(*main_window, "txtRanXi"), "-4");
+}
+
+TEST_F(AllWindows, ComeBackFromTheEditorWithTheRangeThatWasTyped) {
+  Forms forms(program, QString());
+  forms.begin(StartStep::presentation);
+  QTest::keyClick(shown("frmPresentacion"), Qt::Key_Return);
+  QWidget* const main_window = shown("frmDatosIni");
+  control<QLineEdit>(*main_window, "txtRanXi").setText("-4");
+  control<QPushButton>(*main_window, "CmdAgregar").click();
+  ASSERT_NE(shown("frmAdmGraficos"), nullptr);
+  control<QLineEdit>(*shown("frmAdmGraficos"), "txtF").setText("sen(x)");
+  control<QPushButton>(*shown("frmAdmGraficos"), "bAceptar").click();
+  EXPECT_EQ(shown("frmAdmGraficos"), nullptr);
+  EXPECT_EQ(text(*main_window, "txtRanXi"), "-4");
+  EXPECT_EQ(program.graphs.graph('a')->codigo, "10@(x)");
+}
+
+}  // namespace
+}  // namespace zel::test
