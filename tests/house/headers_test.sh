@@ -19,7 +19,7 @@ complaints() {
 
 # What this machine cannot compile: the headers for Windows, and without Qt those of its folders.
 possible() {
-  local folders=(-e /platform/windows/)
+  local folders=(-e /platform/win32/)
   [[ -n $qt_folders ]] || folders+=(-e /forms/ -e /platform/)
   grep -v "${folders[@]}" || true
 }

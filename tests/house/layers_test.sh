@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The floors of the house: who includes whom below src/, without cycles; and up to app nothing but
-# standard C++ (platform headers in *_posix.cpp and *_windows.cpp only).
+# standard C++ (platform headers in *_posix.cpp and *_win32.cpp only).
 set -euo pipefail
 export LC_ALL=C
 root=$2
@@ -53,7 +53,7 @@ foreign_includes() {
   local file bracket header
   while read -r file bracket header; do
     [[ $bracket == "<" && $file =~ ^($below)/ && ! $header =~ ^($standard)$ ]] || continue
-    [[ ! $file =~ _(posix|windows)\.cpp$ || $header =~ ^Q ]] || continue
+    [[ ! $file =~ _(posix|win32)\.cpp$ || $header =~ ^Q ]] || continue
     echo "$file: includes <$header>, which is not standard C++"
   done < <(includes "$1")
 }

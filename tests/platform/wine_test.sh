@@ -18,7 +18,7 @@ cd "$root" || exit 1
 log=$(mktemp)
 folder=build/mingw-core
 { [[ -f $folder/build.ninja ]] || cmake --preset mingw-core; } >"$log" 2>&1 &&
-  cmake --build "$folder" --target windows_probe >>"$log" 2>&1 || {
+  cmake --build "$folder" --target win32_probe >>"$log" 2>&1 || {
   cat "$log"
   rm -f "$log"
   exit 1
@@ -64,7 +64,7 @@ entry() {
   failures=$((failures + 1))
 }
 
-probe=$folder/bin/windows_probe.exe
+probe=$folder/bin/win32_probe.exe
 
 says "register in English" true "$probe" register 'C:\Program Files\zel' EN
 entry zel "Function graphic"

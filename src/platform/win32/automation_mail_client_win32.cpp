@@ -1,6 +1,6 @@
 #include <utility>
 
-#include "platform/windows/automation_mail_client.h"
+#include "platform/win32/automation_mail_client.h"
 
 namespace zel {
 namespace {

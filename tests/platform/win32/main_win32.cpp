@@ -1,4 +1,4 @@
-// windows_probe: uses the adapters of Windows as the program does and tells what came of it.
+// win32_probe: uses the adapters of Windows as the program does and tells what came of it.
 //   register FOLDER LANGUAGE   registers the document type of a program in FOLDER
 //   missing                    drives a browser and a mail client that are not installed
 //   automation                 drives recorders in their place
@@ -9,9 +9,9 @@
 #include "app/desktop.h"
 #include "base/language.h"
 #include "platform/desktop_services.h"
-#include "platform/windows/automation_browser.h"
-#include "platform/windows/automation_mail_client.h"
-#include "platform/windows/automation_recorder.h"
+#include "platform/win32/automation_browser.h"
+#include "platform/win32/automation_mail_client.h"
+#include "platform/win32/automation_recorder.h"
 
 namespace zel::test {
 namespace {

@@ -4,8 +4,8 @@
 #include <ole2.h>
 #include <oleauto.h>
 
-#include "platform/windows/automation_recorder.h"
-#include "platform/windows/text_encoding.h"
+#include "platform/win32/automation_recorder.h"
+#include "platform/win32/text_encoding.h"
 
 namespace zel::test {
 namespace {

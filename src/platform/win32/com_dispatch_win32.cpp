@@ -4,8 +4,8 @@
 #include <ole2.h>
 #include <oleauto.h>
 
-#include "platform/windows/com_dispatch.h"
-#include "platform/windows/text_encoding.h"
+#include "platform/win32/com_dispatch.h"
+#include "platform/win32/text_encoding.h"
 
 namespace zel {
 namespace {

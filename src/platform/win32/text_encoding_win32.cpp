@@ -1,7 +1,7 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
-#include "platform/windows/text_encoding.h"
+#include "platform/win32/text_encoding.h"
 
 namespace zel {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "app/services.h"
-#include "platform/windows/com_dispatch.h"
+#include "platform/win32/com_dispatch.h"
 
 namespace zel {
 

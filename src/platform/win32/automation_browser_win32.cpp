@@ -1,6 +1,6 @@
 #include <utility>
 
-#include "platform/windows/automation_browser.h"
+#include "platform/win32/automation_browser.h"
 
 namespace zel {
 

@@ -8,7 +8,7 @@ namespace zel {
 
 /// The class registry of Windows. A call that fails is passed over, and keys are not closed: both
 /// are meant.
-class WindowsClassRegistry : public ClassRegistry {
+class Win32ClassRegistry : public ClassRegistry {
  public:
   Key createKey(const std::string& name) override;
   void setValue(Key key, const std::string& subkey, const std::string& value) override;
