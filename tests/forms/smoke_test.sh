@@ -8,6 +8,9 @@ zel=$(dirname "$1")/zel
 for tool in Xvfb openbox xdotool xprop xwininfo xclip import; do
   command -v "$tool" >/dev/null || { echo "no $tool"; exit 77; }
 done
+. "$2/tests/support/screen.sh"
+SCREEN_PICTURE=$(dirname "$(dirname "$1")")/smoke_failed.png
+rm -f "$SCREEN_PICTURE"
 
 work=$(mktemp -d)
 export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
@@ -16,59 +19,12 @@ unset LC_ALL LC_MESSAGES WAYLAND_DISPLAY
 export LANG=en_US.UTF-8
 mkdir -m 700 "$work/run"
 cd "$work/run" || exit 1
-exec 8>"$work/display"
-Xvfb -displayfd 8 -screen 0 1280x1024x24 >"$work/xvfb.log" 2>&1 &
-server=$!
-exec 8>&-
 program=
-trap 'kill $program $manager $server 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
-manager=
-for _ in $(seq 100); do [[ -s $work/display ]] && break; sleep 0.1; done
-DISPLAY=:$(<"$work/display")
-export DISPLAY
-openbox >"$work/openbox.log" 2>&1 &
-manager=$!
-# A window that is mapped while the manager starts is lost.
-for _ in $(seq 100); do
-  xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-  sleep 0.1
-done
+trap 'kill $program 2>/dev/null; close_screen; wait 2>/dev/null; rm -rf "$work"' EXIT
+open_screen "$work"
 
-fail() {
-  echo "failed: $1"
-  xdotool search --onlyvisible --name . getwindowname %@ 2>/dev/null
-  cat "$work/zel.log" "$work/openbox.log"
-  [[ -z ${SMOKE_PICTURE:-} ]] || import -window root "$SMOKE_PICTURE"
-  exit 1
-}
-
-# window TITLE: waits until a visible window has this title (a regular expression), and focuses it.
-window() {
-  local id
-  for _ in $(seq 100); do
-    id=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -n 1)
-    if [[ -n $id ]] && xdotool windowactivate --sync "$id" 2>/dev/null; then
-      sleep 0.2
-      return
-    fi
-    sleep 0.1
-  done
-  fail "no window '$1'"
-}
-
-keys() { xdotool key --delay 60 "$@"; }
-# look NAME: takes a picture of the screen.
-look() { import -window root "$work/$1.png"; }
-# differs ONE OTHER: whether two pictures of the screen differ.
-differs() {
-  local count
-  count=$(compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>&1)
-  [[ ${count%%.*} != 0 ]]
-}
-# at X Y: moves the mouse to a place in the window that has the focus.
-at() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" sleep 0.2; }
-# onScreen PICTURE SCREEN: whether the plot window shows this picture, pixel by pixel, at its margin.
-onScreen() {
+# on_screen PICTURE SCREEN: whether the plot window shows this picture, pixel by pixel, at its margin.
+on_screen() {
   local size left top height row
   size=$(identify -format '%wx%h' "$1")
   read -r left top height < <(xwininfo -id "$(xdotool getactivewindow)" 2>/dev/null |
@@ -79,119 +35,95 @@ onScreen() {
   done
   return 1
 }
-# button N: presses the toolbar's button N, from 0, with the keyboard, and goes back to the picture.
-button() {
-  keys Tab
-  for _ in $(seq "$1"); do keys Right; done
-  keys space
+has_curve() {
+  look plot
+  [[ $(convert "$work/plot.png" -unique-colors -format '%w' info:) -gt 20 ]]
 }
+# toolbar N: goes to the toolbar's button N, from 0, with the keyboard.
+toolbar() {
+  local keys=(Tab) i
+  for ((i = 0; i < $1; ++i)); do keys+=(Right); done
+  xdotool key --delay 60 "${keys[@]}"
+}
+# enter TEXT: types into the field that has the focus, in place of what it holds.
+enter() { xdotool key --delay 60 ctrl+a type --delay 40 -- "$1"; }
+copied() { xclip -selection clipboard -t image/png -o >"$work/copy.png" 2>/dev/null; }
+declared() { grep -q '^ecuacion=7\*sen(60\*x)' "$work/smoke.zel" 2>/dev/null; }
+
 start() {
   "$zel" "$@" >"$work/zel.log" 2>&1 &
   program=$!
 }
-ended() {
-  for _ in $(seq 100); do
-    kill -0 "$program" 2>/dev/null || break
-    sleep 0.1
-  done
-  kill -0 "$program" 2>/dev/null && fail "the program does not end"
-  wait "$program"
-  [[ $? -eq 0 ]] || fail "the program ended badly"
+has_ended() { ! kill -0 "$program" 2>/dev/null; }
+ends_well() {
+  press has_ended "$@"
+  wait "$program" || fail "the program ended badly"
 }
 
 start
 window 'ZEL - (Idioma|Language)'
-keys Down
-window 'ZEL - Language'
-keys Return
-window 'ZEL'
-keys Return
-window 'ZEL - Graphic manager'
-keys alt+a
-window '.*[Gg]raphic.*'
-xdotool type --delay 40 '7*sen(60*x)'
-keys Return
-window 'ZEL - Graphic manager'
-keys alt+g
-window 'ZEL - Graphics'
-sleep 0.5
-look plot
-[[ $(convert "$work/plot.png" -unique-colors -format '%w' info:) -gt 20 ]] || fail "an empty plot"
+opens 'ZEL - Language' Down
+opens 'ZEL' Return
+opens 'ZEL - Graphic manager' Return
+opens 'New graphic' alt+a
+enter '7*sen(60*x)'
+opens 'ZEL - Graphic manager' Return
+opens 'ZEL - Graphics' alt+g
+wait_until has_curve || fail "an empty plot"
+look_still plot
 
-keys Right
-sleep 0.3
-look panned
-differs plot panned || fail "the arrow keys do not pan"
+press 'looks_other plot panned' Right
+look_still panned
 at 300 300
-xdotool click 1 sleep 0.3
-look traced
-differs panned traced || fail "a click does not trace"
-button 12
-sleep 0.3
-look found
-differs traced found || fail "no maximum is found"
-keys Left space
-window 'Evaluate specific values\.'
-xdotool type --delay 40 '2'
-keys Return
-window 'Information'
-keys Escape
-window 'Evaluate specific values\.'
-keys Escape
-window 'ZEL - Graphics'
+xdotool click 1
+wait_until looks_other panned traced || fail "a click does not trace"
+look_still traced
+toolbar 12
+press 'looks_other traced found' space
+xdotool key Left
+opens 'Evaluate specific values\.' space
+enter 2
+opens 'Information' Return
+opens 'Evaluate specific values\.' Escape
+opens 'ZEL - Graphics' Escape
 
-look before
 at 300 300
-xdotool click 3 sleep 0.2 mousedown 1 sleep 0.2
+xdotool click 3
+look_still before
+xdotool mousedown 1
 at 400 380
 at 500 450
-look rectangle
-differs before rectangle || fail "no zoom rectangle"
+wait_until looks_other before rectangle || fail "no zoom rectangle"
+look_still rectangle
 xdotool mouseup 1
 at 500 500
-sleep 0.3
-look zoomed
-differs before zoomed || fail "the rectangle does not zoom"
-xdotool click 3 sleep 0.3
+wait_until looks_other rectangle zoomed || fail "the rectangle does not zoom"
+look_still zoomed
+xdotool click 3
 
-keys ctrl+c
-window 'Information'
-keys Escape
-window 'ZEL - Graphics'
-look copied
-xclip -selection clipboard -t image/png -o >"$work/copy.png" || fail "no picture on the clipboard"
-onScreen "$work/copy.png" "$work/copied.png" || fail "the clipboard has another picture"
+opens 'Information' ctrl+c
+opens 'ZEL - Graphics' Escape
+look_still copied
+wait_until copied || fail "no picture on the clipboard"
+on_screen "$work/copy.png" "$work/copied.png" || fail "the clipboard has another picture"
 
-keys ctrl+p
-window 'Print graphics'
-# Without a printer there is a message over it.
-for _ in 1 2 3; do
-  xdotool search --onlyvisible --name '^Print graphics$' >"$work/found" 2>/dev/null || break
-  keys Escape
-  sleep 0.5
-done
+# Without a printer there is a message over the print window.
+opens 'Print graphics' ctrl+p
+press "is_gone 'Print graphics'" Escape
 window 'ZEL - Graphics'
-keys alt+F4
-window 'ZEL - Graphic manager'
-keys ctrl+shift+s
-sleep 1
-xdotool type --delay 40 "$work/smoke.zel"
-keys Return
-window 'ZEL - smoke.zel'
-grep -q '^ecuacion=7\*sen(60\*x)' "$work/smoke.zel" || fail "the document does not hold the function"
-keys ctrl+q
-ended
+opens 'ZEL - Graphic manager' alt+F4
+opens '.*[Ss]ave.*' ctrl+shift+s
+enter "$work/smoke.zel"
+opens 'ZEL - smoke.zel' Return
+wait_until declared || fail "the document does not hold the function"
+ends_well ctrl+q
 grep -q '^EN' config.ini || fail "the language was not kept"
 
 start "$work/smoke.zel"
 window 'ZEL'
-keys Return
-window 'ZEL - smoke.zel'
-keys alt+g
-window 'ZEL - Graphics'
-keys alt+F4
-window 'ZEL - smoke.zel'
-keys ctrl+q
-ended
+opens 'ZEL - smoke.zel' Return
+opens 'ZEL - Graphics' alt+g
+opens 'ZEL - smoke.zel' alt+F4
+ends_well ctrl+q
 grep -vE '^$' "$work/zel.log" && fail "the program complained"
 exit 0

@@ -1,7 +1,5 @@
 #include "plot/axes.h"
 
-#include <chrono>
-
 #include "plot/plot_fixture.h"
 
 namespace zel::test {
@@ -192,12 +190,10 @@ TEST_F(Axes, HaveEachTwipMarkedOnceByMarksThatStandCloser) {
   }
 }
 
-TEST_F(Axes, AreMarkedQuicklyHoweverCloseTheMarksStand) {
-  const auto start = std::chrono::steady_clock::now();
+TEST_F(Axes, AreMarkedWithoutEndlessWorkHoweverCloseTheMarksStand) {
   EXPECT_THAT(yMarks(-5, 5, 1e-9), SizeIs(1501));
   EXPECT_THAT(yMarks(0, 10, 1e-307), SizeIs(1501));
   EXPECT_THAT(yMarks(0, 10, 5e-324), SizeIs(1501));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 TEST_F(Axes, CannotBeMarkedByADistanceThatDividesNothing) {

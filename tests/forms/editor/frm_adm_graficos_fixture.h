@@ -11,6 +11,7 @@
 #include "forms/editor/colour_swatch.h"
 #include "forms/editor/frm_adm_graficos.h"
 #include "forms/window_fixture.h"
+#include "support/patience.h"
 
 namespace zel::test {
 
@@ -84,7 +85,7 @@ class Editor : public WindowTest {
  private:
   void open() {
     editor.showForm();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor, kPatience));
   }
 };
 

@@ -3,6 +3,7 @@
 #include <QTabBar>
 
 #include "frm_adm_graficos_fixture.h"
+#include "support/patience.h"
 
 namespace zel::test {
 namespace {
@@ -176,7 +177,7 @@ TEST_F(EditorKeys, CancelByTheirMnemonic) {
     SetCurrentLanguage(language);
     openNew();
     press(Qt::Key_C, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !editor.isVisible(); })) << language;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !editor.isVisible(); }, kPatience)) << language;
   }
 }
 
@@ -188,7 +189,7 @@ TEST_F(EditorKeys, AcceptByTheirMnemonicThoughAMenuHasTheSame) {
     openNew();
     fill({{"txtF", "x"}});
     press(key, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !editor.isVisible(); })) << language;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !editor.isVisible(); }, kPatience)) << language;
     EXPECT_EQ(program.graphs.count(), ++stored);
   }
 }
@@ -206,7 +207,7 @@ TEST_F(EditorKeys, OpenTheMenusByTheirMnemonics) {
     openNew();
     auto& menu = control<QMenu>(editor, row.menu);
     press(row.key, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.isVisible(); })) << row.menu;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.isVisible(); }, kPatience)) << row.menu;
     menu.hide();
     editor.close();
   }

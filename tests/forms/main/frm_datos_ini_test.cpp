@@ -7,6 +7,7 @@
 
 #include "forms/main/graph_list.h"
 #include "forms/window_fixture.h"
+#include "support/patience.h"
 
 namespace zel::test {
 namespace {
@@ -203,14 +204,14 @@ TEST_F(MainWindow, OpensTheEditorForANewGraphAndForTheSelectedOne) {
 
 TEST_F(MainWindow, AnswersToTheMnemonicsOfItsButtons) {
   window.showForm();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kPatience));
   auto& box = control<QLineEdit>(window, "txtRanXf");
   QTest::keyClick(&box, Qt::Key_A, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return editor.shown == 1; }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return editor.shown == 1; }, kPatience));
   choose("mEnglish");
   addFunction('a', "x");
   QTest::keyClick(&box, Qt::Key_G, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return plot.shown == 1; }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return plot.shown == 1; }, kPatience));
 }
 
 TEST_F(MainWindow, DeletesEverySelectedGraph) {

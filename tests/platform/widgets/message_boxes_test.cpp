@@ -14,6 +14,7 @@
 #include "platform/widgets/modal_driver.h"
 #include "platform/widgets/widget_message_boxes.h"
 #include "support/language_guard.h"
+#include "support/patience.h"
 #include "support/qt_application.h"
 
 namespace zel::test {
@@ -136,7 +137,7 @@ TEST_F(MessageBoxesOfWidgets, StandOverTheActiveWindow) {
   QWidget window;
   window.show();
   window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kPatience));
   lookAt("text", BoxStyle::stop, [&](QMessageBox& box) { EXPECT_EQ(box.parentWidget(), &window); });
 }
 
@@ -144,7 +145,7 @@ TEST_F(MessageBoxesOfWidgets, OutliveTheWindowBelowThem) {
   auto* const window = new QWidget;
   window->show();
   window->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window, kPatience));
   EXPECT_EQ(answer(BoxStyle::ok_cancel, [&](QMessageBox&) { delete window; }), BoxAnswer::cancel);
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/widgets/modal_driver.h"
 #include "platform/widgets/printer_fixture.h"
+#include "support/patience.h"
 
 namespace zel::test {
 namespace {
@@ -120,7 +121,7 @@ class PrinterOfCups : public PrinterTest {
   static bool comes(const char* name) {
     QElapsedTimer clock;
     clock.start();
-    while (!fs::exists(serverFolder() / name) && clock.elapsed() < 20000) QTest::qWait(20);
+    while (!fs::exists(serverFolder() / name) && clock.elapsed() < kPatience) QTest::qWait(20);
     return fs::exists(serverFolder() / name);
   }
 

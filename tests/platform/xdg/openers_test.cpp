@@ -1,4 +1,3 @@
-#include <QThread>
 #include <filesystem>
 
 #include <gmock/gmock.h>
@@ -11,6 +10,7 @@
 #include "platform/xdg/xdg_mail_client.h"
 #include "support/environment_guard.h"
 #include "support/language_guard.h"
+#include "support/patience.h"
 #include "support/temporary_folder.h"
 
 namespace zel::test {
@@ -30,8 +30,7 @@ class Openers : public ::testing::Test {
   }
 
   std::string opened() const {
-    for (int i = 0; i < 100 && !std::filesystem::exists(opener_ + ".said"); ++i)
-      QThread::msleep(50);
+    EXPECT_TRUE(waitUntil([this] { return std::filesystem::exists(opener_ + ".said"); }));
     return bytesOf(opener_ + ".said");
   }
 

@@ -2,7 +2,6 @@
 
 #include <QProcess>
 #include <QStandardPaths>
-#include <QThread>
 #include <filesystem>
 #include <vector>
 
@@ -14,6 +13,7 @@
 #include "platform/xdg/launcher.h"
 #include "support/environment_guard.h"
 #include "support/language_guard.h"
+#include "support/patience.h"
 #include "support/temporary_folder.h"
 
 namespace zel::test {
@@ -46,7 +46,7 @@ class Registration : public ::testing::Test {
   void registerDocuments() {
     const DesktopServices services = makeDesktopServices(program);
     registerZelDocuments(*services.registry, {"C:\\zel", "zel"});
-    for (int i = 0; i < 300 && !isDefault(); ++i) QThread::msleep(100);
+    EXPECT_TRUE(waitUntil([this] { return isDefault(); }));
   }
 
   bool isDefault() const {
@@ -99,7 +99,7 @@ TEST_F(Registration, LetsTheDesktopOpenADocumentWithTheProgram) {
   putBytes(document, "x");
   outputOf("gio", {"launch", QString::fromStdString(home_ / "share/applications/zel.desktop"),
                    QString::fromStdString(document)});
-  for (int i = 0; i < 100 && !std::filesystem::exists(program + ".said"); ++i) QThread::msleep(100);
+  EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(program + ".said"); }));
   EXPECT_EQ(bytesOf(program + ".said"), "1|" + document + "|" + home_.path().string());
 }
 
