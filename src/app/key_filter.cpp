@@ -1,3 +1,6 @@
+// The rules look at the whole text of the box and neither at the caret nor at the selection. What
+// can never be part of a number is swallowed; the rest is for the check of the value.
+
 #include "app/key_filter.h"
 
 namespace zel {

@@ -1,3 +1,8 @@
+// Files hold one byte a character, the program UTF-8. Of the 256 bytes, 224 are the characters of
+// their own number; the 32 from 0x80 on have a table. Whatever is no character of the code page,
+// and whatever is no UTF-8, becomes a question mark, so that a text always has a form that can be
+// written.
+
 #include "base/code_page.h"
 
 #include <algorithm>

@@ -1,3 +1,7 @@
+// Compiling is replacing text. The names are replaced in the order of their codes, and that order
+// is part of the format: "lngamma" goes before "gamma" and "ln", so that no name is damaged by one
+// that is part of it.
+
 #include "engine/compiler.h"
 
 #include "base/text.h"

@@ -1,3 +1,7 @@
+// A formula is tried by one evaluation at x = t = p = 1. Only what can never be understood is
+// refused: a formula that is not defined there may be defined elsewhere, and one without an
+// operator is let through on purpose.
+
 #include "engine/formula_check.h"
 
 #include <algorithm>

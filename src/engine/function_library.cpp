@@ -1,3 +1,7 @@
+// What each operator and function gives for two numbers. A computation ends in a value, in an error
+// that has a message, or in a fault, which is whatever leaves the range of a double. The arguments
+// are checked in the order in which their messages come first.
+
 #include "engine/function_library.h"
 
 #include <array>

@@ -1,3 +1,7 @@
+// The whole grammar is one rule: a text is split at the rightmost of its weakest operators outside
+// of parentheses. One walk from the right finds it, because only a strictly weaker operator
+// replaces the best so far. All precedence and associativity follow, a/b*c = a/(b*c) included.
+
 #include "engine/grammar.h"
 
 namespace zel {

@@ -1,3 +1,6 @@
+// Two lines: the language and whether deletions are confirmed. The first is taken even when the
+// second is missing, which is damage all the same.
+
 #include "files/config.h"
 
 #include <string_view>

@@ -1,3 +1,8 @@
+// A document is one text: the head, the view, and a block for each graph in letter order, each
+// section ended by a line of one blank. Loading asks for the oldest compatible version only, and
+// takes the graphs away before it parses, so that a load that fails half way leaves what was read
+// by then.
+
 #include "files/document.h"
 
 #include <new>

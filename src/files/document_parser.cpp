@@ -1,3 +1,8 @@
+// Three sections are looked for in their order; what lies between them is passed over. A section is
+// key=value lines up to a line of one blank, and one whose lines run out first is an error. Graphs
+// follow each other until the text ends; the blank line that closes a graph and the header of the
+// next are skipped by the search for its properties.
+
 #include "files/document_parser.h"
 
 #include <algorithm>

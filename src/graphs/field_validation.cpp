@@ -1,3 +1,7 @@
+// Each check looks at its fields and appends a paragraph to the message, or, in the case of
+// checkNumeric, puts one in the message's place. The label beside a field is its name in the
+// message.
+
 #include "graphs/field_validation.h"
 
 #include <functional>

@@ -1,3 +1,7 @@
+// A builder for each kind runs the checks of its fields in the order in which the editor shows
+// their complaints, and then makes the formula text and the parameters; a conic's codes are its
+// templates with the parameters put in as text. Nothing is stored unless no check complained.
+
 #include "graphs/graph_builders.h"
 
 #include <array>

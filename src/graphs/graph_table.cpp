@@ -1,3 +1,7 @@
+// 26 slots, a letter each, and a count of those in use that is kept by hand: freeing a slot that is
+// free lowers it all the same, on purpose. Walking to the next or previous graph goes round at the
+// ends and may end on a free slot.
+
 #include "graphs/graph_table.h"
 
 #include <utility>

@@ -1,3 +1,7 @@
+// A parameter is put into a template as text: each key, in the order of the parameters, is replaced
+// by its value in parentheses wherever it occurs. A key that occurs in a value put in before is
+// replaced too.
+
 #include "graphs/kinds.h"
 
 #include <array>

@@ -1,3 +1,8 @@
+// Every value passes between operations as text. Writing takes the 15 significant digits that the
+// standard library's exact conversion gives, drops the zeros at their end, and chooses between the
+// plain form and the exponent form by the size of the number. Reading accepts one form of number
+// only, with either separator, and tells what is too large (nothing) from what is too small (zero).
+
 #include "numbers/number_text.h"
 
 #include <algorithm>

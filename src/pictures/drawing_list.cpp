@@ -1,3 +1,7 @@
+// Points lie in one array, and steps say what the next so many of them are: that keeps a long curve
+// at 16 bytes a point, and replaying it is one walk over both. A list that would outgrow its bound
+// is emptied rather than cut, because half a drawing looks like a whole one.
+
 #include "pictures/drawing_list.h"
 
 namespace zel {

@@ -1,3 +1,7 @@
+// The text is written as the drawing goes on. A piece of curve is collected until the pen is
+// lifted, so that it becomes one polyline; the dots of a graph are collected until it ends and lie
+// on its lines. Coordinates are whole twips and are written without a fraction.
+
 #include "pictures/svg_picture.h"
 
 #include <array>

@@ -1,3 +1,7 @@
+// An axis is drawn where its zero lies on the picture, and its marks where the range is 1 to 200
+// units wide. Marks step by repeated addition from the first one, whose place keeps an offset on
+// purpose; where they stand closer than anybody can see, every twip is marked instead.
+
 #include "plot/axes.h"
 
 #include <algorithm>

@@ -1,3 +1,8 @@
+// A redraw clears, lays out the view, draws the axes and then the graphs in letter order, and lets
+// events run between them. An event may begin another redraw: each has a number, and one that finds
+// itself older than the latest ends at once. Redraws within redraws are bounded; the innermost then
+// begins anew in place of the next.
+
 #include "plot/drawing.h"
 
 #include <string>

@@ -1,3 +1,8 @@
+// The view is laid on the picture by one scale a direction, and the mapping floors, so that the
+// same sample lands on the same twip whatever is drawn. Refusals come in a fixed order: what
+// overflows, then an x range too close for a step to leave its left end, then one so large that the
+// scales vanish.
+
 #include "plot/viewport.h"
 
 #include <cmath>

@@ -1,3 +1,9 @@
+// Calls of other graphs are replaced as text, letter by letter from "a" to "z", in the code as
+// expanded so far: the first call of a letter is found, its argument is put in for every "x" of
+// that graph's code, and every call with this very argument is replaced. A code that calls a letter
+// twice with different arguments keeps the later call, and one that calls an earlier letter keeps
+// that.
+
 #include "engine/reference/reference_expansion.h"
 
 #include "base/text.h"

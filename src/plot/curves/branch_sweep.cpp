@@ -1,3 +1,8 @@
+// A conic's branches are two functions that end where the root in their code fails. At each change
+// between defined and undefined the point drawn last is kept, and afterwards the ends of both
+// branches are joined through the conic's vertices. A hyperbola's left arm ends at its left vertex,
+// a closed conic begins there.
+
 #include <array>
 #include <cmath>
 #include <optional>

@@ -1,3 +1,8 @@
+// A parametric curve is evaluated in blocks and drawn sample by sample: the pen goes down once and
+// stays down, so the curve comes back into the view as one line, and each sample in the view gets a
+// dot. A family is the function sweep once for each value of p. Both go on until their flag is
+// cleared.
+
 #include <array>
 #include <cmath>
 #include <cstddef>

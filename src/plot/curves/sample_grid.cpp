@@ -1,3 +1,6 @@
+// Samples step by repeated addition, as every sweep over x must see them; all graphs of a redraw
+// share the same ones, with their places on the picture.
+
 #include "plot/curves/sample_grid.h"
 
 namespace zel {

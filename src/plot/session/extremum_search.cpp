@@ -1,3 +1,7 @@
+// The search walks by half steps and compares the directions of two neighbouring differences. A
+// direction needs two samples side by side: a sample that is not defined, and the jump back to the
+// left end, forget what came before. The fourth sample is the first that can be a turn.
+
 #include "plot/session/extremum_search.h"
 
 #include <string>

@@ -1,3 +1,7 @@
+// Every graph is evaluated at the pointer's x, from the active one on in letter order, and the one
+// with the smallest distance in y is picked; of equal ones the first. A family is tried member by
+// member.
+
 #include "plot/session/graph_picker.h"
 
 #include <cmath>

@@ -1,3 +1,6 @@
+// Pans and zooms move the ends of the range by a sixth of its width. The wheel keeps the point
+// below the pointer where it is, with the factors that the zoom buttons have.
+
 #include "plot/session/navigation.h"
 
 #include <cmath>

@@ -1,3 +1,6 @@
+// A trace goes by one sample step in a direction and past whatever is undefined or out of view,
+// until it stands on the curve again or has left the range.
+
 #include "plot/session/trace.h"
 
 #include <array>

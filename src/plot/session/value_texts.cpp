@@ -1,3 +1,6 @@
+// What the box that asks for a value of x says, and what it answers: the y, or the cause why there
+// is none.
+
 #include "plot/session/value_texts.h"
 
 #include "base/language.h"
