@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "app/installation.h"
 #include "app/program.h"
 #include "forms/forms.h"
 #include "platform/desktop_services.h"
@@ -13,6 +14,15 @@ namespace {
 /// The command line as the one document that it names: blanks inside a path need no quotes.
 QString commandLine(const QApplication& application) {
   return application.arguments().mid(1).join(' ');
+}
+
+/// Makes an installed program's own folder the current one. The document, which may be named from
+/// where the program was started, as it reads from there.
+QString settle(const std::string& program_folder, const QString& document) {
+  if (!zel::isInstalledProgram(program_folder)) return document;
+  const std::string path = zel::fromCurrentFolder(document.toStdString());
+  zel::enterFolder(zel::userFolder());
+  return QString::fromStdString(path);
 }
 
 /// The process ends at once, whatever is still being drawn.
@@ -32,6 +42,7 @@ int main(int argc, char** argv) {
   const QFileInfo file(QApplication::applicationFilePath());
   const std::string folder = file.absolutePath().toStdString();
   zel::WidgetServices widgets(folder);
+  const QString document = settle(folder, commandLine(application));
   const zel::DesktopServices desktop = zel::makeDesktopServices(file.filePath().toStdString());
   zel::Program program({widgets.boxes, widgets.files, widgets.colours, widgets.help,
                         *desktop.registry, *desktop.browser, *desktop.mail, widgets.inputs,
@@ -41,7 +52,7 @@ int main(int argc, char** argv) {
 
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
-  zel::Forms forms(program, commandLine(application));
+  zel::Forms forms(program, document);
   forms.begin(step);
   return QApplication::exec();
 }

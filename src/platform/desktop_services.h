@@ -18,4 +18,8 @@ struct DesktopServices {
 /// own making.
 DesktopServices makeDesktopServices(const std::string& program_path);
 
+/// The folder, not always there yet, in which an installed program keeps what is the user's own:
+/// "zel" among the user's configurations. UTF-8.
+std::string userFolder();
+
 }  // namespace zel

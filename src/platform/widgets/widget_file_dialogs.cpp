@@ -25,6 +25,9 @@ std::string aboutFile(const std::string& path, const char* spanish, const char* 
 
 }  // namespace
 
+WidgetFileDialogs::WidgetFileDialogs(MessageBoxes& boxes)
+    : boxes_(boxes), folder_(QDir::currentPath().toStdString()) {}
+
 std::optional<std::string> WidgetFileDialogs::askOpen(std::string_view filter) {
   std::optional<std::string> path = ask(filter, Mode::open, {});
   while (path && !mayOpen(*path)) path = ask(filter, Mode::open, {});
@@ -80,7 +83,7 @@ std::optional<std::string> WidgetFileDialogs::ask(std::string_view filter, Mode 
   QStringList filters;
   for (const std::string& each : dialogFilters(filter)) filters << toQt(each);
   dialog->setNameFilters(filters);
-  dialog->setDirectory(folder_.empty() ? QDir::currentPath() : toQt(folder_));
+  dialog->setDirectory(toQt(folder_));
   if (!proposal.empty()) dialog->selectFile(toQt(proposal));
   const bool accepted = dialog->exec() == QDialog::Accepted;
   std::optional<std::string> path;

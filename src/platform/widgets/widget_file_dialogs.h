@@ -9,11 +9,11 @@
 namespace zel {
 
 /// The desktop's file dialogs over the active window. Each begins in the folder of the last choice,
-/// the first one in the current folder.
+/// the first one in the folder that was the current one when this was made.
 class WidgetFileDialogs : public FileDialogs {
  public:
   /// The boxes, which outlive the dialogs, tell of what is wrong with a choice.
-  explicit WidgetFileDialogs(MessageBoxes& boxes) : boxes_(boxes) {}
+  explicit WidgetFileDialogs(MessageBoxes& boxes);
 
   std::optional<std::string> askOpen(std::string_view filter) override;
   /// A name without a dot gets the ending of the filter.

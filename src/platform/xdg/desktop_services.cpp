@@ -1,7 +1,9 @@
 #include "platform/desktop_services.h"
 
+#include <QFileInfo>
 #include <QStandardPaths>
 
+#include "app/installation.h"
 #include "platform/xdg/xdg_browser.h"
 #include "platform/xdg/xdg_class_registry.h"
 #include "platform/xdg/xdg_mail_client.h"
@@ -10,8 +12,18 @@ namespace zel {
 
 DesktopServices makeDesktopServices(const std::string& program_path) {
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  return {std::make_unique<XdgClassRegistry>(data.toStdString(), program_path),
+  const QFileInfo program(QString::fromStdString(program_path));
+  // What a package has told the desktop for all users, nobody says again for one.
+  const Launcher publisher =
+      isInstalledProgram(program.absolutePath().toStdString()) ? Launcher() : launch;
+  return {std::make_unique<XdgClassRegistry>(data.toStdString(), program_path, publisher),
           std::make_unique<XdgBrowser>(), std::make_unique<XdgMailClient>()};
+}
+
+std::string userFolder() {
+  const QString configurations =
+      QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return configurations.toStdString() + "/zel";
 }
 
 }  // namespace zel

@@ -40,7 +40,7 @@ void XdgClassRegistry::setValue(Key key, const std::string& subkey, const std::s
   entries_.set(name, value);
   news_.insert(name);
   keepEntries();
-  publishCompleteTypes();
+  if (launcher_) publishCompleteTypes();
 }
 
 void XdgClassRegistry::keepEntries() const {

@@ -16,7 +16,8 @@ namespace zel {
 /// of another platform, so the program's real path and the built-in icons take their place.
 class XdgClassRegistry : public ClassRegistry {
  public:
-  /// The folder is the one of the user's data (XDG_DATA_HOME).
+  /// The folder is the one of the user's data (XDG_DATA_HOME). Without a launcher the desktop is
+  /// told nothing, and the entries are only kept.
   XdgClassRegistry(std::string data_folder, std::string program_path, Launcher launcher = launch);
 
   Key createKey(const std::string& name) override;

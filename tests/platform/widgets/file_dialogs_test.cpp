@@ -73,6 +73,11 @@ TEST_F(FileDialogsOfWidgets, OpenAnExistingFile) {
             folder_ / "old.zel");
 }
 
+TEST_F(FileDialogsOfWidgets, BeginWhereTheProgramWasStarted) {
+  const CurrentFolderGuard later(folder_ / "inner");
+  EXPECT_EQ(open({type("old.zel")}), folder_ / "old.zel");
+}
+
 TEST_F(FileDialogsOfWidgets, GiveNothingWhenCancelled) {
   EXPECT_EQ(open({kCancel}), std::nullopt);
   EXPECT_EQ(save({kCancel}), std::nullopt);

@@ -34,6 +34,14 @@ class ClassesOfAUser : public ::testing::Test {
   RecorderLauncher launched;
 };
 
+TEST_F(ClassesOfAUser, TellTheDesktopNothingWithoutALauncher) {
+  XdgClassRegistry registry(data, "/opt/zel/zel", Launcher());
+  registerZelDocuments(registry, {"C:\\zel", "zel"});
+  EXPECT_TRUE(exists("zel/classes"));
+  EXPECT_FALSE(exists("applications"));
+  EXPECT_FALSE(exists("mime"));
+}
+
 TEST_F(ClassesOfAUser, KeepsTheFourEntriesAsGiven) {
   registerDocuments();
   EXPECT_EQ(bytes("zel/classes"),

@@ -103,5 +103,15 @@ TEST_F(Registration, LetsTheDesktopOpenADocumentWithTheProgram) {
   EXPECT_EQ(bytesOf(program + ".said"), "1|" + document + "|" + home_.path().string());
 }
 
+TEST_F(Registration, LeavesToAPackageWhatAPackageHasDone) {
+  putBytes(home_ / "folder with blanks/zel.installed", "");
+  const DesktopServices services = makeDesktopServices(program);
+  registerZelDocuments(*services.registry, {"C:\\zel", "zel"});
+  EXPECT_TRUE(std::filesystem::exists(home_ / "share/zel/classes"));
+  EXPECT_FALSE(std::filesystem::exists(home_ / "share/applications"));
+}
+
+TEST_F(Registration, KnowsTheUsersOwnFolder) { EXPECT_EQ(userFolder(), home_ / "config/zel"); }
+
 }  // namespace
 }  // namespace zel::test
