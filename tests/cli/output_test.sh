@@ -23,7 +23,8 @@ check "make_examples runs" "$make_examples" "$work"
 for example in "$source_dir"/examples/*.zel; do
   check "$(basename "$example") is up to date" cmp "$example" "$work/$(basename "$example")"
 done
-check "there are six examples at least" test "$(ls "$source_dir"/examples/*.zel | wc -l)" -ge 6
+examples=("$source_dir"/examples/*.zel)
+check "there are six examples at least" test ${#examples[@]} -ge 6
 
 # An output that cannot be written is a failed job.
 "$cli" compile x >/dev/full 2>"$work/err"

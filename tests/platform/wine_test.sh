@@ -17,12 +17,12 @@ command -v x86_64-w64-mingw32-g++-posix >/dev/null || skip "there is no compiler
 cd "$root" || exit 1
 log=$(mktemp)
 folder=build/mingw-core
-{ [[ -f $folder/build.ninja ]] || cmake --preset mingw-core; } >"$log" 2>&1 &&
-  cmake --build "$folder" --target win32_probe >>"$log" 2>&1 || {
+if ! { { [[ -f $folder/build.ninja ]] || cmake --preset mingw-core; } &&
+  cmake --build "$folder" --target win32_probe; } >"$log" 2>&1; then
   cat "$log"
   rm -f "$log"
   exit 1
-}
+fi
 rm -f "$log"
 
 work=$(mktemp -d)
