@@ -1,7 +1,7 @@
 # zel_test_scripts()
 # Each *_test.sh below tests/, called with the path of zel-cli and the source folder; a script that
 # ends with 77 was skipped. Those of tests/cli need zel-cli; those of tests/house look at the
-# sources only; those of tests/platform belong to the builds that have the windows.
+# sources only; those of tests/platform and tests/packaging belong to the builds that have the windows.
 function(zel_test_scripts)
   file(GLOB_RECURSE scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}"
     "${CMAKE_CURRENT_SOURCE_DIR}/*_test.sh")
@@ -9,7 +9,7 @@ function(zel_test_scripts)
     list(FILTER scripts EXCLUDE REGEX "^cli/")
   endif()
   if(NOT ZEL_WITH_QT)
-    list(FILTER scripts EXCLUDE REGEX "^platform/")
+    list(FILTER scripts EXCLUDE REGEX "^(platform|packaging)/")
   endif()
   foreach(script IN LISTS scripts)
     string(REGEX REPLACE "_test\\.sh$" "" name "${script}")

@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Installs the Debian packages of the named groups that are missing, and nothing else:
-#   scripts/setup.sh build|test|wine|bench|fuzz|tidy|format|coverage...
+#   scripts/setup.sh build|test|package|wine|bench|fuzz|tidy|format|coverage...
 set -euo pipefail
 
 declare -A groups=(
   [build]="cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-translations-l10n
     libisal-dev pkg-config libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev"
-  [test]="cups-daemon desktop-file-utils g++-mingw-w64-x86-64-posix git imagemagick
-    libglib2.0-bin libxml2-utils locales openbox poppler-utils python3 shared-mime-info strace
-    x11-utils xclip xdg-utils xdotool xvfb"
+  [test]="appstream cups-daemon desktop-file-utils dpkg-dev fish g++-mingw-w64-x86-64-posix git
+    imagemagick libglib2.0-bin libxml2-utils lintian locales mandoc openbox poppler-utils python3
+    shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool xvfb zsh"
+  [package]="dpkg-dev gzip"
   [wine]="wine64"
   [bench]="gnuplot-nox libbenchmark-dev libmuparser-dev python3 x11-utils xvfb"
   [fuzz]="clang libclang-rt-14-dev"

@@ -1,0 +1,1 @@
+complete -c zel -f -a '(__fish_complete_suffix .zel)'

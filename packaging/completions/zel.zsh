@@ -1,0 +1,2 @@
+#compdef zel
+_arguments '*:document:_files -g "*.zel"'
