@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages of the named groups that are missing, and nothing else:
-#   scripts/setup.sh build|test|package|wine|bench|fuzz|tidy|format|coverage...
+#   scripts/setup.sh build|test|package|chroot|pictures|wine|bench|fuzz|tidy|format|coverage...
 set -euo pipefail
 
 declare -A groups=(
@@ -10,6 +10,8 @@ declare -A groups=(
     imagemagick libglib2.0-bin libxml2-utils lintian locales mandoc openbox poppler-utils python3
     shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool xvfb zsh"
   [package]="dpkg-dev gzip"
+  [chroot]="debootstrap"
+  [pictures]="librsvg2-bin"
   [wine]="wine64"
   [bench]="gnuplot-nox libbenchmark-dev libmuparser-dev python3 x11-utils xvfb"
   [fuzz]="clang libclang-rt-14-dev"

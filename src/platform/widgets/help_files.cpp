@@ -1,5 +1,7 @@
 #include "platform/widgets/help_files.h"
 
+#include <utility>
+
 #include "files/whole_file.h"
 
 namespace zel {
@@ -8,12 +10,12 @@ std::vector<std::string> helpFolders(const std::string& program_folder) {
   return {program_folder, program_folder + "/../share/zel/help", ZEL_HELP_SOURCE_DIR};
 }
 
-std::optional<std::string> readHelpFile(const std::vector<std::string>& folders,
-                                        const std::string& name) {
+std::optional<HelpFile> readHelpFile(const std::vector<std::string>& folders,
+                                     const std::string& name) {
   if (name.empty()) return std::nullopt;
   const std::string place = "/" + name;
   for (const std::string& folder : folders)
-    if (auto text = readWholeFile(folder + place)) return text;
+    if (auto text = readWholeFile(folder + place)) return HelpFile{*std::move(text), folder};
   return std::nullopt;
 }
 

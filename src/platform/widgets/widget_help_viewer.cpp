@@ -17,8 +17,8 @@ void WidgetHelpViewer::show(const std::string& help_file, int command) {
   if (command == kHelpClose && window_) window_->close();
   if (command != kHelpTopics) return;
   if (!window_) window_ = std::make_unique<HelpWindow>();
-  if (const auto text = readHelpFile(folders_, help_file))
-    window_->showText(*text);
+  if (const auto file = readHelpFile(folders_, help_file))
+    window_->showFile(*file);
   else
     window_->showMissing(help_file);
 }
