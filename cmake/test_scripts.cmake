@@ -1,12 +1,13 @@
 # zel_test_scripts()
 # Each *_test.sh below tests/, called with the path of zel-cli and the source folder; a script that
-# ends with 77 was skipped. Those of tests/cli need zel-cli; those of tests/house look at the
-# sources only; those of tests/platform and tests/packaging belong to the builds that have the windows.
+# ends with 77 was skipped. Those of tests/cli and tests/docs need zel-cli; those of tests/house look
+# at the sources only; those of tests/platform and tests/packaging belong to the builds that have the
+# windows.
 function(zel_test_scripts)
   file(GLOB_RECURSE scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}"
     "${CMAKE_CURRENT_SOURCE_DIR}/*_test.sh")
   if(NOT TARGET zel-cli)
-    list(FILTER scripts EXCLUDE REGEX "^cli/")
+    list(FILTER scripts EXCLUDE REGEX "^(cli|docs)/")
   endif()
   if(NOT ZEL_WITH_QT)
     list(FILTER scripts EXCLUDE REGEX "^(platform|packaging)/")
