@@ -18,11 +18,11 @@ QString commandLine(const QApplication& application) {
 
 /// Makes an installed program's own folder the current one. The document, which may be named from
 /// where the program was started, as it reads from there.
-QString settle(const std::string& program_folder, const QString& document) {
+std::string settle(const std::string& program_folder, const std::string& document) {
   if (!zel::isInstalledProgram(program_folder)) return document;
-  const std::string path = zel::fromCurrentFolder(document.toStdString());
+  const std::string path = zel::fromCurrentFolder(document);
   zel::enterFolder(zel::userFolder());
-  return QString::fromStdString(path);
+  return path;
 }
 
 /// The process ends at once, whatever is still being drawn.
@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
   const QFileInfo file(QApplication::applicationFilePath());
   const std::string folder = file.absolutePath().toStdString();
   zel::WidgetServices widgets(folder);
-  const QString document = settle(folder, commandLine(application));
+  const std::string document = settle(folder, commandLine(application).toStdString());
   const zel::DesktopServices desktop = zel::makeDesktopServices(file.filePath().toStdString());
   zel::Program program({widgets.boxes, widgets.files, widgets.colours, widgets.help,
                         *desktop.registry, *desktop.browser, *desktop.mail, widgets.inputs,
@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
 
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
-  zel::Forms forms(program, document);
+  zel::Forms forms(program, QString::fromStdString(document));
   forms.begin(step);
   return QApplication::exec();
 }
