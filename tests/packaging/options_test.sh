@@ -16,7 +16,7 @@ options() {
 }
 # commands: those of the help text.
 commands() {
-  sed -n '/^Subcommands:/,$s/^  \([a-z-]*\) .*/\1/p' | sort -u
+  sed -nE '/^(Subc|C)ommands:/,$s/^  ([a-z-]+) .*/\1/p' | sort -u
 }
 # compare WHAT WANTED FOUND
 compare() {
