@@ -4,10 +4,10 @@
 set -uo pipefail
 cli=$1
 cd "$2/packaging" || exit 1
-for tool in zsh fish man; do
+for tool in zsh fish mandoc; do
   command -v "$tool" >/dev/null || { echo "no $tool"; exit 77; }
 done
-export LC_ALL=C.UTF-8 MANWIDTH=200 MAN_KEEP_FORMATTING=
+export LC_ALL=C.UTF-8
 bad=0
 
 # options: the options of a help text, one a line.
@@ -68,7 +68,7 @@ for command in '' $known; do
 done
 
 for page in man/zel-cli.1 man/es/zel-cli.1; do
-  text=$(man -l "$page" 2>/dev/null | sed '/^EXAMPLES\|^EJEMPLOS/,$d')
+  text=$(mandoc -Tutf8 -Owidth=200 "$page" | sed -E 's/.\x08//g; /^(EXAMPLES|EJEMPLOS)/,$d')
   compare "options in $page" "$(sed '/^$/d' <<<"$all")" \
     "$(grep -oE '(^|[ [|,])(--[a-z-]+|-[a-z])\b' <<<"$text" | grep -oE -- '-.*')"
   for command in $known; do

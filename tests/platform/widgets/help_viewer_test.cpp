@@ -160,6 +160,15 @@ TEST_F(HelpOfWidgets, FollowsLinksToItsHeadings) {
   EXPECT_EQ(scrolled(), three);
 }
 
+TEST_F(HelpOfWidgets, FollowsLinksByTheKeyboard) {
+  showLongHelp();
+  ASSERT_EQ(window()->focusWidget(), &text());
+  QTest::keyClick(&text(), Qt::Key_Tab);
+  QTest::keyClick(&text(), Qt::Key_Return);
+  EXPECT_GT(scrolled(), 0);
+  EXPECT_TRUE(part<QPushButton>("CmdAtras").isEnabled());
+}
+
 TEST_F(HelpOfWidgets, HasLinksThatLeadToItsHeadings) {
   for (const char* const language : {"ES", "EN"}) {
     SetCurrentLanguage(language);
