@@ -67,20 +67,15 @@ std::string viewText(const MainView& view) {
   return text.append(kTerminator);
 }
 
-/// A character field that was never set has no text.
-std::string characterText(char character) {
-  return character == '\0' ? std::string() : std::string(1, character);
-}
-
 void appendGraph(const GraphDef& def, Lines& lines) {
   lines.line("[GRAFICO]");
   lines.line("[PROPIEDADES]");
-  lines.pair("nombre", characterText(def.nombre));
+  lines.pair("nombre", std::string(1, def.nombre));
   lines.pair("carpeta", def.carpeta);
   lines.pair("codigo", def.codigo);
   lines.pair("color", std::to_string(def.color));
   lines.pair("ecuacion", def.ecuacion);
-  lines.pair("tipo", characterText(def.tipo));
+  lines.pair("tipo", kindText(def));
   lines.line(kTerminator);
   lines.line("[PARAMETROS]");
   if (def.parameters) {

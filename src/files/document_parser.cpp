@@ -11,6 +11,7 @@
 #include <string>
 #include <utility>
 
+#include "base/code_page.h"
 #include "numbers/number_text.h"
 
 namespace zel {
@@ -81,10 +82,10 @@ std::optional<std::int32_t> toInt32(std::string_view text) {
   return value ? roundToInt32(*value) : std::nullopt;
 }
 
-/// The value of a field that holds one character; "?" for one beyond ASCII, '\0' for none.
-char firstCharacter(const std::string& text) {
-  if (text.empty()) return '\0';
-  return static_cast<unsigned char>(text[0]) < 0x80 ? text[0] : '?';
+/// The value of a field that holds one character of the code page; '\0' for none.
+char firstCharacter(std::string_view text) {
+  constexpr std::size_t kLongestCharacter = 3;
+  return text.empty() ? '\0' : toCodePage(text.substr(0, kLongestCharacter)).front();
 }
 
 std::string* textOf(MainView& view, std::string_view key) {

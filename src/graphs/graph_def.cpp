@@ -1,9 +1,14 @@
 #include "graphs/graph_def.h"
 
+#include "base/code_page.h"
 #include "graphs/kinds.h"
 #include "numbers/number_text.h"
 
 namespace zel {
+
+std::string kindText(const GraphDef& def) {
+  return def.tipo == '\0' ? std::string() : fromCodePage({&def.tipo, 1});
+}
 
 std::string parameter(const GraphDef& def, std::string_view key) {
   return def.parameters ? def.parameters->Item(key) : std::string();

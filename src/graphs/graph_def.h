@@ -20,11 +20,14 @@ struct GraphDef {
   std::string ecuacion;                    // the formula as the user sees it
   std::string codigo;                      // the compiled code of the main formula
   std::int32_t color = 0;                  // red in the low byte
-  char tipo = '\0';                        // the kind's letter; '\0' when there is none
+  char tipo = '\0';                        // a character of the documents' code page, '\0' for none
   bool defined = false;                    // the slot is in use
   std::string carpeta;                     // written to documents, never read back
   std::shared_ptr<Parameters> parameters;  // shared by all copies; null in an empty slot
 };
+
+/// The kind as text; empty when there is none. A kind that no graph has is kept all the same.
+std::string kindText(const GraphDef& def);
 
 /// The value of a parameter; empty when the graph has no such key.
 std::string parameter(const GraphDef& def, std::string_view key);

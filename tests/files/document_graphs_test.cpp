@@ -59,12 +59,18 @@ TEST_F(DocumentGraphs, StopsAtANameOutsideTheTable) {
     expectFailure(loadSampleWith("nombre=b", std::string("nombre=") + name), "", "a");
 }
 
-TEST_F(DocumentGraphs, TakesAnyKind) {
-  ASSERT_TRUE(loadSampleWith("tipo=F", "tipo="));
-  EXPECT_EQ(graphs.graph('a')->tipo, '\0');
-  ASSERT_TRUE(loadSampleWith("tipo=F", "tipo=\xF1"));
-  EXPECT_EQ(graphs.graph('a')->tipo, '?');
-  EXPECT_EQ(graphs.codeOf('a'), "");
+TEST_F(DocumentGraphs, TakesAnyKindAndGivesItBack) {
+  const std::pair<std::string, std::string> kinds[] = {{"", ""},   {"\xF1", "ñ"}, {"\x80", "€"},
+                                                       {"?", "?"}, {"=", "="},    {"f", "f"}};
+  for (const auto& [bytes, text] : kinds) {
+    ASSERT_TRUE(loadSampleWith("tipo=F", "tipo=" + bytes));
+    EXPECT_EQ(kindText(*graphs.graph('a')), text);
+    EXPECT_EQ(graphs.codeOf('a'), "");
+    EXPECT_EQ(saveDocument(path, view, graphs), "");
+    EXPECT_NE(bytesOf(path).find("\r\ntipo=" + bytes + "\r\n"), std::string::npos) << text;
+  }
+  ASSERT_TRUE(loadSampleWith("tipo=F", "tipo=\xF1\xE9"));
+  EXPECT_EQ(kindText(*graphs.graph('a')), "ñ");
 }
 
 TEST_F(DocumentGraphs, ConvertsColours) {

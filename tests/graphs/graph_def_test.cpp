@@ -14,6 +14,13 @@ GraphDef graphOf(char tipo, std::string ecuacion) {
   return def;
 }
 
+TEST(KindText, IsTheCharacterOfTheCodePage) {
+  EXPECT_EQ(kindText(graphOf('F', "")), "F");
+  EXPECT_EQ(kindText(graphOf('\xF1', "")), "ñ");
+  EXPECT_EQ(kindText(graphOf('\x80', "")), "€");
+  EXPECT_EQ(kindText(GraphDef()), "");
+}
+
 TEST(DisplayText, IsTheEquationForConicsAndParametricCurves) {
   for (const char tipo : std::string("CPHET"))
     EXPECT_EQ(displayText(graphOf(tipo, "b(0;0;3)")), "b(0;0;3)") << tipo;
