@@ -6,7 +6,7 @@ set -euo pipefail
 declare -A groups=(
   [build]="cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-translations-l10n
     libisal-dev pkg-config libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev"
-  [test]="appstream cups-daemon desktop-file-utils dpkg-dev fish g++-mingw-w64-x86-64-posix git
+  [test]="acl appstream cups-daemon desktop-file-utils dpkg-dev fish g++-mingw-w64-x86-64-posix git
     imagemagick libglib2.0-bin libxml2-utils lintian locales mandoc openbox poppler-utils python3
     shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool xvfb zsh"
   [package]="dpkg-dev gzip"

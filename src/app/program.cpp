@@ -1,11 +1,9 @@
 #include "app/program.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "app/messages.h"
 #include "base/language.h"
 #include "engine/self_test.h"
+#include "files/whole_file.h"
 
 namespace zel {
 namespace {
@@ -17,7 +15,9 @@ constexpr std::string_view kStartupFailed =
 }  // namespace
 
 StartStep startProgram(Program& program) {
-  const ConfigRead configuration = readConfig(program.configuration);
+  const ConfigRead configuration = readConfig(program.config_path, program.configuration);
+  // A first start, however early it ends, leaves nothing that a later one would take for damaged.
+  if (configuration != ConfigRead::read) removeEmptyFile(program.config_path);
   if (configuration == ConfigRead::damaged) {
     ShowAttention(program.services.boxes, Localize(kStartupFailed));
     return StartStep::ended;
@@ -36,19 +36,13 @@ StartStep startProgram(Program& program) {
 void chooseHelpFile(Program& program) { program.help_file = HelpFileName(); }
 
 void acceptLanguage(Program& program) {
-  writeConfig(program.configuration);
+  writeConfig(program.config_path, program.configuration);
   registerZelDocuments(program.services.registry, program.place);
-}
-
-void forgetFirstStart() {
-  std::error_code ignored;
-  if (std::filesystem::file_size(kConfigPath, ignored) == 0)
-    std::filesystem::remove(kConfigPath, ignored);
 }
 
 void shutDown(Program& program) {
   CloseHelp(program.services.help);
-  writeConfig(program.configuration);
+  writeConfig(program.config_path, program.configuration);
   program.end_process();
 }
 

@@ -7,6 +7,7 @@
 #include "app/form_params.h"
 #include "app/services.h"
 #include "engine/engine.h"
+#include "files/absolute_path.h"
 #include "files/config.h"
 #include "files/document.h"
 #include "graphs/graph_table.h"
@@ -21,6 +22,8 @@ struct Program {
 
   Services services;
   ProgramPlace place;
+  /// In the folder that was the current one at the start, wherever a file dialog goes later.
+  std::string config_path = absolutePath(kConfigFile);
   Configuration configuration;
   GraphTable graphs;
   Engine engine{[this](char letter) { return graphs.codeOf(letter); }};
@@ -42,7 +45,8 @@ enum class StartStep {
 };
 
 /// The steps of the start before any window: configuration, engine, graphs, arguments, self-test.
-/// A damaged configuration and a failed self-test show their message.
+/// A damaged configuration and a failed self-test show their message. The empty configuration file
+/// that the reading of a missing one makes is taken away at once.
 StartStep startProgram(Program& program);
 
 /// Sets the application's help file by the current language.
@@ -50,10 +54,6 @@ void chooseHelpFile(Program& program);
 
 /// The accept of the language choice: keeps the language and registers the document type.
 void acceptLanguage(Program& program);
-
-/// The language choice was closed without an accept: takes away the empty configuration file that
-/// this start has made, so that the next start asks again.
-void forgetFirstStart();
 
 /// Closes the help viewer, writes the configuration and ends the process at once.
 void shutDown(Program& program);

@@ -3,6 +3,7 @@
 
 #include "files/config.h"
 
+#include <optional>
 #include <string_view>
 
 #include "base/code_page.h"
@@ -33,23 +34,24 @@ std::string_view booleanText(bool value) {
 
 }  // namespace
 
-ConfigRead readConfig(Configuration& configuration) {
-  std::string text;
-  if (!readTextFile(kConfigPath, text)) return ConfigRead::missing;
-  if (text.empty()) return ConfigRead::damaged;
+ConfigRead readConfig(const std::string& path, Configuration& configuration) {
+  std::optional<std::string> content;
+  if (!readTextFile(path, content)) return ConfigRead::missing;
+  if (!content || content->empty()) return ConfigRead::damaged;
+  const std::string_view text = *content;
   const std::size_t first_end = text.find(kLineBreak);
   constexpr std::size_t kCodeSize = 2;
-  SetCurrentLanguage(firstCharacters(std::string_view(text).substr(0, first_end), kCodeSize));
-  if (first_end == std::string::npos) return ConfigRead::damaged;
-  const auto second = std::string_view(text).substr(first_end + kLineBreak.size());
+  SetCurrentLanguage(firstCharacters(text.substr(0, first_end), kCodeSize));
+  if (first_end == std::string_view::npos) return ConfigRead::damaged;
+  const auto second = text.substr(first_end + kLineBreak.size());
   configuration.confirm_deletion = readBoolean(second.substr(0, second.find(kLineBreak)));
   return ConfigRead::read;
 }
 
-bool writeConfig(const Configuration& configuration) {
+bool writeConfig(const std::string& path, const Configuration& configuration) {
   std::string text = CurrentLanguage();
   text.append(kLineBreak).append(booleanText(configuration.confirm_deletion));
-  return writeTextFile(kConfigPath, text);
+  return writeTextFile(path, text);
 }
 
 }  // namespace zel

@@ -6,6 +6,7 @@
 #include "files/document.h"
 
 #include <new>
+#include <optional>
 
 #include "base/code_page.h"
 #include "base/text.h"
@@ -122,17 +123,18 @@ std::string documentText(const MainView& view, const GraphTable& graphs) {
 bool loadDocument(const std::string& path, MainView& view, GraphTable& graphs,
                   DocumentHeader& header, std::string& message) {
   message.clear();
-  std::string text;
-  if (!readTextFile(path, text)) {
+  std::optional<std::string> text;
+  readTextFile(path, text);
+  if (!text) {
     message = messages::kCannotOpen;
     return false;
   }
-  if (!isCompatible(text)) {
+  if (!isCompatible(*text)) {
     message = messages::kNotCompatible;
     return false;
   }
   graphs.clearGraphs();
-  const ParseOutcome outcome = parseWithinMemory(text, view, graphs, header);
+  const ParseOutcome outcome = parseWithinMemory(*text, view, graphs, header);
   if (outcome == ParseOutcome::section_missing) message = messages::kUnexpectedFormat;
   return outcome == ParseOutcome::complete;
 }

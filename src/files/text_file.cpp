@@ -7,19 +7,16 @@
 
 namespace zel {
 
-bool readTextFile(const std::string& path, std::string& text) {
+bool readTextFile(const std::string& path, std::optional<std::string>& text) {
   if (!fileExists(path)) {
     createMissingFile(path);
     return false;
   }
   try {
-    const auto bytes = readWholeFile(path);
-    if (!bytes) return false;
-    text = fromCodePage(*bytes);
-    return true;
+    if (const auto bytes = readWholeFile(path)) text = fromCodePage(*bytes);
   } catch (const std::bad_alloc&) {
-    return false;
   }
+  return true;
 }
 
 bool writeTextFile(const std::string& path, std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -7,9 +8,9 @@
 /// character that the code page lacks is written as "?".
 namespace zel {
 
-/// Whether the file was there and could be read (memory for it included); otherwise `text` is
-/// unchanged. Reading a file that does not exist creates it empty: this is meant.
-bool readTextFile(const std::string& path, std::string& text);
+/// Whether there was something at the path. `text` is unchanged when that cannot be read (for want
+/// of memory included). Reading where there is nothing creates an empty file: this is meant.
+bool readTextFile(const std::string& path, std::optional<std::string>& text);
 
 /// Writes the text whole or not at all. Returns whether the file was there before the write, false
 /// after an error: a new file is written and gives false, and this is meant.

@@ -1,7 +1,6 @@
 // A file is replaced by writing a new one beside it and renaming that over it, so that whoever
 // looks at the path, at any moment and after a crash too, finds the older or the newer file whole.
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -10,6 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "files/file_access.h"
 #include "files/whole_file.h"
 
 namespace zel {
@@ -18,7 +18,6 @@ namespace {
 constexpr int kMostLinks = 40;
 constexpr int kMostTemporaryNames = 100;
 constexpr mode_t kModeOfNewFile = 0666;  // less what the umask takes away
-constexpr mode_t kPermissions = 07777;
 
 /// Owns a file descriptor.
 class Descriptor {
@@ -31,12 +30,12 @@ class Descriptor {
   explicit operator bool() const { return number_ >= 0; }
   int number() const { return number_; }
 
-  /// An interrupted close has closed all the same.
-  bool close() {
-    if (number_ < 0) return true;
-    const bool closed = ::close(number_) == 0 || errno == EINTR;
+  /// Returns 0 or the error. An interrupted close has closed all the same.
+  int close() {
+    if (number_ < 0) return 0;
+    const int error = ::close(number_) == 0 || errno == EINTR ? 0 : errno;
     number_ = -1;
-    return closed;
+    return error;
   }
 
  private:
@@ -60,13 +59,15 @@ bool isPath(const std::string& path) {
   return !path.empty() && path.find('\0') == std::string::npos;
 }
 
-bool writeAll(int number, std::string_view bytes) {
+/// Returns 0 or the error.
+int writeAll(int number, std::string_view bytes) {
   while (!bytes.empty()) {
     const auto written = retried([&] { return ::write(number, bytes.data(), bytes.size()); });
-    if (written <= 0) return false;
+    if (written < 0) return errno;
+    if (written == 0) return EIO;
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
-  return true;
+  return 0;
 }
 
 /// The folder with its "/", or nothing for the current one.
@@ -89,25 +90,6 @@ bool isSameFile(const struct stat& one, const struct stat& other) {
   return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
-/// The group's permissions must not pass to another group.
-mode_t permissionsFor(const struct stat& made, const struct stat& old) {
-  const mode_t mode = old.st_mode & kPermissions;
-  if (made.st_gid == old.st_gid) return mode;
-  const mode_t others = mode & S_IRWXO;
-  return (mode & ~static_cast<mode_t>(S_IRWXG | S_ISUID | S_ISGID)) | (mode & (others << 3));
-}
-
-/// Gives the new file the permissions of the old one, and its owner where that is allowed.
-bool takeAfter(int number, const struct stat& old) {
-  constexpr auto kSameUser = static_cast<uid_t>(-1);
-  static_cast<void>(::fchown(number, old.st_uid, old.st_gid) == 0 ||
-                    ::fchown(number, kSameUser, old.st_gid) == 0);
-  struct stat made {};
-  if (::fstat(number, &made) != 0) return false;
-  const mode_t mode = permissionsFor(made, old);
-  return (made.st_mode & kPermissions) == mode || ::fchmod(number, mode) == 0;
-}
-
 /// A new file in a folder, which goes away again unless it is renamed.
 class TemporaryFile {
  public:
@@ -119,18 +101,21 @@ class TemporaryFile {
     if (!path_.empty()) ::unlink(path_.c_str());
   }
 
-  explicit operator bool() const { return static_cast<bool>(descriptor_); }
+  /// 0, or why there is no file.
+  int error() const { return error_; }
   int number() const { return descriptor_.number(); }
 
-  bool finish() {
-    const bool synced = retried([this] { return ::fsync(descriptor_.number()); }) == 0;
-    return descriptor_.close() && synced;
+  /// Returns 0 or the error, and so does renameTo.
+  int finish() {
+    const int error = retried([this] { return ::fsync(descriptor_.number()); }) == 0 ? 0 : errno;
+    const int close_error = descriptor_.close();
+    return error == 0 ? close_error : error;
   }
 
-  bool renameTo(const std::string& path) {
-    if (::rename(path_.c_str(), path.c_str()) != 0) return false;
+  int renameTo(const std::string& path) {
+    if (::rename(path_.c_str(), path.c_str()) != 0) return errno;
     path_.clear();
-    return true;
+    return 0;
   }
 
  private:
@@ -139,13 +124,15 @@ class TemporaryFile {
     for (int i = 0; i < kMostTemporaryNames; ++i) {
       path_ = folder + ".zel-" + std::to_string(::getpid()) + "-" + std::to_string(i);
       const int number = openFile(path_, O_WRONLY | O_CREAT | O_EXCL, mode);
+      error_ = number >= 0 ? 0 : errno;
       if (number >= 0) return number;
-      if (errno != EEXIST) break;
+      if (error_ != EEXIST) break;
     }
     path_.clear();
     return -1;
   }
 
+  int error_ = 0;
   std::string path_;
   Descriptor descriptor_;
 };
@@ -157,49 +144,76 @@ void syncFolder(const std::string& folder) {
   if (descriptor) retried([&] { return ::fsync(descriptor.number()); });
 }
 
-/// `old` is null where there is no file yet.
-bool replaceFile(const std::string& path, std::string_view bytes, const struct stat* old) {
+/// `old` is null where there is no file yet. Returns 0 or the error.
+int replaceFile(const std::string& path, std::string_view bytes, const struct stat* old) {
   const std::string folder = folderOf(path);
   TemporaryFile file(folder, old == nullptr ? kModeOfNewFile : S_IRUSR | S_IWUSR);
-  if (!file || !writeAll(file.number(), bytes)) return false;
-  if (old != nullptr && !takeAfter(file.number(), *old)) return false;
-  if (!file.finish() || !file.renameTo(path)) return false;
-  syncFolder(folder);
-  return true;
+  int error = file.error();
+  if (error == 0) error = writeAll(file.number(), bytes);
+  if (error == 0 && old != nullptr) error = takeAfter(file.number(), path, *old);
+  if (error == 0) error = file.finish();
+  if (error == 0) error = file.renameTo(path);
+  if (error == 0) syncFolder(folder);
+  return error;
 }
 
-bool writeInPlace(const std::string& path, std::string_view bytes) {
-  Descriptor descriptor(openFile(path, O_WRONLY));
-  return descriptor && writeAll(descriptor.number(), bytes) && descriptor.close();
+WriteResult resultOf(bool existed, int error) { return {existed, error == 0, error}; }
+
+/// A link that leads nowhere is there: its target is not made.
+WriteResult writeNewFile(const std::string& path, std::string_view bytes) {
+  struct stat link {};
+  if (::lstat(path.c_str(), &link) == 0) return resultOf(false, ENOENT);
+  return resultOf(false, replaceFile(path, bytes, nullptr));
 }
 
-bool mayWrite(const std::string& path) {
-  return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+WriteResult replaceTarget(const std::string& path, std::string_view bytes, const struct stat& old) {
+  const auto target = followLinks(path);
+  if (!target) return resultOf(true, ELOOP);
+  struct stat found {};
+  if (::stat(target->c_str(), &found) != 0) return resultOf(true, errno);
+  if (!isSameFile(found, old)) return resultOf(true, ENOENT);
+  if (::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0) return resultOf(true, errno);
+  return resultOf(true, replaceFile(*target, bytes, &old));
+}
+
+/// A regular file, open for reading; nothing else is waited for, nor even opened where that can be
+/// told before.
+Descriptor openRegularFile(const std::string& path, struct stat& status) {
+  if (!isPath(path) || ::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+    return Descriptor(-1);
+  const int number = openFile(path, O_RDONLY | O_NONBLOCK);
+  if (number >= 0 && ::fstat(number, &status) == 0 && S_ISREG(status.st_mode))
+    return Descriptor(number);
+  const Descriptor other(number);
+  return Descriptor(-1);
 }
 
 }  // namespace
 
 bool fileExists(const std::string& path) {
   struct stat status {};
-  return isPath(path) && ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+  if (!isPath(path)) return false;
+  return ::lstat(path.c_str(), &status) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
 bool createMissingFile(const std::string& path) {
   if (!isPath(path)) return false;
-  Descriptor descriptor(openFile(path, O_WRONLY | O_CREAT, kModeOfNewFile));
-  return descriptor && descriptor.close();
+  Descriptor descriptor(openFile(path, O_WRONLY | O_CREAT | O_EXCL, kModeOfNewFile));
+  return descriptor && descriptor.close() == 0;
+}
+
+void removeEmptyFile(const std::string& path) {
+  struct stat status {};
+  const bool is_there = isPath(path) && ::lstat(path.c_str(), &status) == 0;
+  if (is_there && S_ISREG(status.st_mode) && status.st_size == 0) ::unlink(path.c_str());
 }
 
 std::optional<std::string> readWholeFile(const std::string& path) {
-  if (!isPath(path)) return std::nullopt;
-  const Descriptor descriptor(openFile(path, O_RDONLY));
   struct stat status {};
-  if (!descriptor || ::fstat(descriptor.number(), &status) != 0) return std::nullopt;
+  const Descriptor descriptor = openRegularFile(path, status);
+  if (!descriptor || status.st_size > static_cast<off_t>(kMaxWholeFile)) return std::nullopt;
   std::string bytes;
-  if (S_ISREG(status.st_mode)) {
-    if (status.st_size > static_cast<off_t>(kMaxWholeFile)) return std::nullopt;
-    bytes.reserve(static_cast<std::size_t>(status.st_size));
-  }
+  bytes.reserve(static_cast<std::size_t>(status.st_size));
   std::string block(std::size_t{1} << 16, '\0');
   for (;;) {
     const auto size =
@@ -212,20 +226,13 @@ std::optional<std::string> readWholeFile(const std::string& path) {
 }
 
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes) {
-  if (!isPath(path)) return {};
+  if (!isPath(path)) return resultOf(false, path.empty() ? ENOENT : EINVAL);
   struct stat old {};
-  const bool is_there = ::stat(path.c_str(), &old) == 0;
-  if (!is_there && errno != ENOENT) return {};
-  if (is_there && S_ISDIR(old.st_mode)) return {};
-  if (is_there && !S_ISREG(old.st_mode)) return {true, writeInPlace(path, bytes)};
-
-  const auto target = followLinks(path);
-  if (!target) return {is_there, false};
-  if (!is_there) return {false, replaceFile(*target, bytes, nullptr)};
-  struct stat found {};
-  const bool is_target = ::stat(target->c_str(), &found) == 0 && isSameFile(found, old);
-  if (!is_target || !mayWrite(*target)) return {true, false};
-  return {true, replaceFile(*target, bytes, &old)};
+  if (::stat(path.c_str(), &old) != 0)
+    return errno == ENOENT ? writeNewFile(path, bytes) : resultOf(false, errno);
+  if (S_ISDIR(old.st_mode)) return resultOf(false, EISDIR);
+  if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
+  return replaceTarget(path, bytes, old);
 }
 
 }  // namespace zel

@@ -16,6 +16,9 @@ namespace {
 constexpr DWORD kMostAtOnce = DWORD{1} << 20;
 constexpr int kMostTemporaryNames = 100;
 
+/// Right behind the call that may have failed.
+DWORD errorUnless(bool succeeded) { return succeeded ? NO_ERROR : GetLastError(); }
+
 /// Owns a file handle.
 class File {
  public:
@@ -27,11 +30,12 @@ class File {
   explicit operator bool() const { return handle_ != INVALID_HANDLE_VALUE; }
   HANDLE handle() const { return handle_; }
 
-  bool close() {
-    if (handle_ == INVALID_HANDLE_VALUE) return true;
-    const bool closed = CloseHandle(handle_) != 0;
+  /// Returns no error or the system's, as all below do that return a number.
+  DWORD close() {
+    if (handle_ == INVALID_HANDLE_VALUE) return NO_ERROR;
+    const DWORD error = errorUnless(CloseHandle(handle_) != 0);
     handle_ = INVALID_HANDLE_VALUE;
-    return closed;
+    return error;
   }
 
  private:
@@ -53,24 +57,28 @@ std::wstring widePath(const std::string& path) {
 }
 
 HANDLE openFile(const std::wstring& path, DWORD access, DWORD disposition,
-                DWORD share = FILE_SHARE_READ) {
-  return CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
-                     nullptr);
+                DWORD share = FILE_SHARE_READ, DWORD flags = 0) {
+  return CreateFileW(path.c_str(), access, share, nullptr, disposition,
+                     FILE_ATTRIBUTE_NORMAL | flags, nullptr);
 }
 
-bool writeAll(HANDLE handle, std::string_view bytes) {
+DWORD writeAll(HANDLE handle, std::string_view bytes) {
   while (!bytes.empty()) {
     const auto count = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kMostAtOnce));
     DWORD written = 0;
-    if (WriteFile(handle, bytes.data(), count, &written, nullptr) == 0 || written == 0)
-      return false;
+    if (WriteFile(handle, bytes.data(), count, &written, nullptr) == 0) return GetLastError();
+    if (written == 0) return ERROR_WRITE_FAULT;
     bytes.remove_prefix(written);
   }
-  return true;
+  return NO_ERROR;
+}
+
+bool isMissing(DWORD error) {
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
 bool isThere(const std::wstring& path) {
-  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES || !isMissing(GetLastError());
 }
 
 /// The folder with its separator, or nothing for the current one.
@@ -78,23 +86,25 @@ std::wstring folderOf(const std::wstring& path) {
   return path.substr(0, path.find_last_of(L"\\/:") + 1);
 }
 
-/// The file that an existing path leads to, links followed; nothing when it may not be written.
-/// `is_on_disk` is false for a device or pipe.
-std::wstring writableTarget(const std::wstring& path, bool& is_on_disk) {
+/// Puts the file that an existing path leads to, links followed, into `target`: one on a disk that
+/// may be written.
+DWORD findTarget(const std::wstring& path, std::wstring& target) {
   const File file(openFile(path, GENERIC_WRITE, OPEN_EXISTING, FILE_SHARE_READ | FILE_SHARE_WRITE));
-  if (!file) return {};
-  is_on_disk = GetFileType(file.handle()) == FILE_TYPE_DISK;
+  if (!file) return GetLastError();
+  if (GetFileType(file.handle()) != FILE_TYPE_DISK) return ERROR_NOT_SUPPORTED;
+  target = path;
   const DWORD attributes = GetFileAttributesW(path.c_str());
-  const bool is_link =
-      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-  if (!is_on_disk || !is_link) return path;
+  if (attributes == INVALID_FILE_ATTRIBUTES) return GetLastError();
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return NO_ERROR;
   const DWORD size = GetFinalPathNameByHandleW(file.handle(), nullptr, 0, FILE_NAME_NORMALIZED);
-  std::wstring target(size, L'\0');
+  if (size == 0) return GetLastError();
+  target.resize(size);
   const DWORD written =
       GetFinalPathNameByHandleW(file.handle(), target.data(), size, FILE_NAME_NORMALIZED);
-  if (written == 0 || written >= size) return {};
+  if (written == 0) return GetLastError();
+  if (written >= size) return ERROR_INSUFFICIENT_BUFFER;  // it was renamed meanwhile
   target.resize(written);
-  return target;
+  return NO_ERROR;
 }
 
 /// A new file in a folder, which goes away again unless it is put in another's place.
@@ -108,25 +118,28 @@ class TemporaryFile {
     if (!path_.empty()) DeleteFileW(path_.c_str());
   }
 
-  explicit operator bool() const { return static_cast<bool>(file_); }
+  /// No error, or why there is no file.
+  DWORD error() const { return error_; }
   HANDLE handle() const { return file_.handle(); }
 
-  bool finish() {
-    const bool flushed = FlushFileBuffers(file_.handle()) != 0;
-    return file_.close() && flushed;
+  DWORD finish() {
+    const DWORD error = errorUnless(FlushFileBuffers(file_.handle()) != 0);
+    const DWORD close_error = file_.close();
+    return error == NO_ERROR ? close_error : error;
   }
 
   /// Replacing keeps the attributes and the access list of the older file, where the file system
   /// can do that.
-  bool moveTo(const std::wstring& path, bool existed) {
+  DWORD moveTo(const std::wstring& path, bool existed) {
     constexpr DWORD kMove = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    const bool moved =
-        (existed && ReplaceFileW(path.c_str(), path_.c_str(), nullptr,
-                                 REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0) ||
-        MoveFileExW(path_.c_str(), path.c_str(), kMove) != 0;
+    const bool replaced =
+        existed && ReplaceFileW(path.c_str(), path_.c_str(), nullptr,
+                                REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0;
+    const DWORD error =
+        replaced ? NO_ERROR : errorUnless(MoveFileExW(path_.c_str(), path.c_str(), kMove) != 0);
     // A replacement that broke off may have taken the older file away: then this is the only one.
-    if (moved || (existed && !isThere(path))) path_.clear();
-    return moved;
+    if (error == NO_ERROR || (existed && !isThere(path))) path_.clear();
+    return error;
   }
 
  private:
@@ -135,41 +148,73 @@ class TemporaryFile {
     for (int i = 0; i < kMostTemporaryNames; ++i) {
       path_ = start + std::to_wstring(i);
       const HANDLE handle = openFile(path_, GENERIC_WRITE, CREATE_NEW, 0);
-      if (handle != INVALID_HANDLE_VALUE) return handle;
-      if (GetLastError() != ERROR_FILE_EXISTS) break;
+      error_ = errorUnless(handle != INVALID_HANDLE_VALUE);
+      if (error_ == NO_ERROR) return handle;
+      if (error_ != ERROR_FILE_EXISTS) break;
     }
     path_.clear();
     return INVALID_HANDLE_VALUE;
   }
 
+  DWORD error_ = NO_ERROR;
   std::wstring path_;
   File file_;
 };
 
-bool replaceFile(const std::wstring& path, std::string_view bytes, bool existed) {
+DWORD replaceFile(const std::wstring& path, std::string_view bytes, bool existed) {
   TemporaryFile file(folderOf(path));
-  return file && writeAll(file.handle(), bytes) && file.finish() && file.moveTo(path, existed);
+  DWORD error = file.error();
+  if (error == NO_ERROR) error = writeAll(file.handle(), bytes);
+  if (error == NO_ERROR) error = file.finish();
+  if (error == NO_ERROR) error = file.moveTo(path, existed);
+  return error;
 }
 
-bool writeInPlace(const std::wstring& path, std::string_view bytes) {
-  File file(openFile(path, GENERIC_WRITE, OPEN_EXISTING, FILE_SHARE_READ | FILE_SHARE_WRITE));
-  return file && writeAll(file.handle(), bytes) && file.close();
+WriteResult resultOf(bool existed, DWORD error) {
+  return {existed, error == NO_ERROR, static_cast<int>(error)};
+}
+
+std::optional<std::string> readAll(HANDLE handle) {
+  LARGE_INTEGER size{};
+  if (GetFileSizeEx(handle, &size) == 0) return std::nullopt;
+  if (size.QuadPart > static_cast<std::int64_t>(kMaxWholeFile)) return std::nullopt;
+  std::string bytes;
+  bytes.reserve(static_cast<std::size_t>(size.QuadPart));
+  std::string block(std::size_t{1} << 16, '\0');
+  for (;;) {
+    DWORD count = 0;
+    if (ReadFile(handle, block.data(), static_cast<DWORD>(block.size()), &count, nullptr) == 0)
+      return std::nullopt;
+    if (count == 0) return bytes;
+    if (bytes.size() + count > kMaxWholeFile) return std::nullopt;
+    bytes.append(block, 0, count);
+  }
 }
 
 }  // namespace
 
 bool fileExists(const std::string& path) {
   const std::wstring wide = widePath(path);
-  if (wide.empty()) return false;
-  const DWORD attributes = GetFileAttributesW(wide.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+  return !wide.empty() && isThere(wide);
 }
 
 bool createMissingFile(const std::string& path) {
   const std::wstring wide = widePath(path);
   if (wide.empty()) return false;
-  File file(openFile(wide, GENERIC_WRITE, OPEN_ALWAYS));
-  return file && file.close();
+  File file(
+      openFile(wide, GENERIC_WRITE, CREATE_NEW, FILE_SHARE_READ, FILE_FLAG_OPEN_REPARSE_POINT));
+  return file && file.close() == NO_ERROR;
+}
+
+void removeEmptyFile(const std::string& path) {
+  const std::wstring wide = widePath(path);
+  WIN32_FILE_ATTRIBUTE_DATA found{};
+  if (wide.empty() || GetFileAttributesExW(wide.c_str(), GetFileExInfoStandard, &found) == 0)
+    return;
+  constexpr DWORD kNotRegular = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+  if ((found.dwFileAttributes & kNotRegular) == 0 && found.nFileSizeHigh == 0 &&
+      found.nFileSizeLow == 0)
+    DeleteFileW(wide.c_str());
 }
 
 std::optional<std::string> readWholeFile(const std::string& path) {
@@ -177,36 +222,22 @@ std::optional<std::string> readWholeFile(const std::string& path) {
   if (wide.empty()) return std::nullopt;
   const File file(openFile(wide, GENERIC_READ, OPEN_EXISTING,
                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE));
-  if (!file) return std::nullopt;
-  std::string bytes;
-  LARGE_INTEGER size{};
-  if (GetFileSizeEx(file.handle(), &size) != 0) {
-    if (size.QuadPart > static_cast<std::int64_t>(kMaxWholeFile)) return std::nullopt;
-    bytes.reserve(static_cast<std::size_t>(size.QuadPart));
-  }
-  std::string block(std::size_t{1} << 16, '\0');
-  for (;;) {
-    DWORD count = 0;
-    const bool done = ReadFile(file.handle(), block.data(), static_cast<DWORD>(block.size()),
-                               &count, nullptr) != 0;
-    if (!done && GetLastError() != ERROR_BROKEN_PIPE) return std::nullopt;
-    if (!done || count == 0) return bytes;
-    if (bytes.size() + count > kMaxWholeFile) return std::nullopt;
-    bytes.append(block, 0, count);
-  }
+  if (!file || GetFileType(file.handle()) != FILE_TYPE_DISK) return std::nullopt;
+  return readAll(file.handle());
 }
 
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes) {
   const std::wstring wide = widePath(path);
-  if (wide.empty()) return {};
+  if (wide.empty()) return resultOf(false, ERROR_INVALID_NAME);
   const DWORD attributes = GetFileAttributesW(wide.c_str());
-  const bool is_there = attributes != INVALID_FILE_ATTRIBUTES;
-  if (is_there && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return {};
-  bool is_on_disk = true;
-  const std::wstring target = is_there ? writableTarget(wide, is_on_disk) : wide;
-  if (target.empty()) return {is_there, false};
-  if (!is_on_disk) return {true, writeInPlace(target, bytes)};
-  return {is_there, replaceFile(target, bytes, is_there)};
+  if (attributes == INVALID_FILE_ATTRIBUTES) {
+    const DWORD error = GetLastError();
+    return resultOf(false, isMissing(error) ? replaceFile(wide, bytes, false) : error);
+  }
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return resultOf(false, ERROR_ACCESS_DENIED);
+  std::wstring target;
+  const DWORD error = findTarget(wide, target);
+  return resultOf(true, error == NO_ERROR ? replaceFile(target, bytes, true) : error);
 }
 
 }  // namespace zel

@@ -35,10 +35,7 @@ void Forms::chooseLanguage() {
     showPresentation();
     chooseHelpFile(program_);
   };
-  idioma_->refused = [this] {
-    forgetFirstStart();
-    program_.end_process();
-  };
+  idioma_->refused = [this] { program_.end_process(); };
   idioma_->showForm();
 }
 

@@ -10,9 +10,56 @@ class Start : public ProgramTest {};
 
 TEST_F(Start, WithoutAConfigurationIsTheFirstOne) {
   EXPECT_EQ(startProgram(program), StartStep::first_start);
-  EXPECT_TRUE(std::filesystem::exists("config.ini"));
-  EXPECT_EQ(bytesOf("config.ini"), "");
   EXPECT_TRUE(services.boxes.shown.empty());
+}
+
+TEST_F(Start, ThatIsTheFirstOneLeavesNothingBeforeItsLanguageIsAccepted) {
+  for (int start = 0; start < 3; ++start) {
+    EXPECT_EQ(startProgram(program), StartStep::first_start);
+    EXPECT_FALSE(std::filesystem::exists("config.ini"));
+  }
+  Program meanwhile{services.services()};
+  EXPECT_EQ(startProgram(meanwhile), StartStep::first_start);
+  acceptLanguage(meanwhile);
+  EXPECT_EQ(startProgram(program), StartStep::presentation);
+}
+
+TEST_F(Start, AfterOneThatWasKilledBesideItsEmptyFileSaysSoOnceAndAsksAgain) {
+  putBytes("config.ini", "");
+  EXPECT_EQ(startProgram(program), StartStep::ended);
+  EXPECT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(startProgram(program), StartStep::first_start);
+}
+
+TEST_F(Start, EndsOnAConfigurationThatIsThereAndCannotBeRead) {
+  std::filesystem::create_directory("config.ini");
+  EXPECT_EQ(startProgram(program), StartStep::ended);
+  EXPECT_EQ(services.boxes.shown,
+            std::vector<Box>{attention("Un error en la configuración impidió que el programa se "
+                                       "inicie correctamente.")});
+  EXPECT_TRUE(std::filesystem::is_directory("config.ini"));
+}
+
+TEST_F(Start, KeepsADamagedConfigurationThatHoldsAnything) {
+  putBytes("config.ini", "EN");
+  EXPECT_EQ(startProgram(program), StartStep::ended);
+  EXPECT_EQ(bytesOf("config.ini"), "EN");
+}
+
+TEST_F(Start, KeepsItsConfigurationInTheFolderOfTheStart) {
+  const std::string start = std::filesystem::current_path().string();
+  const TemporaryFolder elsewhere;
+  {
+    const CurrentFolderGuard moved(elsewhere.path());
+    EXPECT_EQ(startProgram(program), StartStep::first_start);
+    SetCurrentLanguage("EN");
+    acceptLanguage(program);
+    EXPECT_EQ(bytesOf(start + "/config.ini").substr(0, 4), "EN\r\n");
+    SetCurrentLanguage("ES");
+    shutDown(program);
+  }
+  EXPECT_EQ(bytesOf("config.ini").substr(0, 4), "ES\r\n");
+  EXPECT_EQ(elsewhere.names(), std::set<std::string>{});
 }
 
 TEST_F(Start, WithAConfigurationGoesOnToThePresentation) {
@@ -57,15 +104,6 @@ TEST_F(Start, KeepsTheChosenLanguageAndRegistersDocuments) {
   EXPECT_EQ(bytesOf("config.ini").substr(0, 4), "EN\r\n");
   EXPECT_EQ(services.registry.values.size(), 4u);
   EXPECT_EQ(startProgram(program), StartStep::presentation);
-}
-
-TEST_F(Start, ForgetsAFirstStartThatWasNotAccepted) {
-  startProgram(program);
-  forgetFirstStart();
-  EXPECT_FALSE(std::filesystem::exists("config.ini"));
-  putBytes("config.ini", "ES\r\nFalso");
-  forgetFirstStart();
-  EXPECT_TRUE(std::filesystem::exists("config.ini"));
 }
 
 TEST_F(Start, ChoosesTheHelpFileByTheLanguage) {

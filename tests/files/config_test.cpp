@@ -14,22 +14,21 @@ namespace {
 class Config : public ::testing::Test {
  protected:
   ConfigRead read(std::string_view bytes) {
-    putBytes(path_, bytes);
-    return readConfig(configuration);
+    putBytes(path, bytes);
+    return readConfig(path, configuration);
   }
 
   std::string written() {
-    writeConfig(configuration);
-    return bytesOf(path_);
+    writeConfig(path, configuration);
+    return bytesOf(path);
   }
 
   Configuration configuration;
   TemporaryFolder folder;
+  std::string path = folder / kConfigFile;
 
  private:
-  CurrentFolderGuard current_{folder.path()};
   LanguageGuard language_{"ES"};
-  std::string path_ = folder / "config.ini";
 
  protected:
   EnvironmentGuard all{"LC_ALL", "es_ES.UTF-8"};
@@ -38,7 +37,7 @@ class Config : public ::testing::Test {
 TEST_F(Config, CreatesTheFileEmptyAtTheFirstStart) {
   configuration.confirm_deletion = true;
   SetCurrentLanguage("EN");
-  EXPECT_EQ(readConfig(configuration), ConfigRead::missing);
+  EXPECT_EQ(readConfig(path, configuration), ConfigRead::missing);
   EXPECT_EQ(CurrentLanguage(), "EN");
   EXPECT_TRUE(configuration.confirm_deletion);
   EXPECT_EQ(folder.names(), std::set<std::string>{"config.ini"});
@@ -46,8 +45,21 @@ TEST_F(Config, CreatesTheFileEmptyAtTheFirstStart) {
 }
 
 TEST_F(Config, IsDamagedAtTheStartAfterAFirstOneThatWasBrokenOff) {
-  EXPECT_EQ(readConfig(configuration), ConfigRead::missing);
-  EXPECT_EQ(readConfig(configuration), ConfigRead::damaged);
+  EXPECT_EQ(readConfig(path, configuration), ConfigRead::missing);
+  EXPECT_EQ(readConfig(path, configuration), ConfigRead::damaged);
+}
+
+TEST_F(Config, IsDamagedWhenWhatIsThereCannotBeRead) {
+  std::filesystem::create_directory(path);
+  SetCurrentLanguage("EN");
+  configuration.confirm_deletion = true;
+  EXPECT_EQ(readConfig(path, configuration), ConfigRead::damaged);
+  EXPECT_EQ(CurrentLanguage(), "EN");
+  EXPECT_TRUE(configuration.confirm_deletion);
+}
+
+TEST_F(Config, IsMissingWhereNoneCanBeMade) {
+  EXPECT_EQ(readConfig(folder / "missing/config.ini", configuration), ConfigRead::missing);
 }
 
 TEST_F(Config, ReadsLanguageAndSetting) {
@@ -114,8 +126,8 @@ TEST_F(Config, WritesTheSettingInTheSystemsLanguage) {
 }
 
 TEST_F(Config, ReturnsWhetherTheFileWasThere) {
-  EXPECT_FALSE(writeConfig(configuration));
-  EXPECT_TRUE(writeConfig(configuration));
+  EXPECT_FALSE(writeConfig(path, configuration));
+  EXPECT_TRUE(writeConfig(path, configuration));
 }
 
 TEST_F(Config, ReadsWhatItWroteInEitherLanguage) {
@@ -123,9 +135,9 @@ TEST_F(Config, ReadsWhatItWroteInEitherLanguage) {
     const EnvironmentGuard guard("LC_ALL", system);
     for (const bool confirm : {true, false}) {
       SetCurrentLanguage("EN");
-      writeConfig({confirm});
+      writeConfig(path, {confirm});
       SetCurrentLanguage("ES");
-      EXPECT_EQ(readConfig(configuration), ConfigRead::read);
+      EXPECT_EQ(readConfig(path, configuration), ConfigRead::read);
       EXPECT_EQ(configuration, Configuration{confirm});
       EXPECT_EQ(CurrentLanguage(), "EN");
     }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A save that is killed or fails at any of its system calls leaves the older or the newer document
-# whole; a failure leaves nothing else behind. config.ini and the pictures of zel-cli are written by
+# whole, and lets nobody use it who might not; a failure leaves nothing else behind. config.ini and the pictures of zel-cli are written by
 # the same procedure (src/files/whole_file_posix.cpp), so that this speaks for them too.
 set -uo pipefail
 export LC_ALL=C ASAN_OPTIONS=detect_leaks=0
@@ -38,6 +38,13 @@ prepare() {
   rm -rf target
   mkdir target
   [[ $scenario == new ]] || install -m 640 old.zel target/out.zel
+  [[ $scenario != listed ]] || setfacl -m "$list" target/out.zel
+}
+
+# Whether the document has its list still, or is its owner's alone.
+is_guarded() {
+  [[ $(getfacl --omit-header --numeric target/out.zel) == "$guarded" ]] ||
+    [[ $(stat -c %a target/out.zel) == 600 ]]
 }
 
 save() {
@@ -52,7 +59,7 @@ calls_of_the_save() {
   awk -F'(' '
     /^[a-z]/ { count[$1]++ }
     /"target\// && $1 != "execve" { inside = 1 }
-    inside && $1 ~ /^(open|openat|stat|lstat|newfstatat|statx|fstat|readlink|readlinkat|access|faccessat|faccessat2|write|fchown|fchmod|fsync|close|rename|renameat|renameat2|unlink)$/ {
+    inside && $1 ~ /^(open|openat|stat|lstat|newfstatat|statx|fstat|[fl]?(get|set|list|remove)xattr|readlink|readlinkat|access|faccessat|faccessat2|write|fchown|fchmod|fsync|close|rename|renameat|renameat2|unlink)$/ {
       print $1, count[$1]
     }' trace
 }
@@ -62,6 +69,7 @@ after() {
   local status=$1 what=$2 others
   if [[ $status -eq 0 ]]; then
     cmp -s target/out.zel new.zel || complain "$what: the new document is not there"
+    [[ $scenario != listed ]] || is_guarded || complain "$what: $(getfacl target/out.zel)"
   elif [[ $scenario == new ]]; then
     [[ ! -e target/out.zel ]] || complain "$what: there is a document"
   else
@@ -91,8 +99,8 @@ kill_at() {
   prepare
   { strace -o /dev/null -e trace="$call" -e inject="$call:signal=SIGKILL:when=$occurrence" \
     "$zel" resave source.zel target/out.zel; } >/dev/null 2>&1
-  if [[ -e target/out.zel || $scenario == over ]]; then
-    cmp -s target/out.zel new.zel || { [[ $scenario == over ]] && cmp -s target/out.zel old.zel; } ||
+  if [[ -e target/out.zel || $scenario != new ]]; then
+    cmp -s target/out.zel new.zel || { [[ $scenario != new ]] && cmp -s target/out.zel old.zel; } ||
       complain "$what: neither document is there whole"
   fi
   # What a kill leaves behind does not stand in the way of the next save.
@@ -104,7 +112,17 @@ document 1 >old.zel
 document 2 >source.zel
 "$zel" resave source.zel new.zel || skip "$zel cannot save a document"
 
-for scenario in over new; do
+scenarios=(over new)
+list=u:1234:r,g::-,o::-
+scenario=listed
+if prepare 2>/dev/null; then
+  scenarios+=(listed)
+  guarded=$(getfacl --omit-header --numeric target/out.zel)
+else
+  echo "no access control lists here"
+fi
+
+for scenario in "${scenarios[@]}"; do
   calls=$(calls_of_the_save) || complain "$scenario: the save failed under strace"
   [[ $calls == *rename* ]] || complain "$scenario: no rename was seen: $calls"
   while read -r call occurrence <&3; do
@@ -124,6 +142,8 @@ done
 [[ -n ${failed_at["EIO rename"]:-}${failed_at["EIO renameat2"]:-} ]] || complain "EIO at rename was no failure"
 [[ -n ${failed_at["ENOSPC openat"]:-}${failed_at["ENOSPC open"]:-} ]] || complain "ENOSPC at open was no failure"
 [[ -n ${failed_at["EIO fchmod"]:-} ]] || complain "EIO at fchmod was no failure"
+[[ ${#scenarios[@]} -lt 3 || -n ${survived_at["ENOSPC fsetxattr"]:-} ]] ||
+  complain "no list was set"
 for call in "${!failed_at[@]}"; do
   [[ $call != EINTR* ]] || complain "$call was a failure"
 done

@@ -12,7 +12,7 @@ class TextFile : public ::testing::Test {
  protected:
   TemporaryFolder folder;
   std::string path = folder / "file.txt";
-  std::string text = "before";
+  std::optional<std::string> text = "before";
 };
 
 TEST_F(TextFile, ReadsTheWholeTextInItsCodePage) {
@@ -37,14 +37,18 @@ TEST_F(TextFile, CreatesAMissingFileByReadingIt) {
   EXPECT_TRUE(readTextFile(path, text));
 }
 
-TEST_F(TextFile, CannotReadAFolderNorBelowAFileOrAMissingFolder) {
+TEST_F(TextFile, CannotReadBelowAFileNorInAMissingFolder) {
   putBytes(path, "x");
-  for (const std::string& bad :
-       {folder.path().string(), path + "/below", folder / "missing/file", std::string()}) {
+  for (const std::string& bad : {path + "/below", folder / "missing/file", std::string()}) {
     EXPECT_FALSE(readTextFile(bad, text)) << bad;
     EXPECT_EQ(text, "before");
   }
   EXPECT_EQ(folder.names(), std::set<std::string>{"file.txt"});
+}
+
+TEST_F(TextFile, ThatIsAFolderIsThereAndCannotBeRead) {
+  EXPECT_TRUE(readTextFile(folder.path().string(), text));
+  EXPECT_EQ(text, "before");
 }
 
 TEST_F(TextFile, WritesTheTextInItsCodePage) {

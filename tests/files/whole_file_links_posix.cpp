@@ -1,13 +1,18 @@
 // What POSIX file systems know beside names and bytes: links, permissions, owners, pipes, devices.
 
-#include <thread>
+#include <cerrno>
+#include <csignal>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
+#include <sys/un.h>
 #include <unistd.h>
 
+#include "child_posix.h"
+#include "files/absolute_path.h"
 #include "files/text_file.h"
 #include "files/whole_file.h"
 #include "support/temporary_folder.h"
@@ -49,28 +54,33 @@ TEST_F(WholeFileOnPosix, KeepsALinkAndReplacesItsTarget) {
   EXPECT_EQ(folder.names(), (std::set<std::string>{"absolute", "chain", "relative", "sub"}));
 }
 
-TEST_F(WholeFileOnPosix, CreatesTheTargetOfADanglingLink) {
+TEST_F(WholeFileOnPosix, DoesNotCreateTheTargetOfADanglingLink) {
   link("target", "link");
-  const WriteResult result = writeWholeFile(folder / "link", "new");
-  EXPECT_FALSE(result.existed);
-  EXPECT_TRUE(result.written);
-  EXPECT_TRUE(fs::is_symlink(folder / "link"));
-  EXPECT_EQ(bytesOf(folder / "target"), "new");
+  link("link", "chain");
+  for (const char* const name : {"link", "chain"}) {
+    EXPECT_EQ(writeWholeFile(folder / name, "new"), (WriteResult{false, false, ENOENT}));
+    EXPECT_FALSE(createMissingFile(folder / name));
+    removeEmptyFile(folder / name);
+    std::optional<std::string> text = "before";
+    EXPECT_TRUE(readTextFile(folder / name, text));
+    EXPECT_EQ(text, "before");
+  }
+  EXPECT_EQ(folder.names(), (std::set<std::string>{"chain", "link"}));
 }
 
-TEST_F(WholeFileOnPosix, CreatesTheTargetOfADanglingLinkByReadingIt) {
+TEST_F(WholeFileOnPosix, TakesALinkToAnEmptyFileNotAway) {
+  putBytes(folder / "target", "");
   link("target", "link");
-  std::string text = "before";
-  EXPECT_FALSE(readTextFile(folder / "link", text));
-  EXPECT_TRUE(fs::exists(folder / "target"));
+  removeEmptyFile(folder / "link");
+  EXPECT_EQ(folder.names(), (std::set<std::string>{"link", "target"}));
 }
 
 TEST_F(WholeFileOnPosix, FailsAtALoopOfLinks) {
   link("two", "one");
   link("one", "two");
-  std::string text = "before";
-  EXPECT_FALSE(writeWholeFile(folder / "one", "x").written);
-  EXPECT_FALSE(readTextFile(folder / "one", text));
+  std::optional<std::string> text = "before";
+  EXPECT_EQ(writeWholeFile(folder / "one", "x").error, ELOOP);
+  EXPECT_TRUE(readTextFile(folder / "one", text));
   EXPECT_EQ(text, "before");
   EXPECT_EQ(folder.names(), (std::set<std::string>{"one", "two"}));
 }
@@ -111,20 +121,6 @@ TEST_F(WholeFileOnPosix, KeepsTheOwnerWhereThatIsAllowed) {
   EXPECT_EQ(status.st_uid, uid_t{4321});
   EXPECT_EQ(status.st_gid, gid_t{1234});
   EXPECT_EQ(status.st_mode & 07777, mode_t{0640});
-}
-
-/// Calls as a user who may not do everything; the result is the exit status of a child.
-template <class Call>
-int asNobody(Call call) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    const bool is_nobody = ::geteuid() != 0 || (::setgid(65534) == 0 && ::setuid(65534) == 0);
-    ::_exit(is_nobody ? call() : 99);
-  }
-  int status = 0;
-  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
-  }
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 constexpr int kExisted = 1;
@@ -182,37 +178,84 @@ TEST_F(WholeFileOnPosix, CannotReadWhatItMayNot) {
   ASSERT_EQ(::chmod(path.c_str(), 0000), 0);
   fs::permissions(folder.path(), fs::perms::all);
   const int result = asNobody([&] {
-    std::string text = "before";
-    return readTextFile(path, text) || text != "before" ? 1 : 0;
+    std::optional<std::string> text = "before";
+    return readTextFile(path, text) && text == "before" ? 0 : 1;
   });
   EXPECT_EQ(result, 0);
 }
 
-TEST_F(WholeFileOnPosix, WritesAndReadsAFifoInItsPlace) {
+TEST_F(WholeFileOnPosix, RefusesAFifoWithoutWaitingForItsOtherEnd) {
   ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
-  const std::string sent(300'000, 'x');
-  WriteResult result;
-  std::thread writer([&] { result = writeWholeFile(path, sent); });
-  const auto received = readWholeFile(path);
-  writer.join();
-  EXPECT_TRUE(result.existed && result.written);
-  EXPECT_EQ(received, sent);
+  link("file", "link");
+  for (const std::string& name : {path, folder / "link"}) {
+    EXPECT_EQ(readWholeFile(name), std::nullopt);
+    EXPECT_EQ(writeWholeFile(name, "x"), (WriteResult{true, false, ENOTSUP}));
+    removeEmptyFile(name);
+  }
   EXPECT_TRUE(fs::is_fifo(path));
 }
 
-TEST_F(WholeFileOnPosix, WritesADeviceInItsPlace) {
-  const WriteResult result = writeWholeFile("/dev/null", "x");
-  EXPECT_TRUE(result.existed && result.written);
-  EXPECT_TRUE(fs::is_character_file("/dev/null"));
-  if (fs::exists("/dev/full")) {
-    EXPECT_FALSE(writeWholeFile("/dev/full", "x").written);
+TEST_F(WholeFileOnPosix, LeavesAFifoWithAWriterAsItIs) {
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  const int both = ::open(path.c_str(), O_RDWR | O_NONBLOCK);
+  ASSERT_EQ(::write(both, "sent", 4), 4);
+  EXPECT_EQ(readWholeFile(path), std::nullopt);
+  std::string received(5, ' ');
+  EXPECT_EQ(::read(both, received.data(), received.size()), 4);
+  ::close(both);
+}
+
+TEST_F(WholeFileOnPosix, RefusesASocket) {
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  ASSERT_LT(path.size(), sizeof address.sun_path);
+  path.copy(address.sun_path, path.size());
+  const int number = ::socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_EQ(::bind(number, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  EXPECT_EQ(readWholeFile(path), std::nullopt);
+  EXPECT_EQ(writeWholeFile(path, "x"), (WriteResult{true, false, ENOTSUP}));
+  ::close(number);
+}
+
+TEST_F(WholeFileOnPosix, RefusesADevice) {
+  for (const char* const device : {"/dev/null", "/dev/zero", "/dev/full"}) {
+    if (!fs::exists(device)) continue;
+    EXPECT_EQ(readWholeFile(device), std::nullopt) << device;
+    EXPECT_EQ(writeWholeFile(device, "x"), (WriteResult{true, false, ENOTSUP})) << device;
   }
 }
 
-TEST_F(WholeFileOnPosix, GivesUpReadingADeviceWithoutAnEnd) {
-  std::string text = "before";
-  EXPECT_FALSE(readTextFile("/dev/zero", text));
-  EXPECT_EQ(text, "before");
+TEST_F(WholeFileOnPosix, GivesTheErrorOfTheCallThatFailed) {
+  EXPECT_EQ(writeWholeFile(folder.path().string(), "x").error, EISDIR);
+  EXPECT_EQ(writeWholeFile(folder / "missing/file", "x").error, ENOENT);
+  EXPECT_EQ(writeWholeFile(folder / std::string(300, 'n'), "x").error, ENAMETOOLONG);
+  putBytes(path, "old");
+  EXPECT_EQ(writeWholeFile(path + "/below", "x").error, ENOTDIR);
+}
+
+TEST_F(WholeFileOnPosix, GivesTheErrorOfAWriteBeyondTheLimitOfTheProcess) {
+  putBytes(path, "old");
+  const int error = inAChild([&] {
+    const rlimit limits = {1000, 1000};
+    ::signal(SIGXFSZ, SIG_IGN);
+    if (::setrlimit(RLIMIT_FSIZE, &limits) != 0) return 0;
+    return writeWholeFile(path, std::string(5000, 'x')).error;
+  });
+  EXPECT_EQ(error, EFBIG);
+  EXPECT_EQ(bytesOf(path), "old");
+  EXPECT_EQ(folder.names(), std::set<std::string>{"file"});
+}
+
+TEST_F(WholeFileOnPosix, HasTheNameThatWasGivenWhateverItsBytes) {
+  const std::string name = folder.path().string() + "/n\xFF\xC3(.zel";
+  EXPECT_TRUE(writeWholeFile(name, "x").written);
+  EXPECT_EQ(folder.names(), std::set<std::string>{"n\xFF\xC3(.zel"});
+  EXPECT_EQ(readWholeFile(name), "x");
+  EXPECT_EQ(absolutePath(name), name);
+  const CurrentFolderGuard current(folder.path());
+  EXPECT_EQ(readWholeFile(absolutePath("n\xFF\xC3(.zel")), "x");
+  EXPECT_TRUE(createMissingFile("m\xFF"));
+  EXPECT_TRUE(folder.names().contains("m\xFF"));
 }
 
 TEST_F(WholeFileOnPosix, LeavesTheOtherNameOfAFileItsOldBytes) {

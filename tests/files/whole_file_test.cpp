@@ -59,7 +59,7 @@ TEST_F(WholeFile, IsFoundWhenItIsThere) {
   EXPECT_FALSE(fileExists(path));
   putBytes(path, "");
   EXPECT_TRUE(fileExists(path));
-  EXPECT_FALSE(fileExists(folder.path().string()));
+  EXPECT_TRUE(fileExists(folder.path().string()));
   EXPECT_FALSE(fileExists(path + "/below"));
   EXPECT_FALSE(fileExists(""));
 }
@@ -68,10 +68,22 @@ TEST_F(WholeFile, IsMadeEmptyWhereItIsMissingAndLeftWhereItIsNot) {
   EXPECT_TRUE(createMissingFile(path));
   EXPECT_EQ(bytesOf(path), "");
   putBytes(path, "x");
-  EXPECT_TRUE(createMissingFile(path));
+  EXPECT_FALSE(createMissingFile(path));
   EXPECT_EQ(bytesOf(path), "x");
   EXPECT_FALSE(createMissingFile(folder / "missing/file"));
   EXPECT_FALSE(createMissingFile(""));
+}
+
+TEST_F(WholeFile, IsTakenAwayWhenItIsEmptyOnly) {
+  removeEmptyFile(path);
+  putBytes(path, "x");
+  removeEmptyFile(path);
+  EXPECT_EQ(bytesOf(path), "x");
+  std::filesystem::resize_file(path, 0);
+  std::filesystem::create_directory(folder / "sub");
+  removeEmptyFile(path);
+  removeEmptyFile(folder / "sub");
+  EXPECT_EQ(folder.names(), std::set<std::string>{"sub"});
 }
 
 TEST_F(WholeFile, CannotBeReadWhereThereIsNone) {
@@ -89,6 +101,13 @@ TEST_F(WholeFile, CannotBeWrittenOverAFolderOrBelowAFile) {
     EXPECT_FALSE(writeWholeFile(bad, "y").written) << bad;
   EXPECT_EQ(bytesOf(path), "x");
   EXPECT_EQ(folder.names(), std::set<std::string>{"file.bin"});
+}
+
+TEST_F(WholeFile, GivesTheSystemsErrorOfAWriteThatFailed) {
+  EXPECT_EQ(writeWholeFile(path, "x").error, 0);
+  for (const std::string& bad : {folder.path().string(), folder / "missing/file", std::string(),
+                                 path + std::string("\0y", 2)})
+    EXPECT_NE(writeWholeFile(bad, "y").error, 0) << bad;
 }
 
 TEST_F(WholeFile, IsNotTakenForAnotherByAPathThatHoldsAZero) {
