@@ -1,6 +1,5 @@
 #include "app/main_commands.h"
 
-#include <cerrno>
 #include <optional>
 
 #include "app/messages.h"
@@ -52,8 +51,15 @@ void addPlotArguments(Program& program, const PlotFields& fields, FormWindow* ca
 std::string fileName(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
 void setDocument(Program& program, const std::string& path) {
-  program.document_path = path;
+  program.document_path = absolutePath(path);
   program.document_name = fileName(path);
+}
+
+/// Why a document was not written: the system's error, or the document itself where there is none.
+std::string saveFailure(int error) {
+  if (error == 0) return Localize(messages::kCannotSave);
+  return Localize("Error: No se pudo salvar.") + "\r\n" + Localize("Causa: código ") +
+         std::to_string(error);
 }
 
 constexpr std::string_view kDocumentFilter = "Declaraciones ZEL (*.zel)|*.zel";
@@ -111,10 +117,8 @@ void saveDocumentAs(Program& program, const MainView& view) {
   if (!path) return;
   setDocument(program, *path);
   // Whether the file was there before is not looked at here; only a write that failed is told.
-  if (writeDocument(*path, view, program.graphs).written) return;
-  const int error = errno;
-  ShowAttention(program.services.boxes, Localize("Error: No se pudo salvar.") + "\r\n" +
-                                            Localize("Causa: código ") + std::to_string(error));
+  const WriteResult result = writeDocument(*path, view, program.graphs);
+  if (!result.written) ShowAttention(program.services.boxes, saveFailure(result.error));
 }
 
 void newDocument(Program& program) {

@@ -10,6 +10,7 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
+#include "files/document_check.h"
 #include "files/document_parser.h"
 #include "files/text_file.h"
 
@@ -122,19 +123,24 @@ std::string documentText(const MainView& view, const GraphTable& graphs) {
 
 bool loadDocument(const std::string& path, MainView& view, GraphTable& graphs,
                   DocumentHeader& header, std::string& message) {
-  message.clear();
   std::optional<std::string> text;
   readTextFile(path, text);
   if (!text) {
     message = messages::kCannotOpen;
     return false;
   }
-  if (!isCompatible(*text)) {
+  return loadDocumentText(*text, view, graphs, header, message);
+}
+
+bool loadDocumentText(std::string_view text, MainView& view, GraphTable& graphs,
+                      DocumentHeader& header, std::string& message) {
+  message.clear();
+  if (!isCompatible(text)) {
     message = messages::kNotCompatible;
     return false;
   }
   graphs.clearGraphs();
-  const ParseOutcome outcome = parseWithinMemory(*text, view, graphs, header);
+  const ParseOutcome outcome = parseWithinMemory(text, view, graphs, header);
   if (outcome == ParseOutcome::section_missing) message = messages::kUnexpectedFormat;
   return outcome == ParseOutcome::complete;
 }
@@ -143,14 +149,25 @@ std::string_view openFailureMessage(std::string_view message) {
   return message.empty() ? messages::kCannotOpen : message;
 }
 
+std::optional<std::string> documentBytes(const MainView& view, const GraphTable& graphs) {
+  try {
+    std::string bytes = toCodePage(documentText(view, graphs));
+    if (bytes.size() > kMaxWholeFile || !isReadBack(bytes, view, graphs)) return std::nullopt;
+    return bytes;
+  } catch (const std::bad_alloc&) {
+    return std::nullopt;
+  }
+}
+
 WriteResult writeDocument(const std::string& path, const MainView& view, const GraphTable& graphs) {
-  return writeWholeFile(path, toCodePage(documentText(view, graphs)));
+  const auto bytes = documentBytes(view, graphs);
+  return bytes ? writeWholeFile(path, *bytes) : WriteResult{fileExists(path), false};
 }
 
 std::string_view saveDocument(const std::string& path, const MainView& view,
                               const GraphTable& graphs) {
-  const bool existed = writeTextFile(path, documentText(view, graphs));
-  return existed ? std::string_view() : messages::kCannotSave;
+  const WriteResult result = writeDocument(path, view, graphs);
+  return result.existed && result.written ? std::string_view() : messages::kCannotSave;
 }
 
 }  // namespace zel

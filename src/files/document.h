@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -45,17 +46,26 @@ inline constexpr std::string_view kCannotSave = "No se pudo salvar el archivo.";
 /// The whole document, lines separated by CR LF, none after the last.
 std::string documentText(const MainView& view, const GraphTable& graphs);
 
+/// The same as the bytes of a file. Nothing where a load would not give back what is there: for a
+/// control character in a value, a document longer than a file that is read, and want of memory.
+std::optional<std::string> documentBytes(const MainView& view, const GraphTable& graphs);
+
 /// False with a message when the file cannot be read, is not compatible (the graphs are then as
 /// they were) or lacks a section, and without one when an error inside a section stops it. In the
 /// latter cases the old graphs are gone, those read before the failure stay, and so does what the
-/// view section set. A file that does not exist is created empty.
+/// view section set. A file that does not exist is created empty, which is meant.
 bool loadDocument(const std::string& path, MainView& view, GraphTable& graphs,
                   DocumentHeader& header, std::string& message);
+
+/// The same for the text of a document that was read already.
+bool loadDocumentText(std::string_view text, MainView& view, GraphTable& graphs,
+                      DocumentHeader& header, std::string& message);
 
 /// What the Open command shows when a load failed with this message.
 std::string_view openFailureMessage(std::string_view message);
 
-/// Writes the document; the older file stays whole when that fails.
+/// Writes the document; the older file stays whole when that fails. Without an error of the system
+/// it is the document that cannot be written.
 WriteResult writeDocument(const std::string& path, const MainView& view, const GraphTable& graphs);
 
 /// Saves to the path of the current document. Returns the message to show, empty when the file was

@@ -162,6 +162,34 @@ TEST_F(MainCommands, SaveAsSaysWhenNothingCouldBeWritten) {
             std::vector<Box>{attention("Error: No se pudo salvar.\r\nCausa: código 2")});
 }
 
+TEST_F(MainCommands, SaveAsGivesNoSystemsErrorForADocumentThatCannotBeWritten) {
+  putBytes("uno.zel", "older");
+  MainView view;
+  view.xf = "5\r\n \r\nfoo";
+  for (const char* const language : {"ES", "EN"}) {
+    SetCurrentLanguage(language);
+    services.files.paths = {"uno.zel"};
+    saveDocumentAs(program, view);
+  }
+  EXPECT_EQ(services.boxes.shown,
+            (std::vector<Box>{{"No se pudo salvar el archivo.", "ZEL - ATENCIÓN", BoxStyle::stop},
+                              {"Could not save file.", "ZEL - NOTIFY", BoxStyle::stop}}));
+  EXPECT_EQ(bytesOf("uno.zel"), "older");
+}
+
+TEST_F(MainCommands, SaveWritesToTheSameFileWhereverAFileDialogHasGone) {
+  putBytes("uno.zel", "nada");
+  MainView view;
+  openDocumentAt(program, "uno.zel", view);
+  {
+    const TemporaryFolder elsewhere;
+    const CurrentFolderGuard moved(elsewhere.path());
+    saveDocument(program, view);
+    EXPECT_EQ(elsewhere.names(), std::set<std::string>{});
+  }
+  EXPECT_NE(bytesOf("uno.zel"), "nada");
+}
+
 TEST_F(MainCommands, SaveAsksForANameWhenThereIsNone) {
   saveDocument(program, MainView());
   EXPECT_EQ(services.files.asked.size(), 1u);
@@ -195,7 +223,8 @@ TEST_F(MainCommands, ARefusedDocumentStaysTheCurrentOne) {
   EXPECT_EQ(services.boxes.shown,
             std::vector<Box>{
                 attention("File you try to open is uncompatible with that program version.")});
-  EXPECT_EQ(program.document_path, "malo.zel");
+  EXPECT_EQ(program.document_name, "malo.zel");
+  EXPECT_EQ(program.document_path, (std::filesystem::current_path() / "malo.zel").string());
 }
 
 TEST_F(MainCommands, ACancelledDialogChangesNothing) {

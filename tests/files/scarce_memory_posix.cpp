@@ -1,9 +1,9 @@
 // Loads that need more memory than the process may have, in a child that may have little.
 
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
+#include "child_posix.h"
 #include "document_fixture.h"
 
 namespace zel::test {
@@ -30,17 +30,18 @@ class ScarceMemory : public DocumentTest {
   /// Whether a load of these bytes fails with this message.
   bool failsWith(std::string_view bytes, std::string_view expected) {
     putBytes(path, bytes);
-    const pid_t child = ::fork();
-    if (child == 0) {
-      const rlim_t limit = usedMemory() + kSpare;
-      const rlimit limits = {limit, limit};
-      const bool is_limited = ::setrlimit(RLIMIT_AS, &limits) == 0;
-      const bool loaded = loadDocument(path, view, graphs, header, message);
-      ::_exit(is_limited && !loaded && message == expected ? 0 : 1);
-    }
-    int status = 1;
-    ::waitpid(child, &status, 0);
-    return status == 0;
+    const int failed = inAChild([&] {
+      const bool fails = hasLittle() && !loadDocument(path, view, graphs, header, message);
+      return fails && message == expected ? 1 : 0;
+    });
+    return failed == 1;
+  }
+
+  /// Leaves this process little more memory than it has.
+  static bool hasLittle() {
+    const rlim_t limit = usedMemory() + kSpare;
+    const rlimit limits = {limit, limit};
+    return ::setrlimit(RLIMIT_AS, &limits) == 0;
   }
 };
 
@@ -52,6 +53,17 @@ TEST_F(ScarceMemory, StopsADocumentOfManyPairs) {
   std::string pairs;
   for (int i = 0; pairs.size() < kSpare / 8; ++i) pairs += std::to_string(i) + "=\r\n";
   EXPECT_TRUE(failsWith(replaceAll(sampleText(), "usuario=", pairs + "usuario="), ""));
+}
+
+TEST_F(ScarceMemory, LeavesTheOlderDocumentWhereTheNewOneCannotBeChecked) {
+  putBytes(path, "older");
+  graphs.rebuildGraph('a', std::string(kSpare / 2, 'x'), "", 0, '?', nullptr);
+  const int refused = inAChild([&] {
+    return hasLittle() && saveDocument(path, view, graphs) == messages::kCannotSave ? 1 : 0;
+  });
+  EXPECT_EQ(refused, 1);
+  EXPECT_EQ(bytesOf(path), "older");
+  EXPECT_TRUE(writeDocument(path, view, graphs).written);
 }
 
 }  // namespace
