@@ -160,17 +160,5 @@ TEST_F(DocumentLoading, LeavesTheMessageInSpanishForItsReader) {
   EXPECT_EQ(Localize(message), "Cannot load file in memory because file format is incompatible.");
 }
 
-TEST_F(DocumentLoading, SurvivesAnyBytes) {
-  std::string bytes = sampleText();
-  for (std::size_t i = 0; i < bytes.size(); i += 3) {
-    std::string damaged = bytes;
-    damaged[i] = static_cast<char>(i * 37);
-    load(damaged);
-    load(bytes.substr(0, i));
-  }
-  load(std::string("\0versiones_compatibles=2.0\0", 27));
-  EXPECT_EQ(message, kUnexpectedFormat);
-}
-
 }  // namespace
 }  // namespace zel::test

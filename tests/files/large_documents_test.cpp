@@ -52,9 +52,20 @@ TEST_F(LargeDocuments, MayHoldManyLinesBetweenSections) {
 }
 
 TEST_F(LargeDocuments, MayRepeatSectionHeadersWhereGraphsAreExpected) {
-  for (const std::string_view line : {"[PROPIEDADES]\r\n", "[PROPIEDADES]\r\n \r\n",
-                                      "[PROPIEDADES]\r\n \r\n[PARAMETROS]\r\n \r\n"})
-    loadSampleWith("[GRAFICOS PRINCIPAL]", "[GRAFICOS PRINCIPAL]\r\n" + repeated(line));
+  const std::string section = "[GRAFICOS PRINCIPAL]\r\n";
+  const std::string empty = "[PROPIEDADES]\r\n \r\n";
+  // Two lines without "=" are two pairs of one key; a graph without a colour is none.
+  for (const std::string& lines :
+       {std::string("[PROPIEDADES]\r\n"), empty, empty + "[PARAMETROS]\r\n \r\n"})
+    expectFailure(loadSampleWith(section, section + repeated(lines)), "", "");
+  for (const std::string_view passed_over : {"[GRAFICO]\r\n", "[PARAMETROS]\r\n", "[x]\r\n \r\n"}) {
+    EXPECT_TRUE(loadSampleWith(section, section + repeated(passed_over))) << passed_over;
+    EXPECT_EQ(letters(), "ab");
+  }
+  EXPECT_TRUE(loadSampleWith("tipo=F\r\n \r\n", "tipo=F\r\n \r\n" + repeated(empty)));
+  EXPECT_EQ(letters(), "ab");
+  EXPECT_TRUE(load(sampleText() + "\r\n" + repeated(empty)));
+  EXPECT_EQ(letters(), "ab");
 }
 
 TEST_F(LargeDocuments, MayHoldALongValue) {
