@@ -47,7 +47,7 @@ int main(int argc, char** argv) {
   zel::Program program({widgets.boxes, widgets.files, widgets.colours, widgets.help,
                         *desktop.registry, *desktop.browser, *desktop.mail, widgets.inputs,
                         widgets.clipboard, widgets.printer});
-  program.place = {folder, file.completeBaseName().toStdString()};
+  program.place = zel::programPlace(file.filePath().toStdString());
   program.end_process = endProcess;
 
   const zel::StartStep step = zel::startProgram(program);

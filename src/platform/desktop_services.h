@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "app/desktop.h"
 #include "app/services.h"
 
 namespace zel {
@@ -21,5 +22,9 @@ DesktopServices makeDesktopServices(const std::string& program_path);
 /// The folder, not always there yet, in which an installed program keeps what is the user's own:
 /// "zel" among the user's configurations. UTF-8.
 std::string userFolder();
+
+/// Where the program's file lies, written as the platform writes paths: on Windows with "\" alone,
+/// however `program_path` is written.
+ProgramPlace programPlace(const std::string& program_path);
 
 }  // namespace zel

@@ -66,16 +66,16 @@ entry() {
 
 probe=$folder/bin/win32_probe.exe
 
-says "register in English" true "$probe" register 'C:\Program Files\zel' EN
+says "register in English" true "$probe" register 'C:/Program Files/zel/zel.exe' EN
 entry zel "Function graphic"
 entry .zel zel
 entry 'zel\shell\open\command' 'C:\Program Files\zel\zel.exe %1'
 entry 'zel\DefaultIcon' 'C:\Program Files\zel\doc.ico'
 
-says "register again in Spanish" true "$probe" register 'D:\z' ES
+says "register again in Spanish" true "$probe" register 'D:\z\Zel.EXE' ES
 entry zel "Gráfico de funciones"
 entry .zel zel
-entry 'zel\shell\open\command' 'D:\z\zel.exe %1'
+entry 'zel\shell\open\command' 'D:\z\Zel.exe %1'
 entry 'zel\DefaultIcon' 'D:\z\doc.ico'
 
 says "programs that are not there" $'0000\n00000\nquiet' "$probe" missing

@@ -1,6 +1,7 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+#include "base/text.h"
 #include "platform/desktop_services.h"
 #include "platform/win32/automation_browser.h"
 #include "platform/win32/automation_mail_client.h"
@@ -18,6 +19,15 @@ std::string userFolder() {
   wchar_t folder[MAX_PATH] = L"";
   const DWORD length = GetEnvironmentVariableW(L"APPDATA", folder, MAX_PATH);
   return fromWide({folder, length < MAX_PATH ? length : 0}) + "\\zel";
+}
+
+ProgramPlace programPlace(const std::string& program_path) {
+  constexpr std::string_view kEnding = ".exe";
+  const std::string path = replaceAll(program_path, "/", "\\");
+  const std::size_t separator = path.rfind('\\');
+  std::string name = path.substr(separator + 1);
+  if (toLower(name).ends_with(kEnding)) name.resize(name.size() - kEnding.size());
+  return {separator == std::string::npos ? "." : path.substr(0, separator), name};
 }
 
 }  // namespace zel

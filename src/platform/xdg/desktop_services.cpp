@@ -26,4 +26,9 @@ std::string userFolder() {
   return configurations.toStdString() + "/zel";
 }
 
+ProgramPlace programPlace(const std::string& program_path) {
+  const QFileInfo file(QString::fromStdString(program_path));
+  return {file.absolutePath().toStdString(), file.fileName().toStdString()};
+}
+
 }  // namespace zel

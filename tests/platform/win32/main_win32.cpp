@@ -1,5 +1,5 @@
 // win32_probe: uses the adapters of Windows as the program does and tells what came of it.
-//   register FOLDER LANGUAGE   registers the document type of a program in FOLDER
+//   register PROGRAM LANGUAGE  registers the document type of a program's file
 //   missing                    drives a browser and a mail client that are not installed
 //   automation                 drives recorders in their place
 
@@ -16,13 +16,13 @@
 namespace zel::test {
 namespace {
 
-int registerIn(const std::string& folder, const std::string& language) {
+int registerFor(const std::string& program, const std::string& language) {
   SetCurrentLanguage(language);
-  const DesktopServices services = makeDesktopServices("");
+  const DesktopServices services = makeDesktopServices(program);
   // Neither is a failure of one of its calls looked at.
   services.registry->setValue(services.registry->createKey("\\"), "x", "y");
-  std::cout << (registerZelDocuments(*services.registry, {folder, "zel"}) ? "true" : "false")
-            << "\n";
+  const bool registered = registerZelDocuments(*services.registry, programPlace(program));
+  std::cout << (registered ? "true" : "false") << "\n";
   return 0;
 }
 
@@ -57,7 +57,7 @@ int driveRecorders() {
 int main(int argument_count, char** arguments) {
   const std::string command = argument_count > 1 ? arguments[1] : "";
   if (command == "register" && argument_count == 4)
-    return zel::test::registerIn(arguments[2], arguments[3]);
+    return zel::test::registerFor(arguments[2], arguments[3]);
   if (command == "missing") return zel::test::driveMissing();
   if (command == "automation") return zel::test::driveRecorders();
   return 2;
