@@ -9,6 +9,8 @@
 #include <array>
 #include <cstdint>
 
+#include "base/utf8.h"
+
 namespace zel {
 namespace {
 
@@ -18,40 +20,6 @@ constexpr std::array<char16_t, 32> kHighControls = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 constexpr char32_t kFirstHighControl = 0x80;
-
-struct Decoded {
-  char32_t character = 0;
-  std::size_t size = 0;  // 0: the bytes are not UTF-8
-};
-
-/// How many bytes follow a lead byte; -1 for a byte that cannot lead.
-int continuationCount(unsigned char lead) {
-  if (lead < 0x80) return 0;
-  if (lead >= 0xC2 && lead <= 0xDF) return 1;
-  if (lead >= 0xE0 && lead <= 0xEF) return 2;
-  if (lead >= 0xF0 && lead <= 0xF4) return 3;
-  return -1;
-}
-
-bool isScalar(char32_t character, int continuations) {
-  constexpr std::array<char32_t, 4> kLowest = {0, 0x80, 0x800, 0x10000};
-  if (character < kLowest[static_cast<std::size_t>(continuations)]) return false;
-  return character <= 0x10FFFF && (character < 0xD800 || character > 0xDFFF);
-}
-
-Decoded decode(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text[0]);
-  const int continuations = continuationCount(lead);
-  if (continuations < 0 || text.size() <= static_cast<std::size_t>(continuations)) return {};
-  char32_t character = continuations == 0 ? lead : lead & (0x3Fu >> continuations);
-  for (int i = 1; i <= continuations; ++i) {
-    const auto byte = static_cast<unsigned char>(text[static_cast<std::size_t>(i)]);
-    if ((byte & 0xC0) != 0x80) return {};
-    character = (character << 6) | (byte & 0x3Fu);
-  }
-  if (!isScalar(character, continuations)) return {};
-  return {character, static_cast<std::size_t>(continuations) + 1};
-}
 
 char encodeByte(char32_t character) {
   const auto found = std::ranges::find(kHighControls, static_cast<char16_t>(character));
@@ -81,7 +49,7 @@ std::string toCodePage(std::string_view utf8) {
   std::string bytes;
   bytes.reserve(utf8.size());
   while (!utf8.empty()) {
-    const Decoded decoded = decode(utf8);
+    const DecodedCharacter decoded = decodeCharacter(utf8);
     bytes += decoded.size == 0 ? '?' : encodeByte(decoded.character);
     utf8.remove_prefix(std::max<std::size_t>(decoded.size, 1));
   }
