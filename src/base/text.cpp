@@ -75,4 +75,10 @@ std::string_view trimBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string stripRelationSigns(std::string_view text) {
+  std::string bare(text);
+  std::erase_if(bare, [](char c) { return c == '=' || c == '<' || c == '>'; });
+  return std::string(trimBlanks(bare));
+}
+
 }  // namespace zel

@@ -23,4 +23,8 @@ std::string replaceAllIgnoringCase(std::string_view text, std::string_view from,
 
 std::string_view trimBlanks(std::string_view text);
 
+/// Without any "=", "<" and ">", and then without blanks at its ends: what a field or the label
+/// beside it says.
+std::string stripRelationSigns(std::string_view text);
+
 }  // namespace zel

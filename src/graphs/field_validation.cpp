@@ -32,11 +32,7 @@ bool isAcceptedDistance(const Field& field) {
 
 }  // namespace
 
-std::string fieldLabel(std::string_view caption) {
-  std::string label(caption);
-  std::erase_if(label, [](char c) { return c == '=' || c == '<' || c == '>'; });
-  return std::string(trimBlanks(label));
-}
+std::string fieldLabel(std::string_view caption) { return stripRelationSigns(caption); }
 
 bool checkNumeric(std::span<const Field> fields, std::string& message) {
   const std::string list =

@@ -24,16 +24,6 @@ BuiltGraph newGraph(char tipo) {
   return graph;
 }
 
-/// Returns nothing: what it finds is in the message.
-void checkFormulaField(const Field& field, Engine& engine, std::string& message) {
-  const std::string label = fieldLabel(field.label);
-  if (field.text.empty())
-    message += LocalizeWithArg("El campo %1 no puede estar vacío.", label) + "\r\n";
-  checkParentheses(field.text, label, message);
-  std::string refusal;
-  if (!CheckFormula(engine, field.text, refusal)) message += refusal;
-}
-
 /// letter + "(" + the texts of the fields separated by ";" + ")"
 std::string conicEquation(char letter, std::initializer_list<const Field*> fields) {
   std::string equation = {letter, '('};
@@ -166,6 +156,15 @@ struct Builder {
 };
 
 }  // namespace
+
+void checkFormulaField(const Field& field, Engine& engine, std::string& message) {
+  const std::string label = fieldLabel(field.label);
+  if (field.text.empty())
+    message += LocalizeWithArg("El campo %1 no puede estar vacío.", label) + "\r\n";
+  checkParentheses(field.text, label, message);
+  std::string refusal;
+  if (!CheckFormula(engine, field.text, refusal)) message += refusal;
+}
 
 BuiltGraph buildGraph(char letter, const GraphFields& fields, Engine& engine) {
   return std::visit(Builder{letter, engine}, fields);

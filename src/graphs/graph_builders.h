@@ -61,6 +61,10 @@ struct HyperbolaFields {  // H
 using GraphFields = std::variant<FunctionFields, CircumferenceFields, EllipseFields, ParabolaFields,
                                  ParametricFields, HyperbolaFields, FamilyFields>;
 
+/// What the builders say of a formula: that it is empty, its parentheses, the formula check. Adds
+/// to `message`; returns nothing, for there is nothing to add where all is well.
+void checkFormulaField(const Field& field, Engine& engine, std::string& message);
+
 /// What a builder made of its fields.
 struct BuiltGraph {
   std::string message;  // why they are refused, in the current language; empty when they are not

@@ -62,5 +62,11 @@ TEST(Text, TrimsBlanksAndNoOtherWhiteSpace) {
   EXPECT_EQ(trimBlanks(""), "");
 }
 
+TEST(Text, StripsRelationSignsAndThenBlanks) {
+  EXPECT_EQ(stripRelationSigns(" x <= 3 "), "x  3");
+  EXPECT_EQ(stripRelationSigns("= x+1 ="), "x+1");
+  EXPECT_EQ(stripRelationSigns(" <=> "), "");
+}
+
 }  // namespace
 }  // namespace zel::test
