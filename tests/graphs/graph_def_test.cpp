@@ -82,6 +82,12 @@ TEST(TwoBranch, GoesByTheKindTable) {
   EXPECT_FALSE(isTwoBranch(GraphDef()));
 }
 
+TEST(GraphDef, HasAnEmptyTextForNoKind) {
+  EXPECT_EQ(kindText(graphOf('F', "")), "F");
+  EXPECT_EQ(kindText(graphOf('?', "")), "?");
+  EXPECT_EQ(kindText(GraphDef()), "");
+}
+
 TEST(Parameter, IsEmptyWhereThereIsNone) {
   GraphDef def = graphOf('C', "");
   def.parameters->Add("r", "3");
