@@ -22,18 +22,15 @@ std::string_view firstCharacters(std::string_view text, std::size_t count) {
   return text.substr(0, end);
 }
 
-/// An empty box reads as 0.
+/// An empty box reads as 0; one of blanks is no number.
 std::optional<double> readScale(std::string_view text) {
-  const std::string_view trimmed = trimBlanks(text);
-  return trimmed.empty() ? 0.0 : readNumber(trimmed);
+  return text.empty() ? 0.0 : readNumber(trimBlanks(text));
 }
 
 bool keepScales(Program& program, const PlotFields& fields) {
-  const auto x = readScale(fields.escala_x);
-  const auto y = readScale(fields.escala_y);
-  if (!x || !y) return false;
-  program.marks = {*x, *y, scaleIsGiven(fields.escala_x), scaleIsGiven(fields.escala_y)};
-  return true;
+  const auto marks = readScaleMarks(fields.escala_x, fields.escala_y);
+  if (marks) program.marks = *marks;
+  return marks.has_value();
 }
 
 void addPlotArguments(Program& program, const PlotFields& fields, FormWindow* caller) {
@@ -71,9 +68,13 @@ std::string mainWindowTitle(const Program& program) {
   return "ZEL - " + std::string(firstCharacters(program.document_name, kTitleCharacters));
 }
 
-bool scaleIsGiven(std::string_view text) {
-  const std::string_view trimmed = trimBlanks(text);
-  return trimmed != "0" && !trimmed.empty();
+bool scaleIsGiven(std::string_view text) { return trimBlanks(text) != "0" && !text.empty(); }
+
+std::optional<ScaleMarks> readScaleMarks(std::string_view escala_x, std::string_view escala_y) {
+  const auto x = readScale(escala_x);
+  const auto y = readScale(escala_y);
+  if (!x || !y) return std::nullopt;
+  return ScaleMarks{*x, *y, scaleIsGiven(escala_x), scaleIsGiven(escala_y)};
 }
 
 bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller) {

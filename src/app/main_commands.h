@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,12 @@ namespace zel {
 /// The title: the document's name, its first 16 characters, or the program's own.
 std::string mainWindowTitle(const Program& program);
 
-/// Whether a scale box asks for marks: not when it holds "0" or nothing.
+/// Whether a scale box asks for marks: not when it holds "0" or nothing. A box of blanks asks for
+/// them, and then holds no number.
 bool scaleIsGiven(std::string_view text);
+
+/// What the two scale boxes say; nothing when one holds no number.
+std::optional<ScaleMarks> readScaleMarks(std::string_view escala_x, std::string_view escala_y);
 
 /// The fields that the plot command reads, each with its label's caption.
 struct PlotFields {

@@ -104,6 +104,14 @@ TEST_F(MainCommands, PlotShowsNoMarksWhereTheScaleIsNotGiven) {
   EXPECT_FALSE(program.marks.y_shown);
 }
 
+TEST_F(MainCommands, ReadsTheScalesOfADocumentAsItsBoxes) {
+  EXPECT_EQ(readScaleMarks("2", " 0,5 "), (ScaleMarks{2, 0.5, true, true}));
+  EXPECT_EQ(readScaleMarks("", " 0 "), (ScaleMarks{0, 0, false, false}));
+  EXPECT_EQ(readScaleMarks("0,0", "1"), (ScaleMarks{0, 1, true, true}));
+  EXPECT_EQ(readScaleMarks("  ", "1"), std::nullopt);
+  EXPECT_EQ(readScaleMarks("1", "abc"), std::nullopt);
+}
+
 TEST_F(MainCommands, TheEditorIsToldWhatToDo) {
   prepareNewGraph(program, &main_window);
   EXPECT_EQ(program.params.keys(), (std::vector<std::string>{"modo", "llamador"}));
