@@ -154,6 +154,15 @@ TEST_F(DocumentLoading, NeedsNothingBehindTheLastParameters) {
   EXPECT_EQ(letters(), "ab");
 }
 
+TEST_F(DocumentLoading, TakesATextThatWasReadAlready) {
+  EXPECT_TRUE(loadDocumentText(sampleText(), view, graphs, header, message));
+  EXPECT_EQ(letters(), "ab");
+  EXPECT_EQ(view, sampleView());
+  EXPECT_EQ(documentBytes(view, graphs), sampleText());
+  EXPECT_FALSE(loadDocumentText("", view, graphs, header, message));
+  EXPECT_EQ(message, kNotCompatible);
+}
+
 TEST_F(DocumentLoading, LeavesTheMessageInSpanishForItsReader) {
   SetCurrentLanguage("EN");
   expectFailure(loadSampleWith("[VISTA PRINCIPAL]", ""), kUnexpectedFormat, "");
