@@ -30,7 +30,6 @@ class Progress {
 
   std::ostream& err_;
   bool shows_;
-  unsigned calls_ = 0;
   Clock::time_point next_;
   std::size_t width_ = 0;
 };
