@@ -1,13 +1,54 @@
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
 #include "cli/cli.h"
+#include "cli/console.h"
 #include "cli/interrupt.h"
 
+namespace {
+
+void tellWantOfMemory() { std::fputs("zel-cli: out of memory\n", stderr); }
+
+/// Where there is no memory even for an exception, and where one cannot be handed on, the program
+/// ends as a command that failed.
+[[noreturn]] void onTerminate() {
+  const auto thrown = std::current_exception();
+  try {
+    if (thrown) std::rethrow_exception(thrown);
+  } catch (const std::bad_alloc&) {
+  } catch (...) {
+    std::abort();
+  }
+  tellWantOfMemory();
+  std::_Exit(zel::kExitFailed);
+}
+
+/// Before the static objects of the libraries are made, which is before main begins.
+#ifdef __GNUC__
+[[gnu::constructor(101)]]
+#endif
+void watchTermination() {
+  std::set_terminate(onTerminate);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-  std::ios::sync_with_stdio(false);
-  zel::endOnInterrupt();
-  return zel::runCli(std::vector<std::string>(argv + 1, argv + argc), std::cin, std::cout,
-                     std::cerr);
+  try {
+    watchTermination();
+    std::ios::sync_with_stdio(false);
+    zel::endOnInterrupt();
+    return zel::runCli(std::vector<std::string>(argv + 1, argv + argc), std::cin, std::cout,
+                       std::cerr);
+  } catch (const std::bad_alloc&) {
+    tellWantOfMemory();
+  } catch (...) {
+    std::fputs("zel-cli: unexpected error\n", stderr);
+  }
+  return zel::kExitFailed;
 }
