@@ -1,7 +1,8 @@
 #include "cli/cli.h"
 
 #include <algorithm>
-#include <iostream>
+#include <new>
+#include <ostream>
 
 #include <CLI/CLI.hpp>
 
@@ -14,25 +15,73 @@
 namespace zel {
 namespace {
 
+/// Hands the texts of all options over as they were typed.
+void unprotectOptions(CLI::App& app) {
+  for (CLI::Option* option : app.get_options()) {
+    if (option->get_items_expected_max() == 0) continue;
+    const bool is_file = option->check_name("FILE") || option->check_name("OUT");
+    option->transform(is_file ? unprotectedFile : unprotected);
+  }
+}
+
 void addCommands(CLI::App& app, Console& console, Command& command) {
   for (const auto add : {addEvaluate, addCompile, addCheckFormula, addCheck, addResave, addTable,
                          addRender, addDrive, addSelfTest})
     add(app, console, command);
+  unprotectOptions(app);
   for (CLI::App* subcommand : app.get_subcommands({})) {
     subcommand->fallthrough();
-    for (CLI::Option* option : subcommand->get_options()) {
-      if (option->get_items_expected_max() > 0) option->transform(unprotected);
-    }
+    subcommand->group("Commands");
+    unprotectOptions(*subcommand);
   }
   app.require_subcommand(1);
+  app.get_formatter()->label("SUBCOMMAND", "COMMAND");
 }
 
-int runChecked(const Command& command, const Console& console) {
-  const int status = command();
+/// Nothing is done until all that was written has arrived.
+int finish(int status, const Console& console) {
   console.out.flush();
   if (console.out.good()) return status;
   console.err << inLanguage("No se pudo escribir la salida.", "Cannot write the output.") << '\n';
   return kExitFailed;
+}
+
+int refuseLine(std::string_view complaint, const Console& console) {
+  console.err << onOneLine(complaint) << '\n';
+  return kExitUsage;
+}
+
+bool hasCommand(const CLI::App& app, const std::string& name) {
+  return !app.get_subcommands([&](const CLI::App* one) { return one->get_name() == name; }).empty();
+}
+
+int runArguments(const std::vector<std::string>& arguments, Console& console) {
+  SetCurrentLanguage(systemSpeaksEnglish() ? "EN" : "ES");
+  Command command;
+  std::string language;
+  CLI::App app("The headless companion of zel, a grapher of mathematical functions.", "zel-cli");
+  app.set_version_flag("--version", "zel-cli 2.8");
+  app.add_option("--lang", language, "Language of messages")
+      ->check(CLI::IsMember({"ES", "EN"}))
+      ->option_text("ES|EN");
+  app.add_flag("--point", console.decimal_point, "Print numbers with a decimal point");
+  addCommands(app, console, command);
+  const std::string* const name = commandIn(arguments);
+  if (name != nullptr && !hasCommand(app, *name))
+    return refuseLine("there is no command " + *name, console);
+
+  auto reversed = protectArguments(arguments);
+  std::ranges::reverse(reversed);  // as the parser wants them
+  try {
+    app.parse(std::move(reversed));
+    if (!language.empty()) SetCurrentLanguage(language);
+    return finish(command(), console);
+  } catch (const CLI::Success& asked) {  // for help, or the version
+    app.exit(asked, console.out, console.err);
+    return finish(kExitDone, console);
+  } catch (const CLI::ParseError& error) {
+    return refuseLine(complaintOf(app, error), console);
+  }
 }
 
 }  // namespace
@@ -40,23 +89,8 @@ int runChecked(const Command& command, const Console& console) {
 int runCli(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out,
            std::ostream& err) {
   Console console{in, out, err};
-  Command command;
-  std::string language;
-  CLI::App app("The headless companion of zel, a grapher of mathematical functions.", "zel-cli");
-  app.set_version_flag("--version", "zel-cli 2.8");
-  app.add_option("--lang", language, "Language of messages")->check(CLI::IsMember({"ES", "EN"}));
-  app.add_flag("--point", console.decimal_point, "Print numbers with a decimal point");
-  addCommands(app, console, command);
-
-  auto reversed = protectArguments(arguments);
-  std::ranges::reverse(reversed);  // as the parser wants them
   try {
-    app.parse(std::move(reversed));
-    if (language.empty()) language = systemSpeaksEnglish() ? "EN" : "ES";
-    SetCurrentLanguage(language);
-    return runChecked(command, console);
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error, out, err) == 0 ? kExitDone : kExitUsage;
+    return runArguments(arguments, console);
   } catch (const std::bad_alloc&) {
     return console.fail("Valores demasiado grandes para operar.");
   }

@@ -24,18 +24,22 @@ struct Console {
 
   /// Says a message of the program on standard error, translated, and returns kExitFailed.
   int fail(std::string_view spanish) const;
+
+  /// Says that standard input cannot be read, and returns kExitFailed.
+  int failReading() const;
 };
 
 /// One of two texts of the command line's own, by the current language.
 std::string_view inLanguage(std::string_view spanish, std::string_view english);
 
-/// A message on one line: a line break becomes "\n", a tab "\t", a backslash "\\".
-std::string onOneLine(std::string_view message);
+bool isControl(char32_t character);
 
-/// A text that is a line by itself: a line break inside becomes a blank.
-std::string asLine(std::string_view text);
+/// The two digits of a control character's number: "1b" for Esc.
+std::string hexadecimal(char32_t control);
 
-/// A field between tabs: what would break the line becomes a blank; a backslash stays.
-std::string asField(std::string_view text);
+/// A text on one line, in UTF-8 whatever it holds: a line break becomes "\n", a tab "\t", a
+/// backslash "\\", another control character "\x" and the two digits of its number. What is not
+/// UTF-8 shows as U+FFFD.
+std::string onOneLine(std::string_view text);
 
 }  // namespace zel

@@ -2,9 +2,8 @@
 #include <ostream>
 #include <string>
 
-#include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/interrupt.h"
+#include "cli/input_output.h"
 #include "cli/session.h"
 #include "pictures/colour.h"
 
@@ -18,10 +17,12 @@ struct Options {
 
 /// The line of one graph: letter, kind, colour, display text and codes between tabs.
 std::string describe(const GraphDef& def) {
-  std::string line = std::string(1, def.nombre) + '\t' + def.tipo + '\t' + colourText(def.color);
-  line += '\t' + asField(displayText(def)) + '\t' + asField(def.codigo);
+  std::string line = std::string(1, def.nombre) + '\t' + onOneLine(kindText(def)) + '\t';
+  line += colourText(def.color);
+  line += '\t' + onOneLine(displayText(def)) + '\t' + onOneLine(def.codigo);
   for (const char* key : {"codigo1", "codigo2", "codigo_xt", "codigo_yt"})
-    if (def.parameters && def.parameters->Exists(key)) line += '\t' + asField(parameter(def, key));
+    if (def.parameters && def.parameters->Exists(key))
+      line += '\t' + onOneLine(parameter(def, key));
   return line;
 }
 
@@ -38,8 +39,8 @@ int check(const Options& options, const Console& console) {
 int resave(const Options& options, const Console& console) {
   Session session;
   if (const int status = session.load(options.file, console)) return status;
-  const DeferInterrupt whole;
-  if (!writeDocument(options.out, session.view, session.graphs).written)
+  const auto bytes = documentBytes(session.view, session.graphs);
+  if (!bytes || !writeOutput(options.out, *bytes, console))
     return console.fail(messages::kCannotSave);
   return kExitDone;
 }
@@ -49,7 +50,9 @@ int resave(const Options& options, const Console& console) {
 void addCheck(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
   CLI::App* subcommand = app.add_subcommand("check", "Load a document and list its graphs");
-  subcommand->add_option("file", options->file, "FILE")->required();
+  subcommand->add_option("FILE", options->file, "Document; - is standard input")
+      ->type_name("")
+      ->required();
   subcommand->callback([&command, &console, options] {
     command = [&console, options] { return check(*options, console); };
   });
@@ -58,8 +61,12 @@ void addCheck(CLI::App& app, Console& console, Command& command) {
 void addResave(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
   CLI::App* subcommand = app.add_subcommand("resave", "Load a document and write it anew");
-  subcommand->add_option("file", options->file, "FILE")->required();
-  subcommand->add_option("out", options->out, "OUT")->required();
+  subcommand->add_option("FILE", options->file, "Document; - is standard input")
+      ->type_name("")
+      ->required();
+  subcommand->add_option("OUT", options->out, "Document; - is standard output")
+      ->type_name("")
+      ->required();
   subcommand->callback([&command, &console, options] {
     command = [&console, options] { return resave(*options, console); };
   });

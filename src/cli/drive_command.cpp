@@ -9,6 +9,7 @@
 #include "cli/drive_object.h"
 #include "cli/drive_script.h"
 #include "cli/drive_window.h"
+#include "cli/input_output.h"
 #include "cli/line_reader.h"
 #include "cli/session.h"
 #include "cli/view_options.h"
@@ -42,6 +43,7 @@ class Dialogue {
                    : runDriveLine(window_, *line));
       writeObject();
     }
+    if (reader.hasFailed()) return console_.failReading();
     return was_wrong_ || window_.wasRefused() ? kExitFailed : kExitDone;
   }
 
@@ -62,6 +64,7 @@ class Dialogue {
 };
 
 int drive(const Options& options, const Console& console) {
+  keepInputFree("FILE", options.file);
   const WantedView wanted = readViewOptions(options.view);
   std::optional<char> active;
   if (options.active) active = letterArgument("--active", *options.active);
@@ -70,6 +73,7 @@ int drive(const Options& options, const Console& console) {
   const auto opened = openedView(wanted, session.view);
   if (!opened) return console.fail("Datos no válidos en declaraciones y/o rango.");
   if (active && !session.graphInUse(*active, console)) return kExitFailed;
+  tellNarrowPicture(wanted, console);
   DriveWindow window(session.engine, session.graphs, console.err);
   window.session().resize(wanted.size);
   window.session().open(opened->view, opened->marks);
@@ -84,8 +88,9 @@ void addDrive(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
   CLI::App* subcommand =
       app.add_subcommand("drive", "Plot a document and carry out the commands that are read");
-  subcommand->add_option("file", options->file, "FILE")->required();
-  subcommand->add_option("--active", options->active, "Letter of the active graph (the first)");
+  subcommand->add_option("FILE", options->file, "Document")->type_name("")->required();
+  addText(*subcommand, "--active", options->active, "The active graph (the first)")
+      ->type_name("LETTER");
   addViewOptions(*subcommand, options->view);
   subcommand->callback([&command, &console, options] {
     command = [&console, options] { return drive(*options, console); };

@@ -6,6 +6,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/utf8.h"
+#include "cli/console.h"
+
 namespace zel {
 namespace {
 
@@ -61,6 +64,22 @@ void addShown(Json& object, const ShownPlot& shown) {
   object["closed_to"] = shown.closed_to.empty() ? Json() : Json(shown.closed_to);
 }
 
+/// The control characters from Del on, which a dump leaves as they are. Only strings hold them.
+std::string escapeHighControls(std::string_view json) {
+  std::string plain;
+  plain.reserve(json.size());
+  for (std::size_t i = 0; i < json.size(); ++i) {
+    const DecodedCharacter decoded = decodeCharacter(json.substr(i));
+    if (decoded.size == 0 || !isControl(decoded.character)) {
+      plain += json[i];
+      continue;
+    }
+    plain += "\\u00" + hexadecimal(decoded.character);
+    i += decoded.size - 1;
+  }
+  return plain;
+}
+
 }  // namespace
 
 std::string driveObject(const DriveWindow& window, const Engine& engine) {
@@ -81,7 +100,7 @@ std::string driveObject(const DriveWindow& window, const Engine& engine) {
   addTools(object, session);
   addShown(object, window.shown());
   // What is not UTF-8 can come from the answers that are read.
-  return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+  return escapeHighControls(object.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
 }  // namespace zel

@@ -8,6 +8,7 @@
 #include "base/language.h"
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/input_output.h"
 #include "cli/line_reader.h"
 #include "cli/progress.h"
 #include "cli/session.h"
@@ -19,12 +20,13 @@ namespace zel {
 namespace {
 
 struct Options {
-  std::string document;
+  std::optional<std::string> document;
   std::string t = "1";
   std::string p = "0";
   bool is_code = false;
   bool batch = false;
-  std::vector<std::string> formula_and_xs;
+  std::optional<std::string> formula;
+  std::vector<std::string> xs;
 };
 
 std::string answer(const Console& console, Engine& engine, double x, std::string_view code) {
@@ -115,27 +117,36 @@ int runBatch(const Options& options, const Console& console, Engine& engine) {
     ++count;
     progress.show([&] { return std::to_string(count); });
   }
-  return kExitDone;
+  return reader.hasFailed() ? console.failReading() : kExitDone;
+}
+
+std::vector<double> readXs(const Options& options) {
+  if (options.batch == options.formula.has_value())
+    throw CLI::ValidationError("evaluate", "give a formula and its x, or --batch");
+  std::vector<double> xs;
+  for (const std::string& x : options.xs) xs.push_back(numberArgument("X", x));
+  if (!options.batch && xs.empty()) throw CLI::ValidationError("evaluate", "an X is missing");
+  return xs;
 }
 
 int evaluate(const Options& options, const Console& console) {
-  if (options.batch != options.formula_and_xs.empty())
-    throw CLI::ValidationError("evaluate", "give a formula and its x, or --batch");
-  Session session;
   const double t = numberArgument("--t", options.t);
   const double p = numberArgument("--p", options.p);
-  std::vector<double> xs;
-  for (std::size_t i = 1; i < options.formula_and_xs.size(); ++i)
-    xs.push_back(numberArgument("X", options.formula_and_xs[i]));
-  if (!options.batch && xs.empty()) throw CLI::ValidationError("evaluate", "an X is missing");
+  const std::vector<double> xs = readXs(options);
+  if (options.batch && options.document) keepInputFree("--document", *options.document);
+  Session session;
   if (const int status = session.loadIfGiven(options.document, console)) return status;
   session.engine.SetT(t);
   session.engine.SetP(p);
   if (options.batch) return runBatch(options, console, session.engine);
 
   Compiled compiled(options.is_code);
-  const auto code = compiled.codeOf(options.formula_and_xs[0]);
-  for (const double x : xs) console.out << answer(console, session.engine, x, code) << '\n';
+  const auto code = compiled.codeOf(*options.formula);
+  Progress progress(console.err);
+  for (const double x : xs) {
+    console.out << answer(console, session.engine, x, code) << '\n';
+    progress.show([&] { return console.number(x); });
+  }
   return kExitDone;
 }
 
@@ -144,12 +155,14 @@ int evaluate(const Options& options, const Console& console) {
 void addEvaluate(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
   CLI::App* evaluation = app.add_subcommand("evaluate", "Evaluate a formula at each X");
-  evaluation->add_option("--document", options->document, "Document whose graphs can be called");
-  evaluation->add_option("--t", options->t, "Value of t (1)");
-  evaluation->add_option("--p", options->p, "Value of p (0)");
+  addText(*evaluation, "--document", options->document, "Document whose graphs can be called")
+      ->type_name("FILE");
+  evaluation->add_option("--t", options->t, "Value of t (1)")->type_name("NUMBER");
+  evaluation->add_option("--p", options->p, "Value of p (0)")->type_name("NUMBER");
   evaluation->add_flag("--code", options->is_code, "The formula is compiled code already");
   evaluation->add_flag("--batch", options->batch, "Read lines X<TAB>FORMULA[<TAB>T<TAB>P]");
-  evaluation->add_option("formula", options->formula_and_xs, "FORMULA X...");
+  addText(*evaluation, "FORMULA", options->formula, "What is evaluated")->type_name("");
+  evaluation->add_option("X", options->xs, "Where it is evaluated")->type_name("");
   evaluation->callback([&command, &console, options] {
     command = [&console, options] { return evaluate(*options, console); };
   });

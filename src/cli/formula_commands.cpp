@@ -1,38 +1,52 @@
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
+#include "base/text.h"
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/progress.h"
 #include "cli/session.h"
 #include "engine/compiler.h"
-#include "engine/formula_check.h"
 #include "engine/self_test.h"
+#include "graphs/graph_builders.h"
 
 namespace zel {
 namespace {
 
 struct Options {
-  std::string document;
+  std::optional<std::string> document;
   std::vector<std::string> formulas;
 };
 
 int compile(const Options& options, const Console& console) {
   for (const std::string& formula : options.formulas)
-    console.out << asLine(NormaliseFormula(formula)) << '\n';
+    console.out << onOneLine(NormaliseFormula(formula)) << '\n';
   return kExitDone;
+}
+
+/// What the graph editor says of this text in the field of a function; empty when it takes it.
+std::string refusalOf(const std::string& text, Engine& engine) {
+  const auto caption = inLanguage("Declaración de la función", "Function");
+  std::string message;
+  checkFormulaField({stripRelationSigns(text), std::string(caption)}, engine, message);
+  return message;
 }
 
 int checkFormulas(const Options& options, const Console& console) {
   Session session;
   if (const int status = session.loadIfGiven(options.document, console)) return status;
+  Progress progress(console.err);
+  std::size_t count = 0;
   for (const std::string& formula : options.formulas) {
-    std::string message;
-    if (CheckFormula(session.engine, formula, message))
+    const std::string refusal = refusalOf(formula, session.engine);
+    if (refusal.empty())
       console.out << "ok\n";
     else
-      console.out << "error\t" << onOneLine(message) << '\n';
+      console.out << "error\t" << onOneLine(refusal) << '\n';
+    progress.show([&] { return std::to_string(++count); });
   }
   return kExitDone;
 }
@@ -48,7 +62,7 @@ int selfTest(const Console& console) {
 CLI::App* addFormulaCommand(CLI::App& app, const char* name, const char* description,
                             const std::shared_ptr<Options>& options) {
   CLI::App* subcommand = app.add_subcommand(name, description);
-  subcommand->add_option("formula", options->formulas, "FORMULA...")->required();
+  subcommand->add_option("FORMULA", options->formulas, "As it is typed")->type_name("")->required();
   return subcommand;
 }
 
@@ -66,7 +80,8 @@ void addCheckFormula(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
   CLI::App* check =
       addFormulaCommand(app, "check-formula", "Say whether each formula may be declared", options);
-  check->add_option("--document", options->document, "Document whose graphs can be called");
+  addText(*check, "--document", options->document, "Document whose graphs can be called")
+      ->type_name("FILE");
   check->callback([&command, &console, options] {
     command = [&console, options] { return checkFormulas(*options, console); };
   });

@@ -18,7 +18,9 @@ extern "C" void onInterrupt(int) {
 
 }  // namespace
 
-void endOnInterrupt() { std::signal(SIGINT, onInterrupt); }
+void endOnInterrupt() {
+  if (std::signal(SIGINT, SIG_IGN) != SIG_IGN) std::signal(SIGINT, onInterrupt);
+}
 
 DeferInterrupt::DeferInterrupt() { deferred = 1; }
 

@@ -2,7 +2,7 @@
 
 namespace zel {
 
-/// From now on Ctrl-C ends the program with status 130.
+/// From now on Ctrl-C ends the program with status 130, unless whoever started it has it ignored.
 void endOnInterrupt();
 
 /// While one exists, Ctrl-C waits: a file that is being put in its place is put there whole.

@@ -5,11 +5,10 @@
 #include "base/text.h"
 #include "cli/commands.h"
 #include "cli/file_picture.h"
-#include "cli/interrupt.h"
+#include "cli/input_output.h"
 #include "cli/progress.h"
 #include "cli/session.h"
 #include "cli/view_options.h"
-#include "files/whole_file.h"
 #include "plot/drawing.h"
 
 namespace zel {
@@ -40,7 +39,9 @@ class ProgressScreen : public Screen {
   StatusPanels status_;
 };
 
+/// Standard output gets SVG, which every build can write.
 std::string endingOf(const std::string& path) {
+  if (isStandardStream(path)) return "svg";
   const std::size_t dot = path.find_last_of("./\\");
   return dot == std::string::npos || path[dot] != '.' ? "" : toLower(path.substr(dot + 1));
 }
@@ -60,8 +61,9 @@ int render(const Options& options, const Console& console) {
   const WantedView wanted = readViewOptions(options.view);
   const std::string ending = endingOf(options.out);
   if (!canMakePicture(ending))
-    throw CLI::ValidationError("-o", "the picture must end in .png, .svg or .pdf");
-  const auto file = makeFilePicture(ending, options.view.width, options.view.height);
+    throw CLI::ValidationError("-o", "the picture must end in .png, .svg or .pdf, or be -");
+  if (tellNarrowPicture(wanted, console)) return kExitFailed;
+  const auto file = makeFilePicture(ending, wanted.width, wanted.height);
   if (!file) return console.fail("Valores demasiado grandes para operar.");
   Session session;
   if (const int status = session.load(options.file, console)) return status;
@@ -72,8 +74,7 @@ int render(const Options& options, const Console& console) {
   viewport.size = wanted.size;
   if (const int status = draw(session, viewport, opened->marks, *file, console)) return status;
   const std::string bytes = file->bytes();
-  const DeferInterrupt whole;
-  if (bytes.empty() || !writeWholeFile(options.out, bytes).written)
+  if (bytes.empty() || !writeOutput(options.out, bytes, console))
     return console.fail(messages::kCannotSave);
   return kExitDone;
 }
@@ -83,8 +84,13 @@ int render(const Options& options, const Console& console) {
 void addRender(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
   CLI::App* subcommand = app.add_subcommand("render", "Draw a document into a picture file");
-  subcommand->add_option("file", options->file, "FILE")->required();
-  subcommand->add_option("-o", options->out, "Picture: .png, .svg or .pdf")->required();
+  subcommand->add_option("FILE", options->file, "Document; - is standard input")
+      ->type_name("")
+      ->required();
+  subcommand
+      ->add_option("-o", options->out, "Picture: .png, .svg or .pdf; - is SVG on standard output")
+      ->type_name("OUT")
+      ->required();
   addViewOptions(*subcommand, options->view);
   subcommand->callback([&command, &console, options] {
     command = [&console, options] { return render(*options, console); };

@@ -2,16 +2,30 @@
 
 #include <ostream>
 
+#include "base/code_page.h"
+#include "cli/input_output.h"
+#include "files/whole_file.h"
+
 namespace zel {
 
 int Session::load(const std::string& path, const Console& console) {
   std::string message;
-  if (loadDocument(path, view, graphs, header, message)) return kExitDone;
+  if (isStandardStream(path) ? loadStandardInput(console, message) : loadFile(path, message))
+    return kExitDone;
   return console.fail(openFailureMessage(message));
 }
 
-int Session::loadIfGiven(const std::string& path, const Console& console) {
-  return path.empty() ? kExitDone : load(path, console);
+bool Session::loadFile(const std::string& path, std::string& message) {
+  return fileExists(path) && loadDocument(path, view, graphs, header, message);
+}
+
+bool Session::loadStandardInput(const Console& console, std::string& message) {
+  const auto bytes = readStandardInput(console);
+  return bytes && loadDocumentText(fromCodePage(*bytes), view, graphs, header, message);
+}
+
+int Session::loadIfGiven(const std::optional<std::string>& path, const Console& console) {
+  return path ? load(*path, console) : kExitDone;
 }
 
 std::optional<GraphDef> Session::graphInUse(char letter, const Console& console) const {

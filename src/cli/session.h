@@ -17,14 +17,19 @@ struct Session {
   DocumentHeader header;
   Engine engine{[this](char letter) { return graphs.codeOf(letter); }};
 
-  /// Loads a document; a refusal is said on standard error. Returns the exit status.
+  /// Loads a document, which must be there; "-" is standard input. A refusal is said on standard
+  /// error. Returns the exit status.
   int load(const std::string& path, const Console& console);
 
   /// load, when there is a path.
-  int loadIfGiven(const std::string& path, const Console& console);
+  int loadIfGiven(const std::optional<std::string>& path, const Console& console);
 
   /// A graph in use; that there is none is said on standard error.
   std::optional<GraphDef> graphInUse(char letter, const Console& console) const;
+
+ private:
+  bool loadFile(const std::string& path, std::string& message);
+  bool loadStandardInput(const Console& console, std::string& message);
 };
 
 }  // namespace zel

@@ -88,12 +88,14 @@ int table(const Options& options, const Console& console) {
 void addTable(CLI::App& app, Console& console, Command& command) {
   const auto options = std::make_shared<Options>();
   CLI::App* subcommand = app.add_subcommand("table", "Print the values of a graph");
-  subcommand->add_option("file", options->file, "FILE")->required();
-  subcommand->add_option("--graph", options->graph, "Letter of the graph")->required();
-  subcommand->add_option("--from", options->from, "First x (or t)")->required();
-  subcommand->add_option("--to", options->to, "Last x (or t)")->required();
-  subcommand->add_option("--step", options->step, "Step")->required();
-  subcommand->add_option("--p", options->p, "Value of p (0)");
+  subcommand->add_option("FILE", options->file, "Document; - is standard input")
+      ->type_name("")
+      ->required();
+  subcommand->add_option("--graph", options->graph, "The graph")->type_name("LETTER")->required();
+  subcommand->add_option("--from", options->from, "First x (or t)")->type_name("A")->required();
+  subcommand->add_option("--to", options->to, "Last x (or t)")->type_name("B")->required();
+  subcommand->add_option("--step", options->step, "Step")->type_name("S")->required();
+  subcommand->add_option("--p", options->p, "Value of p (0)")->type_name("NUMBER");
   subcommand->callback([&command, &console, options] {
     command = [&console, options] { return table(*options, console); };
   });

@@ -1,5 +1,9 @@
 #include "cli/view_options.h"
 
+#include <limits>
+#include <ostream>
+
+#include "app/main_commands.h"
 #include "cli/arguments.h"
 #include "numbers/number_text.h"
 
@@ -7,6 +11,7 @@ namespace zel {
 namespace {
 
 constexpr long long kMostPixels = 1 << 27;  // of the whole picture
+constexpr int kLeastWidth = 100;            // pixels; samples are counted by whole hundreds of them
 
 std::vector<double> numbers(const char* name, const std::vector<std::string>& arguments) {
   std::vector<double> result;
@@ -15,16 +20,9 @@ std::vector<double> numbers(const char* name, const std::vector<std::string>& ar
 }
 
 std::int16_t readQuality(const std::string& argument) {
-  const double quality = numberArgument("--quality", argument);
-  const auto rounded = roundToInt16(quality);
-  if (!rounded || *rounded != quality)
-    throw CLI::ValidationError("--quality", "give an integer of 16 bits");
-  return *rounded;
-}
-
-/// A scale field: empty reads as 0.
-std::optional<double> readScale(const std::string& text) {
-  return text.empty() ? 0.0 : readNumber(text);
+  using Limits = std::numeric_limits<std::int16_t>;
+  const int quality = integerArgument("--quality", argument, Limits::min(), Limits::max());
+  return static_cast<std::int16_t>(quality);
 }
 
 std::optional<std::vector<double>> readRange(const MainView& fields) {
@@ -38,35 +36,47 @@ std::optional<std::vector<double>> readRange(const MainView& fields) {
 }
 
 std::optional<ScaleMarks> readMarks(const WantedView& wanted, const MainView& fields) {
-  const auto x = wanted.marks.empty() ? readScale(fields.escala_x) : wanted.marks[0];
-  const auto y = wanted.marks.empty() ? readScale(fields.escala_y) : wanted.marks[1];
-  if (!x || !y) return std::nullopt;
-  return ScaleMarks{*x, *y, *x != 0, *y != 0};
+  if (wanted.marks.empty()) return readScaleMarks(fields.escala_x, fields.escala_y);
+  return ScaleMarks{wanted.marks[0], wanted.marks[1], wanted.marks[0] != 0, wanted.marks[1] != 0};
 }
 
 }  // namespace
 
 void addViewOptions(CLI::App& command, ViewOptions& options) {
-  const auto side = CLI::Range(1, kLongestSide);
-  command.add_option("--width", options.width, "Pixels (800)")->check(side);
-  command.add_option("--height", options.height, "Pixels (600)")->check(side);
-  command.add_option("--range", options.range, "XI XF YI YF")->expected(4);
-  command.add_option("--quality", options.quality, "Sample points per 100 pixels");
-  command.add_option("--proportional", options.proportional, "yes or no")
-      ->check(CLI::IsMember({"yes", "no"}));
-  command.add_option("--marks", options.marks, "Distances of the scale marks: X Y")->expected(2);
+  command.add_option("--width", options.width, "Width of the picture (800)")->type_name("PX");
+  command.add_option("--height", options.height, "Height of the picture (600)")->type_name("PX");
+  command.add_option("--range", options.range, "The part of the plane that is shown")
+      ->expected(4)
+      ->option_text("XI XF YI YF");
+  addText(command, "--quality", options.quality, "Sample points per 100 pixels")->type_name("N");
+  command.add_option("--proportional", options.proportional, "One unit is as long on both axes")
+      ->check(CLI::IsMember({"yes", "no"}))
+      ->option_text("yes|no");
+  command.add_option("--marks", options.marks, "Distances of the scale marks")
+      ->expected(2)
+      ->option_text("X Y");
 }
 
 WantedView readViewOptions(const ViewOptions& options) {
-  if (static_cast<long long>(options.width) * options.height > kMostPixels)
-    throw CLI::ValidationError("--width", "the picture is too large");
   WantedView wanted;
-  wanted.size = PictureSize::ofPixels(options.width, options.height);
+  wanted.width = integerArgument("--width", options.width, 1, kLongestSide);
+  wanted.height = integerArgument("--height", options.height, 1, kLongestSide);
+  if (static_cast<long long>(wanted.width) * wanted.height > kMostPixels)
+    throw CLI::ValidationError("--width", "the picture is too large");
+  wanted.size = PictureSize::ofPixels(wanted.width, wanted.height);
   wanted.range = numbers("--range", options.range);
-  if (!options.quality.empty()) wanted.quality = readQuality(options.quality);
+  if (options.quality) wanted.quality = readQuality(*options.quality);
   if (!options.proportional.empty()) wanted.proportional = options.proportional == "yes";
   wanted.marks = numbers("--marks", options.marks);
   return wanted;
+}
+
+bool tellNarrowPicture(const WantedView& wanted, const Console& console) {
+  if (wanted.width >= kLeastWidth) return false;
+  console.err << inLanguage("La imagen es demasiado angosta para una muestra: necesita ",
+                            "The picture is too narrow for a sample: it needs ")
+              << kLeastWidth << inLanguage(" píxeles de ancho.", " pixels of width.") << '\n';
+  return true;
 }
 
 std::optional<OpenedView> openedView(const WantedView& wanted, const MainView& fields) {

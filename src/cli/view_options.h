@@ -7,6 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "cli/console.h"
 #include "files/document.h"
 #include "plot/axes.h"
 #include "plot/viewport.h"
@@ -17,10 +18,10 @@ inline constexpr int kLongestSide = 32767;  // pixels
 
 /// The options of a command that draws a document, as they were typed; empty where they were not.
 struct ViewOptions {
-  int width = 800;   // pixels
-  int height = 600;  // pixels
+  std::string width = "800";   // pixels
+  std::string height = "600";  // pixels
   std::vector<std::string> range;
-  std::string quality;
+  std::optional<std::string> quality;
   std::string proportional;
   std::vector<std::string> marks;
 };
@@ -29,6 +30,8 @@ void addViewOptions(CLI::App& command, ViewOptions& options);
 
 /// What the command line says in the place of the document.
 struct WantedView {
+  int width = 0;   // pixels
+  int height = 0;  // pixels
   PictureSize size;
   std::vector<double> range;  // xi, xf, yi, yf, or nothing
   std::optional<std::int16_t> quality;
@@ -39,14 +42,17 @@ struct WantedView {
 /// Throws CLI::ValidationError with a line that says what is wrong.
 WantedView readViewOptions(const ViewOptions& options);
 
+/// Whether not one sample fits into the picture; then says so, with the width that it needs.
+bool tellNarrowPicture(const WantedView& wanted, const Console& console);
+
 /// What the plot window opens with.
 struct OpenedView {
   ViewSettings view;
   ScaleMarks marks;
 };
 
-/// Nothing when a field of the document that counts is no number. An axis whose distance is 0 or
-/// not given shows no marks.
+/// Nothing when a field of the document that counts is no number. Its scale texts are read as the
+/// main window reads them; of the command line, a distance of 0 means no marks.
 std::optional<OpenedView> openedView(const WantedView& wanted, const MainView& fields);
 
 }  // namespace zel

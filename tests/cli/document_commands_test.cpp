@@ -25,6 +25,65 @@ TEST_F(DocumentCommands, CheckListsTheGraphsInLetterOrder) {
             "z\tZ\t#ff0000\tz(x,P)=p*x [-2<=P<=2]\tp*x\n");
 }
 
+TEST_F(DocumentCommands, CheckLeavesTheColumnOfAMissingKindEmpty) {
+  const std::string file = writeDocument(
+      "k.zel", "",
+      "[GRAFICO]\r\n[PROPIEDADES]\r\nnombre=a\r\ncolor=255\r\necuacion=x\r\ntipo=\r\ncodigo=x\r\n"
+      " \r\n[PARAMETROS]\r\n \r\n \r\n");
+  EXPECT_EQ(run({"check", file}).out, "a\t\t#ff0000\t\t\n");
+}
+
+TEST_F(DocumentCommands, CheckShowsControlCharactersEscaped) {
+  const std::string file =
+      writeDocument("c.zel", "", block('a', 'F', "x\\2\t+\n\x1b]0;title\x07\x9d\x80"));
+  EXPECT_EQ(run({"check", file}).out,
+            "a\tF\t#ff0000\ta(x)=x\\\\2\\t+\\n\\x1b]0;title\\x07\\x9d€\t"
+            "x\\\\2\\t+\\n\\x1b]0;title\\x07\\x9d€\n");
+}
+
+TEST_F(DocumentCommands, NoCommandCreatesADocumentThatIsMissing) {
+  const std::string missing = path("missing.zel");
+  for (const std::vector<std::string>& line : std::vector<std::vector<std::string>>{
+           {"check", missing},
+           {"resave", missing, path("out.zel")},
+           {"table", missing, "--graph", "a", "--from", "0", "--to", "1", "--step", "1"},
+           {"render", missing, "-o", path("out.svg")},
+           {"drive", missing},
+           {"evaluate", "x", "1", "--document", missing},
+           {"evaluate", "--batch", "--document", missing},
+           {"check-formula", "x", "--document", missing}}) {
+    const Run result = run(line);
+    EXPECT_EQ(result.status, 1) << line[0];
+    EXPECT_EQ(result.out, "") << line[0];
+    EXPECT_EQ(result.err, "Error: No se pudo abrir el archivo.\n") << line[0];
+    for (const char* name : {"missing.zel", "out.zel", "out.svg"})
+      EXPECT_FALSE(std::filesystem::exists(path(name))) << line[0] << " " << name;
+  }
+}
+
+TEST_F(DocumentCommands, ReadStandardInputInThePlaceOfAFile) {
+  const CurrentFolderGuard current{std::filesystem::path(path("")).parent_path()};
+  const std::string waves = bytesOf(example("waves.zel"));
+  const std::string listed = run({"check", example("waves.zel")}).out;
+  EXPECT_NE(listed, "");
+  EXPECT_EQ(run({"check", "-"}, waves).out, listed);
+  EXPECT_EQ(run({"resave", "-", "-"}, waves).out, waves);
+  EXPECT_EQ(run({"resave", example("waves.zel"), "-"}).out, waves);
+  EXPECT_EQ(
+      run({"table", "-", "--graph", "a", "--from", "90", "--to", "90", "--step", "1"}, waves).out,
+      "90;1\n");
+  EXPECT_EQ(run({"evaluate", "a(x)", "90", "--document", "-"}, waves).out, "ok\t1\n");
+  EXPECT_FALSE(std::filesystem::exists("-"));
+}
+
+TEST_F(DocumentCommands, RefuseStandardInputAsTheyRefuseAFile) {
+  const Run empty = run({"check", "-"}, "");
+  EXPECT_EQ(empty.status, 1);
+  EXPECT_EQ(empty.err, "El archivo no es compatible con esta versión del programa.\n");
+  EXPECT_EQ(run({"evaluate", "--batch", "--document", "-"}).status, 2);
+  EXPECT_EQ(run({"drive", "-"}).status, 2);
+}
+
 TEST_F(DocumentCommands, CheckRefusesWithTheMessageOfTheDocument) {
   const Run incompatible = run({"check", write("a.zel", "versiones_compatibles=2.1")});
   EXPECT_EQ(incompatible.status, 1);

@@ -243,5 +243,19 @@ TEST_F(DriveCommand, WholeNumbersAreIntegersAndZeroHasNoSign) {
       << result.out;
 }
 
+TEST_F(DriveCommand, EscapesTheControlCharactersOfADocument) {
+  const Run result = run({"drive", planeOf("x+\x07\x7f\x9d\xe9")}, "key 67\n");
+  EXPECT_NE(result.out.find("\"text\":\"x+\\u0007\\u007f\\u009dé\""), std::string::npos)
+      << result.out;
+}
+
+TEST_F(DriveCommand, SaysThatAPictureIsTooNarrowForASample) {
+  const Driven driven = drive(planeOf("x"), "", {"--width", "99"});
+  EXPECT_EQ(driven.status, 1);
+  EXPECT_EQ(driven.err,
+            "La imagen es demasiado angosta para una muestra: necesita 100 píxeles de ancho.\n");
+  EXPECT_EQ(driven.last()["closed_to"], "main");
+}
+
 }  // namespace
 }  // namespace zel::test

@@ -21,6 +21,22 @@ TEST_F(EvaluateCommand, TakesAFormulaThatBeginsWithASign) {
   EXPECT_EQ(run({"evaluate", "--", "-x^2", "-3"}).out, "ok\t-9\n");
 }
 
+TEST_F(EvaluateCommand, TakesAFormulaThatBeginsAsTheOptionOfAnotherCommand) {
+  const std::vector<std::string> calls = {"evaluate", "-o(3)", "3", "--document",
+                                          writeDocument("o.zel", "", block('o', 'F', "x+4"))};
+  EXPECT_EQ(run(calls).out, "ok\t1\n");  // 0-3+4: the call is not put in parentheses
+  EXPECT_EQ(run({"compile", "-o", "-o2", "-output"}).out, "-o\n-o2\n-output\n");
+}
+
+TEST_F(EvaluateCommand, TakesTheNamesOfCommandsAsFormulas) {
+  EXPECT_EQ(run({"compile", "x", "check", "render"}).out, "x\ncheck\nrender\n");
+}
+
+TEST_F(EvaluateCommand, TakesBracketsAndMarksAsTheyStand) {
+  EXPECT_EQ(run({"compile", "{}"}).out, "{}\n");
+  EXPECT_EQ(run({"compile", "", "[x]", "%%", "\x01", "\x02x"}).out, "\n[x]\n%%\n\\x01\n\\x02x\n");
+}
+
 TEST_F(EvaluateCommand, PutsAnUndefinedValueOnOneLineAndIsStillDone) {
   const Run result = run({"evaluate", "ln(x)", "0", "1"});
   EXPECT_EQ(result.status, 0);
@@ -101,6 +117,40 @@ TEST_F(EvaluateCommand, RefusesAWrongCommandLine) {
     EXPECT_EQ(result.status, 2) << ::testing::PrintToString(line);
     EXPECT_EQ(result.out, "") << ::testing::PrintToString(line);
     EXPECT_NE(result.err, "") << ::testing::PrintToString(line);
+  }
+}
+
+TEST_F(EvaluateCommand, TellsAnEmptyArgumentFromNone) {
+  EXPECT_EQ(run({"evaluate", "", "1"}).out, "error\tNo se encuentra el operador.\n");
+  EXPECT_EQ(run({"evaluate", "x", "1", "--document", ""}).err,
+            "Error: No se pudo abrir el archivo.\n");
+  EXPECT_EQ(run({"check-formula", "x", "--document", ""}).status, 1);
+  EXPECT_EQ(run({"evaluate", "x", "1", "--t", ""}).status, 2);
+  EXPECT_EQ(run({"drive", example("waves.zel"), "--active", ""}).status, 2);
+  EXPECT_EQ(run({"drive", example("waves.zel"), "--quality", ""}).status, 2);
+}
+
+TEST_F(EvaluateCommand, NamesWhatItDoesNotKnow) {
+  struct Row {
+    std::vector<std::string> line;
+    std::string complaint;
+  };
+  for (const Row& row :
+       {Row{{"nonsense"}, "there is no command nonsense"},
+        Row{{"--lang", "EN", "nonsense", "--help"}, "there is no command nonsense"},
+        Row{{"non\x1b\nsense"}, "there is no command non\\x1b\\nsense"},
+        Row{{""}, "there is no command "}, Row{{}, "a command is missing"},
+        Row{{"--bogus"}, "there is no option --bogus"},
+        Row{{"evaluate", "x", "1", "--bogus=3"}, "there is no option --bogus"},
+        Row{{"check", "--bogus"}, "there is no option --bogus"},
+        Row{{"check", "-v", "a.zel"}, "there is no option -v"},
+        Row{{"check", "-v"}, "there is no option -v"},
+        Row{{"self-test", "-x"}, "there is no option -x"},
+        Row{{"check", "a", "b"}, "one argument too many: b"},
+        Row{{"evaluate", "x", "\xFF"}, "X: '\xEF\xBF\xBD' is not a number"}}) {
+    const Run result = run(row.line);
+    EXPECT_EQ(result.status, 2) << row.complaint;
+    EXPECT_EQ(result.err, row.complaint + "\n");
   }
 }
 

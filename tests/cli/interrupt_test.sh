@@ -13,7 +13,7 @@ printf '%s\r\n' '[PRINCIPAL]' '01.versiones_compatibles=2.0' ' ' '[VISTA PRINCIP
 
 # interrupted NAME COMMAND...: the command must still run after a second, and end with 130.
 interrupted() {
-  local name=$1 pid status
+  local name=$1 pid watchdog status
   shift
   # A shell's background jobs ignore Ctrl-C; setting the trap to its default undoes that.
   (
@@ -30,8 +30,11 @@ os.execv(sys.argv[1], sys.argv[1:])' "$@"
     echo "$name ended by itself"
     failures=$((failures + 1))
   fi
+  (sleep 60 && kill -KILL "$pid") >/dev/null 2>&1 & # what cannot be interrupted fails, and ends too
+  watchdog=$!
   wait "$pid"
   status=$?
+  kill "$watchdog" 2>/dev/null
   exec 9>&-
   if [[ $status -ne 130 ]]; then
     echo "$name ended with $status"
@@ -48,6 +51,31 @@ interrupted "a plot with a family with a step of 0" "$cli" drive "$work/endless.
 interrupted "a plot that waits for commands" \
   "$cli" drive "$source_dir/examples/waves.zel" --quality 1
 interrupted "a batch that waits for input" "$cli" evaluate --batch
+mkfifo "$work/unread.svg" "$work/unread.zel"
+interrupted "a picture for a pipe that nobody reads" \
+  "$cli" render "$source_dir/examples/waves.zel" -o "$work/unread.svg"
+interrupted "a document for a pipe that nobody reads" \
+  "$cli" resave "$source_dir/examples/waves.zel" "$work/unread.zel"
+for pipe in "$work/unread.svg" "$work/unread.zel"; do
+  [[ -p $pipe ]] || { echo "$pipe is no pipe any more"; failures=$((failures + 1)); }
+done
+rm "$work/unread.svg" "$work/unread.zel"
+
+# Whoever starts the program with Ctrl-C ignored keeps it ignored: the answer comes after the signal.
+python3 - "$cli" <<'PYTHON' || failures=$((failures + 1))
+import signal, subprocess, sys
+batch = subprocess.Popen([sys.argv[1], "evaluate", "--batch"], stdin=subprocess.PIPE,
+                         stdout=subprocess.PIPE,
+                         preexec_fn=lambda: signal.signal(signal.SIGINT, signal.SIG_IGN))
+for x in b"1\tx\n", b"2\tx\n":
+    batch.stdin.write(x)
+    batch.stdin.flush()
+    answer = batch.stdout.readline()
+    assert answer == b"ok\t" + x[:1] + b"\n", f"an ignored Ctrl-C ended the program: {answer}"
+    batch.send_signal(signal.SIGINT)
+batch.stdin.close()
+assert batch.wait() == 0, batch.returncode
+PYTHON
 
 left=$(find "$work" -name '*.svg*' -o -name '.zel-*')
 if [[ -n $left ]]; then

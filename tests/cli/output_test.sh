@@ -31,6 +31,33 @@ check "there are six examples at least" test ${#examples[@]} -ge 6
 check "a full disk fails" test $? -eq 1
 check "a full disk has its line" grep -q 'No se pudo escribir la salida.' "$work/err"
 
+for asked in --version --help "render --help"; do
+  # shellcheck disable=SC2086 # two words
+  "$cli" $asked >/dev/full 2>"$work/err"
+  check "$asked to a full disk fails" test $? -eq 1
+  check "$asked to a full disk has its line" grep -q 'No se pudo escribir la salida.' "$work/err"
+done
+
+# A pipe and a device are written as they are, and stay what they are.
+mkfifo "$work/fifo.svg" "$work/fifo.zel"
+"$cli" render "$source_dir/examples/waves.zel" -o "$work/waves.svg"
+cat "$work/fifo.svg" >"$work/through.svg" &
+reader=$!
+check "render to a pipe" "$cli" render "$source_dir/examples/waves.zel" -o "$work/fifo.svg"
+wait "$reader"
+check "the pipe gets the picture" cmp "$work/waves.svg" "$work/through.svg"
+cat "$work/fifo.zel" >"$work/through.zel" &
+reader=$!
+check "resave to a pipe" "$cli" resave "$source_dir/examples/waves.zel" "$work/fifo.zel"
+wait "$reader"
+check "the pipe gets the document" cmp "$source_dir/examples/waves.zel" "$work/through.zel"
+check "the pipe is still there" test -p "$work/fifo.svg" -a -p "$work/fifo.zel"
+check "a device takes a document" "$cli" resave "$source_dir/examples/waves.zel" /dev/null
+check "the device is still there" test -c /dev/null
+"$cli" resave "$source_dir/examples/waves.zel" /dev/full 2>"$work/err"
+check "a full device fails" test $? -eq 1
+check "a full device has its line" grep -q 'No se pudo salvar el archivo.' "$work/err"
+
 # The SVG is well-formed.
 check "svg" "$cli" render "$source_dir/examples/all_kinds.zel" -o "$work/a.svg"
 check "svg is well-formed" xmllint --noout "$work/a.svg"

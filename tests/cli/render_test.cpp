@@ -82,6 +82,46 @@ TEST_F(RenderCommand, TakesAnySixteenBitQualityAsItIs) {
   EXPECT_EQ(run({"render", line, "-o", path("o.svg"), "--quality", "1,5"}).status, 2);
 }
 
+TEST_F(RenderCommand, ReadsIntegersAsDecimals) {
+  EXPECT_NE(svg(line, {"--width", "0100", "--height", "+8"}).find("viewBox=\"0 0 1500 120\""),
+            std::string::npos);
+  for (const char* width : {"0x100", "0b11", "1'000", "100,5", "99999999999", "1e999", "nan", ""})
+    EXPECT_EQ(run({"render", line, "-o", path("o.svg"), "--width", width}).status, 2) << width;
+}
+
+TEST_F(RenderCommand, SaysThatAPictureIsTooNarrowForASample) {
+  EXPECT_EQ(refusal(line, {"--width", "99"}),
+            "La imagen es demasiado angosta para una muestra: necesita 100 píxeles de ancho.\n");
+  EXPECT_EQ(refusal(line, {"--width", "1", "--lang", "EN"}),
+            "The picture is too narrow for a sample: it needs 100 pixels of width.\n");
+  EXPECT_NE(svg(line, {"--width", "100"}), "");
+}
+
+TEST_F(RenderCommand, ReadsTheScalesOfTheDocumentAsTheMainWindowDoes) {
+  const auto document = [&](const std::string& scale) {
+    return writeDocument(
+        "s.zel",
+        "xi=0\r\nxf=8\r\nyi=0\r\nyf=6\r\ndefinicion=1\r\nescala_y=0\r\nescala_x=" + scale + "\r\n",
+        block('a', 'F', "x/2"));
+  };
+  const std::string by_two = svg(document("2"));
+  EXPECT_NE(by_two.find("<line x1=\"3000\" y1=\"8960\""), std::string::npos) << by_two;
+  EXPECT_EQ(svg(document("  2 ")), by_two);
+  EXPECT_EQ(svg(document("  0 ")), svg(document("")));
+  EXPECT_EQ(refusal(document("0,0")),
+            "Error: No se puede graficar con la ecuación y rango elegidos.\n");
+  EXPECT_EQ(refusal(document("   ")), "Datos no válidos en declaraciones y/o rango.\n");
+}
+
+TEST_F(RenderCommand, WritesSvgToStandardOutput) {
+  const CurrentFolderGuard current{std::filesystem::path(path("")).parent_path()};
+  const std::string text = svg(line);
+  const Run result = run({"render", "-", "-o", "-"}, bytesOf(line));
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.out, text);
+  EXPECT_FALSE(std::filesystem::exists("-"));
+}
+
 TEST_F(RenderCommand, PrintsTheMessageOfARefusedRange) {
   EXPECT_EQ(refusal(line, {"--range", "1", "1", "0", "1", "--lang", "EN"}),
             "Cannot graph because interval range is too small.\n");
