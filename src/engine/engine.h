@@ -45,59 +45,63 @@ class Engine {
   /// it leaves the engine as they would. A value is NaN where the code is undefined; there are no
   /// messages. `values` has a place for each x.
   void EvaluateSweep(std::string_view code, std::span<const double> xs, std::span<double> values);
+  /// The same for as many of the first x as can be had without keeping a user waiting, at least
+  /// one where there is one; their number.
+  std::size_t SweepPart(std::string_view code, std::span<const double> xs,
+                        std::span<double> values);
 
   /// The points of a parametric curve: for each t, one after the other, what SetT(t), Evaluate of
-  /// `code_x` at t and Evaluate of `code_y` at t give. Otherwise as EvaluateSweep; every t is
-  /// finite.
-  void EvaluateCurve(std::string_view code_x, std::string_view code_y, std::span<const double> ts,
-                     std::span<double> xs, std::span<double> ys);
+  /// `code_x` at t and Evaluate of `code_y` at t give. Otherwise as SweepPart; every t is finite.
+  std::size_t CurvePart(std::string_view code_x, std::string_view code_y,
+                        std::span<const double> ts, std::span<double> xs, std::span<double> ys);
+
+  /// What one evaluation of the last code costs, in bytes of its expansion. Between two looks at
+  /// pending events there is room for kMostWork of that.
+  std::size_t costOfLast() const { return reference_.expanded().size() + 1; }
+  static constexpr std::size_t kMostWork = 262'144;
 
   const ParseCache& parseCache() const { return reference_.parseCache(); }
 
  private:
-  /// What the parse cache is in for when the last code is evaluated next.
-  enum class State {
-    unknown,    // not looked at yet
-    replaying,  // it is valid for the code and at its first slot: plan_ is what it holds
-    recording,  // it is not valid, and at its first slot
-    exhausted,  // it is beyond its last slot
-    mixed,      // only the reference knows
-  };
-
-  /// The first steps of an evaluation: the code's expansion, its plan and the state. False when the
-  /// expansion outgrew its limit.
+  /// The first steps of an evaluation: the code's expansion, its plan, and the parse cache made
+  /// ready. False when the expansion outgrew its limit.
   bool select(std::string_view code);
-  bool expand(std::string_view code);
-  State findState(std::string_view code);
+  /// Whether a fault left the parse cache valid and in the middle of its record.
+  bool readsOn() const {
+    const ParseCache& cache = reference_.parseCache();
+    return cache.position() != 1 && !cache.code().empty();
+  }
 
   /// Evaluate; without a message if there is no place for one.
   bool evaluate(double x, double& result, std::string_view code, std::string* message);
-  bool evaluateByReference(double x, double& result, std::string_view code, std::string* message);
-  bool evaluateByPlan(double x, double& result, std::string_view code, std::string* message);
-  PlanOutcome evaluateStrictly(const PreparedPlan& prepared, double x, double t) const;
-  /// Leaves the parse cache and the state as an evaluation with this outcome does.
+  /// The evaluation after such a fault, which is the reference's.
+  bool readOn(double x, double& result, std::string_view code, std::string* message);
+  PlanOutcome evaluateByPlan(double x);
+  static PlanOutcome evaluateStrictly(const Plan& plan, double x, double t, double p);
+  /// Leaves the parse cache as an evaluation of the code with this outcome does.
   void settle(const PlanOutcome& outcome, std::string_view code);
 
-  bool canRunBlocks(const PreparedPlan* prepared) const;
-  /// Runs the next block of a sweep as far as it can; the number of values that it gave.
+  bool canRunBlocks(const Plan& plan) const;
+  /// Runs the next block of a sweep as far as it can; the number of values that it gave. `work` is
+  /// what that cost.
   std::size_t sweepBlock(std::string_view code, std::span<const double> xs,
-                         std::span<double> values);
-  /// Leaves everything as the evaluations of the block do; the number of values that it is true
-  /// of, 0 where the block has to be evaluated one by one.
+                         std::span<double> values, std::size_t& work);
+  /// Leaves everything as the evaluations of the block do, and gives the values that were read on
+  /// after a fault; what that cost.
   std::size_t settleBlock(const BlockProgram::Report& report, std::string_view code,
-                          std::span<const double> xs, std::span<const double> all_values);
+                          std::span<const double> xs, std::span<double> values);
   std::size_t curveBlock(std::string_view code_x, std::string_view code_y,
-                         std::span<const double> ts, std::span<double> xs, std::span<double> ys);
-  /// Afterwards clean_plan_ is the one of `code_y`, as before.
-  void settleCurve(const PreparedPlan& plan_x, std::string_view code_y, std::span<const double> ts,
+                         std::span<const double> ts, std::span<double> xs, std::span<double> ys,
+                         std::size_t& work);
+  /// Afterwards plan_ is the one of `code_y`, as before.
+  void settleCurve(const Plan& plan_x, std::string_view code_y, std::span<const double> ts,
                    std::span<const double> xs, std::span<const double> ys);
 
   ReferenceEngine reference_;
   PlanCache plans_;
-  std::shared_ptr<PreparedPlan> clean_plan_;  // of the last code, when it is recorded; may be none
-  std::shared_ptr<PreparedPlan> plan_;        // the one that the state is about
-  State state_ = State::unknown;
-  int mixed_replays_ = 0;  // so many in a row
+  std::shared_ptr<PreparedPlan> plan_;  // of the last code; none if it outgrew its limit
+  std::size_t recorded_ = 0;  // so many slots are known to hold what the last code records
+  bool replays_ = false;      // the parse cache is valid for the last code and at its first slot
   NameValues names_;
   bool has_readable_names_ = true;
   std::optional<double> untold_t_;  // not given to the reference yet

@@ -4,6 +4,8 @@
 
 #include "engine/grammar.h"
 
+#include "base/language.h"
+
 namespace zel {
 
 bool IsBalanced(std::string_view text) {
@@ -49,14 +51,21 @@ Split SplitAtMainOperator(std::string_view text) {
   }
   if (best_place == text.size()) return {{}, {}, {}, SplitFailure::no_operator};
 
-  Split split;
-  split.op = text.substr(best_place, 1);
-  split.left = StripOuterParentheses(text.substr(0, best_place));
-  split.right = StripOuterParentheses(text.substr(best_place + 1));
-  const bool is_sign = split.op == "+" || split.op == "-";
-  if (is_sign && split.left.empty() && !split.right.empty()) split.left = "0";
-  if (split.left.empty() || split.right.empty()) split.failure = SplitFailure::missing_operand;
+  return MakeSplit(StripOuterParentheses(text.substr(0, best_place)), text.substr(best_place, 1),
+                   StripOuterParentheses(text.substr(best_place + 1)));
+}
+
+Split MakeSplit(std::string_view left, std::string_view op, std::string_view right) {
+  Split split = {left, right, op};
+  const bool is_sign = op == "+" || op == "-";
+  if (is_sign && left.empty() && !right.empty()) split.left = "0";
+  if (split.left.empty() || right.empty()) split.failure = SplitFailure::missing_operand;
   return split;
+}
+
+std::string SplitMessage(SplitFailure failure, std::string_view text) {
+  if (failure == SplitFailure::no_operator) return Localize("No se encuentra el operador.");
+  return Localize("Error: No se entiende el elemento: ") + "'" + std::string(text) + "'";
 }
 
 }  // namespace zel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 /// The grammar of the code: how a text is taken apart into operands. Precedence and associativity
@@ -34,5 +35,11 @@ struct Split {
 /// The main operator is the rightmost of the weakest operators outside parentheses. A sign without
 /// a left operand gets "0" there.
 Split SplitAtMainOperator(std::string_view text);
+
+/// The split at an operator that has been found, its operands stripped.
+Split MakeSplit(std::string_view left, std::string_view op, std::string_view right);
+
+/// The message of a text that could not be split, in the current language.
+std::string SplitMessage(SplitFailure failure, std::string_view text);
 
 }  // namespace zel

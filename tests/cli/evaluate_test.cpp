@@ -181,8 +181,13 @@ TEST_F(EvaluateBatch, KeepsTheValuesThatStand) {
 }
 
 TEST_F(EvaluateBatch, ResetsNothingBetweenLines) {
-  EXPECT_EQ(answers("0\tinv(x)\n2\tx+1\n2\tx+1\n"),
-            "error\tValores demasiado grandes para operar.\nok\t3\nok\t0,5\n");
+  // The third line reads on where the fault of the second one stopped; another formula does not.
+  EXPECT_EQ(answers("2\tinv(x)\n0\tinv(x)\n2\tinv(x)\n0\tinv(x)\n2\tx+1\n2\tx+1\n"),
+            "ok\t0,5\n"
+            "error\tValores demasiado grandes para operar.\n"
+            "error\tError: No se entiende el elemento: \\nFunción ingresada por usuario\n"
+            "error\tValores demasiado grandes para operar.\n"
+            "ok\t3\nok\t3\n");
 }
 
 TEST_F(EvaluateBatch, AnswersALineThatMakesNoSenseInItsPlace) {

@@ -44,5 +44,27 @@ TEST_F(FormulaCheck, SetsTheThreeNamesToOne) {
   EXPECT_EQ(evaluate("t", 0), "= 1");
 }
 
+TEST_F(FormulaCheck, AfterAFaultOfAnotherFormulaIsAsEver) {
+  for (const bool is_valid : {false, true}) {
+    if (is_valid) evaluate("inv(x-1)", 2);
+    EXPECT_EQ(evaluate("inv(x-1)", 1), kFault);
+    for (int time = 0; time < 2; ++time) {
+      std::string message = "old";
+      EXPECT_TRUE(CheckFormula(engine, "x+1", message));
+      EXPECT_EQ(message, "");
+    }
+    EXPECT_EQ(evaluate("inv(x-1)", 1), kFault);
+    EXPECT_EQ(check("2*-x"), "Error: No se entiende el elemento: '2*'");
+  }
+}
+
+/// The record is read on where the fault stopped, and there is nothing: this is meant.
+TEST_F(FormulaCheck, AfterAFaultInAValidRecordOfTheSameFormulaRefusesItOnce) {
+  EXPECT_EQ(evaluate("inv(x-1)", 2), "= 1");
+  EXPECT_EQ(evaluate("inv(x-1)", 1), kFault);
+  EXPECT_EQ("! " + check("inv(x-1)"), kUserFunction);
+  EXPECT_EQ(check("inv(x-1)"), "ok");
+}
+
 }  // namespace
 }  // namespace zel::test

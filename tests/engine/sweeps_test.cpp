@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,13 @@ class Sweeps : public EngineTest {
     std::vector<double> values(xs.size());
     engine.EvaluateSweep(code, xs, values);
     return texts(values);
+  }
+
+  void curve(std::string_view code_x, std::string_view code_y, std::span<const double> ts,
+             std::span<double> xs, std::span<double> ys) {
+    for (std::size_t done = 0; done < ts.size();)
+      done +=
+          engine.CurvePart(code_x, code_y, ts.subspan(done), xs.subspan(done), ys.subspan(done));
   }
 
   static std::string texts(const std::vector<double>& values) {
@@ -76,34 +84,39 @@ TEST_F(Sweeps, GoThroughAFaultAsSingleEvaluationsDo) {
   EXPECT_EQ(sweep("9@(x)", range(-3, 8)),
             "-0,333333333333333 -0,5 -1 - - 0,5 0,333333333333333 "
             "0,25");
-  // A fault before the record is valid mixes it with what comes next.
+  // The record is not valid yet, and nothing is read on.
   EXPECT_EQ(sweep("1+9@x*2", range(0, 6)), "- 3 2 1,66666666666667 1,5 1,4");
 }
 
-TEST_F(Sweeps, ReplayAMixedRecordUntilAnErrorEndsIt) {
-  EXPECT_EQ(evaluateCode("9@x+4@x", 0), kFault);
-  EXPECT_EQ(evaluateCode("9@x+4@x", 1), "= 1");
-  // Now the slots hold 9@x+(9@x+4@x).
-  EXPECT_EQ(sweep("9@x+4@x", std::vector<double>(20, 1)),
-            "2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2");
-  EXPECT_EQ(sweep("9@x+4@x", {1, -1, 1, 1, 1, 1}), "2 - 1 1 1 1");
+TEST_F(Sweeps, ReadOnAfterEachFaultOfAValidRecord) {
+  EXPECT_EQ(sweep("9@x", {1, 0, 1, 2, 0, 0, 0, 4, 0, 5}), "1 - - 0,5 - - - 0,25 - -");
+  // What the longer code left behind it is read on.
+  EXPECT_EQ(sweep("2*3+x^2", {2}), "10");
+  EXPECT_EQ(slots(9), "2*3|x^2|+|2|3|*|x|2|^|");
+  EXPECT_EQ(sweep("9@x", {1, 0, 2, 2, 0, 3}), "1 - 6 0,5 - 6");
+}
+
+TEST_F(Sweeps, ThatFaultLeaveNothingForTheNextCode) {
+  const std::vector<double> xs = range(-3, 7);
+  EXPECT_EQ(sweep("6@(x*1000)", xs), "0 0 0 1 - - -");
+  EXPECT_EQ(sweep("x+1", xs), "-2 -1 0 1 2 3 4");
+  EXPECT_EQ(sweep("(4-x^2)^0,5", xs), "- 0 1,73205080756888 2 1,73205080756888 0 -");
+  EXPECT_EQ(sweep("x+1", xs), "-2 -1 0 1 2 3 4");
 }
 
 TEST_F(Sweeps, GoThroughALongRunOfFaults) {
-  // Each fault records anew until no slot is left.
   std::vector<double> xs = range(-300, 300);
   std::vector<double> values(xs.size());
   engine.EvaluateSweep("x^0,5", xs, values);
   EXPECT_TRUE(std::all_of(values.begin(), values.end(), [](double y) { return std::isnan(y); }));
-  EXPECT_EQ(engine.parseCache().position(), 121u);
+  EXPECT_EQ(engine.parseCache().position(), 4u);
   EXPECT_EQ(engine.parseCache().code(), "");
+  EXPECT_EQ(slots(4), "x|0,5|^||");
   EXPECT_EQ(sweep("x^0,5", range(-4, 9)), "- - - - 0 1 1,4142135623731 1,73205080756888 2");
   EXPECT_EQ(engine.parseCache().code(), "x^0,5");
 }
 
-TEST_F(Sweeps, EndARunOfFaultsWithAValueThatCannotBeRead) {
-  sweep("x^0,5", range(-300, 200));
-  EXPECT_EQ(engine.parseCache().position(), 121u);
+TEST_F(Sweeps, AreValidAfterAValueThatCannotBeRead) {
   EXPECT_EQ(sweep("x", std::vector<double>(6, 1.7976931348623157e308)), "- - - - - -");
   EXPECT_EQ(engine.parseCache().position(), 1u);
   EXPECT_EQ(engine.parseCache().code(), "x");
@@ -134,7 +147,7 @@ TEST_F(Sweeps, OfACurveSetTBeforeEachPoint) {
   std::vector<double> xs(ts.size());
   std::vector<double> ys(ts.size());
   engine.SetT(50);
-  engine.EvaluateCurve("t*10+x", "7@t", ts, xs, ys);
+  curve("t*10+x", "7@t", ts, xs, ys);
   EXPECT_EQ(texts(xs), "-22 -11 0 11 22");
   EXPECT_EQ(texts(ys), "- - 0 1 1,4142135623731");
   EXPECT_EQ(evaluateCode("t"), "= 2");
@@ -144,19 +157,33 @@ TEST_F(Sweeps, OfACurveLeaveTheRecordsOfBothCodes) {
   const auto ts = range(1, 20);
   std::vector<double> xs(ts.size());
   std::vector<double> ys(ts.size());
-  engine.EvaluateCurve("t*10+x", "7@t", ts, xs, ys);
+  curve("t*10+x", "7@t", ts, xs, ys);
   EXPECT_EQ(slots(6), "7|t|@|t|10|*|");
   EXPECT_EQ(engine.parseCache().code(), "7@t");
 }
 
-TEST_F(Sweeps, OfACurveBeginWithTheMixedRecordOfItsFirstCode) {
-  EXPECT_EQ(evaluateCode("9@x+x*2", 0), kFault);
+TEST_F(Sweeps, OfACurveReadOnWhereAFaultOfItsFirstCodeStopped) {
   EXPECT_EQ(evaluateCode("9@x+x*2", 1), "= 3");
+  EXPECT_EQ(evaluateCode("9@x+x*2", 0), kFault);
   const std::vector<double> ts(6, 1);
   std::vector<double> xs(ts.size());
   std::vector<double> ys(ts.size());
-  engine.EvaluateCurve("9@x+x*2", "t", ts, xs, ys);
-  EXPECT_EQ(texts(xs), "4 3 3 3 3 3");
+  curve("9@x+x*2", "t", ts, xs, ys);
+  // What is read on is x*2 alone.
+  EXPECT_EQ(texts(xs), "2 3 3 3 3 3");
+}
+
+TEST_F(Sweeps, OfACurveGoThroughFaultsWithoutATrace) {
+  const auto ts = range(0, 20);
+  std::vector<double> xs(ts.size());
+  std::vector<double> ys(ts.size());
+  curve("9@(t-5)", "(t-10)^0,5", ts, xs, ys);
+  EXPECT_TRUE(std::isnan(xs[5]));
+  EXPECT_EQ(xs[6], 1);
+  EXPECT_TRUE(std::isnan(ys[9]));
+  EXPECT_EQ(ys[11], 1);
+  EXPECT_EQ(slots(6), "t-10|0,5|^|t|10|-|");
+  EXPECT_EQ(engine.parseCache().code(), "(t-10)^0,5");
 }
 
 TEST_F(Sweeps, OfACurveThatEndsInErrorsKeepTheRecordsFromBefore) {
@@ -164,7 +191,7 @@ TEST_F(Sweeps, OfACurveThatEndsInErrorsKeepTheRecordsFromBefore) {
   std::vector<double> xs(ts.size());
   std::vector<double> ys(ts.size());
   // From 10 on the first code fails before its right side is taken apart.
-  engine.EvaluateCurve("7@(9-t)+(t+1)", "t*2", ts, xs, ys);
+  curve("7@(9-t)+(t+1)", "t*2", ts, xs, ys);
   EXPECT_EQ(slots(12), "t|2|*|7|9-t|@|9|t|-|t|1|+|");
   EXPECT_TRUE(std::isnan(xs[10]));
   EXPECT_EQ(ys[19], 38);
@@ -180,7 +207,7 @@ TEST_F(Sweeps, OfACurveBeginWithTheExpansionThatWasKept) {
   const std::vector<double> ts = range(4, 5);
   std::vector<double> xs(5);
   std::vector<double> ys(5);
-  engine.EvaluateCurve("f(t)", "t", ts, xs, ys);
+  curve("f(t)", "t", ts, xs, ys);
   EXPECT_EQ(texts(xs), "2 6 7 8 9");
 }
 
@@ -188,9 +215,23 @@ TEST_F(Sweeps, OfACurveWithOneCodeReplayItForY) {
   const auto ts = range(0, 6);
   std::vector<double> xs(ts.size());
   std::vector<double> ys(ts.size());
-  engine.EvaluateCurve("t^2", "t^2", ts, xs, ys);
+  curve("t^2", "t^2", ts, xs, ys);
   EXPECT_EQ(texts(xs), "0 1 4 9 16 25");
   EXPECT_EQ(texts(ys), "0 1 4 9 16 25");
+}
+
+TEST_F(Sweeps, GiveFewValuesOfALongCodeAtOnce) {
+  std::string code = "9@(x-20)";
+  while (code.size() + 4 < Engine::kMaxExpandedCode) code += "+2*x";
+  const std::vector<double> xs = range(1, 200);
+  std::vector<double> values(xs.size());
+  EXPECT_LE(engine.SweepPart(code, xs, values), 32u);
+  EXPECT_LE(engine.SweepPart(code + "+", xs, values), 32u) << "rejected";
+  graphCode('g') = "x" + code.substr(8, 10'800);  // "(x)" takes the place of each x
+  EXPECT_LE(engine.SweepPart("g(x)", xs, values), 32u) << "long when it is expanded";
+  EXPECT_LE(engine.CurvePart(code, "t", xs, values, values), 32u);
+  EXPECT_EQ(engine.SweepPart("x+1", xs, values), 200u);
+  EXPECT_EQ(engine.SweepPart("x+1", {}, values), 0u);
 }
 
 }  // namespace

@@ -49,6 +49,31 @@ TEST_F(DrawingTest, ClearsThePictureAndDrawsAxesThenGraphsByLetter) {
                                            "graph z #ff0000", "start 0,450", "extend 1500,450"}));
 }
 
+/// The curve of the last graph, whatever was drawn before it.
+Texts lastGraph(const RecorderPicture& picture) {
+  const Texts all = picture.texts();
+  std::size_t first = all.size();
+  while (first > 0 && !all[first - 1].starts_with("graph ")) --first;
+  return {all.begin() + static_cast<std::ptrdiff_t>(first), all.end()};
+}
+
+TEST_F(DrawingTest, DrawsAGraphAsEverAfterOneThatFaults) {
+  viewport.view.definicion = 40;
+  for (const char* const formula : {"x+1", "(4-x^2)^0,5", "1/(x-1)+2"}) {
+    addFunction('b', formula);
+    EXPECT_EQ(redraw(), RedrawOutcome::drawn);
+    const Texts alone = lastGraph(picture);
+    EXPECT_GT(alone.size(), 10u);
+    for (const char* const faulting :
+         {"(4-x^2)^0,5", "exp(x*1000)", "inv(x)", "x^0,5", "1+inv(x-5)*2", "x*1e308"}) {
+      addFunction('a', faulting);
+      EXPECT_EQ(redraw(), RedrawOutcome::drawn);
+      EXPECT_EQ(lastGraph(picture), alone) << formula << " after " << faulting;
+    }
+    graphs.freeGraph('a');
+  }
+}
+
 TEST_F(DrawingTest, ShowsTheRangeAtTheEnd) {
   EXPECT_EQ(redraw(), RedrawOutcome::drawn);
   EXPECT_THAT(screen.texts(), ElementsAre(kRange));

@@ -46,6 +46,12 @@ using Texts = std::vector<std::string>;
 /// A field of the graph editor; its label stands only in messages.
 inline Field field(std::string text) { return {std::move(text), "campo"}; }
 
+/// A formula of nearly the longest code, with the value of its beginning.
+inline std::string longFormula(std::string formula, std::size_t size = Engine::kMaxExpandedCode) {
+  while (formula.size() + 4 <= size) formula += "+0*x";
+  return formula;
+}
+
 /// What a drawing needs. The picture is 100 pixels = 1500 twips wide and high, and shows -5 to 5 in
 /// both directions in 10 steps: 150 twips to a unit, a sample at every integer.
 class PlotTest : public ::testing::Test {

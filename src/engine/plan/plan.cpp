@@ -5,6 +5,17 @@
 #include "numbers/rounding.h"
 
 namespace zel {
+namespace {
+
+PlanOutcome failureOf(Failure failure, const Operation& operation, double left) {
+  return {.kind = failure == Failure::fault ? Outcome::Kind::fault : Outcome::Kind::error,
+          .position = operation.position,
+          .failure = failure,
+          .left = left,
+          .op = operation.op};
+}
+
+}  // namespace
 
 PlanOutcome Plan::evaluateStrictly(const NameValues& names) const {
   std::vector<double> values = values_;
@@ -17,13 +28,21 @@ PlanOutcome Plan::evaluateStrictly(const NameValues& names) const {
     const bool readable = std::isfinite(left) && std::isfinite(right);
     const Computed computed =
         readable ? ComputeOperator(left, right, operation.op) : Computed{0, Failure::fault};
-    if (computed.failure != Failure::none)
-      return {computed.failure, 0, operation.position, left, operation.op, false};
+    if (computed.failure != Failure::none) return failureOf(computed.failure, operation, left);
     values[operation.result] = roundTo15Digits(computed.value);
   }
+  if (rejection_) return {.kind = Outcome::Kind::error, .position = end_position_};
   const double value = values[result_];
-  const bool readable = std::isfinite(value);
-  return {readable ? Failure::none : Failure::fault, value, end_position_, 0, '+', !readable};
+  if (std::isfinite(value)) return {.value = value, .position = end_position_};
+  return {.kind = Outcome::Kind::fault,
+          .position = end_position_,
+          .failure = Failure::fault,
+          .at_the_end = true};
+}
+
+std::string Plan::message(const PlanOutcome& error) const {
+  if (error.failure != Failure::none) return FailureMessage(error.failure, error.left, error.op);
+  return SplitMessage(rejection_->failure, rejection_->text);
 }
 
 }  // namespace zel

@@ -2,11 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "engine/function_library.h"
+#include "engine/grammar.h"
+#include "engine/outcome.h"
 #include "engine/reference/parse_cache.h"
 
 /// A code as a list of operations over numbered values, in the order in which the reference applies
@@ -57,12 +60,13 @@ struct Operation {
 
 /// What an evaluation by a plan comes to.
 struct PlanOutcome {
-  Failure failure = Failure::none;
+  Outcome::Kind kind = Outcome::Kind::value;
   double value = 0;
-  std::size_t position = 1;  // of the parse cache, where it ended
-  double left = 0;           // of the operation that failed,
-  char op = '+';             // with its operator
-  bool at_the_end = false;   // the value itself is the fault: its text cannot be read
+  std::size_t position = 1;         // of the parse cache, where it ended
+  Failure failure = Failure::none;  // of the operation; none where the grammar rejects the code
+  double left = 0;                  // of the operation that failed,
+  char op = '+';                    // with its operator
+  bool at_the_end = false;          // the value itself is the fault: its text cannot be read
 };
 
 class Plan {
@@ -71,36 +75,44 @@ class Plan {
   static constexpr std::uint32_t kT = 1;
   static constexpr std::uint32_t kP = 2;
 
-  /// Takes a code apart through a parse cache, which is used up by it: a new one for an evaluation
-  /// that records, a copy of one that is valid for an evaluation that replays. Nothing where the
-  /// grammar rejects a part of the code.
-  static std::unique_ptr<Plan> make(std::string_view expanded, ParseCache cache);
+  /// Takes a code apart. Where the grammar rejects a part of it, the plan ends there.
+  static Plan make(std::string_view expanded);
 
   /// Operation by operation as the reference does it, failures and all.
   PlanOutcome evaluateStrictly(const NameValues& names) const;
+  /// The message of an error that it came to, in the current language.
+  std::string message(const PlanOutcome& error) const;
 
   const std::vector<Operation>& operations() const { return operations_; }
   /// What the values start as: the names, the constants, then room for the results.
   const std::vector<double>& values() const { return values_; }
   /// The number of the value of the whole code.
   std::uint32_t result() const { return result_; }
-  /// A constant that is too large to be read: only evaluateStrictly knows what comes of it.
-  bool isPlain() const { return is_plain_; }
+  /// Whether a program can run it. Only evaluateStrictly knows what comes of a constant that is too
+  /// large to be read, and of a code that the grammar rejects.
+  bool isPlain() const { return is_plain_ && !rejection_; }
 
   /// The position of the parse cache after a whole evaluation.
   std::size_t endPosition() const { return end_position_; }
   /// What a whole evaluation leaves in the slots.
-  const std::shared_ptr<const ParseRecord>& record() const { return record_; }
+  const ParseRecord& record() const { return record_; }
 
  private:
   friend class PlanMaker;
 
+  /// Why the grammar rejects a part of the code.
+  struct Rejection {
+    SplitFailure failure;
+    std::string text;
+  };
+
   std::vector<Operation> operations_;
   std::vector<double> values_;
   std::uint32_t result_ = 0;
+  std::optional<Rejection> rejection_;
   bool is_plain_ = true;
   std::size_t end_position_ = 1;
-  std::shared_ptr<const ParseRecord> record_;
+  ParseRecord record_;
 };
 
 }  // namespace zel

@@ -24,8 +24,7 @@ struct PreparedPlan {
 /// takes none of them apart again.
 class PlanCache {
  public:
-  /// The plan of an expanded code that is recorded from the first slot; none where the grammar
-  /// rejects it.
+  /// The plan of an expanded code.
   std::shared_ptr<PreparedPlan> find(std::string_view expanded);
 
  private:

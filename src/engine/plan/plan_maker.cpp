@@ -52,10 +52,9 @@ Kind kindOf(char op, std::optional<double> left, std::optional<double> right) {
 /// What is computed twice is computed once, and what is constant is computed here.
 class PlanMaker {
  public:
-  explicit PlanMaker(ParseCache& cache) : cache_(cache) { plan_.values_ = {0, 0, 0}; }
+  PlanMaker() { plan_.values_ = {0, 0, 0}; }
 
-  bool walk(std::string_view code);
-  Plan finish();
+  Plan make(std::string_view code);
 
  private:
   struct Pending {
@@ -64,24 +63,27 @@ class PlanMaker {
     bool has_left = false;
   };
 
+  /// The value of the whole code; nothing where the grammar rejects a part of it.
+  std::optional<std::uint32_t> walk(std::string_view code);
   std::optional<std::uint32_t> leaf(const Descent& descent);
-  std::optional<std::uint32_t> apply(const Pending& pending, std::uint32_t right);
+  std::uint32_t apply(const Pending& pending, std::uint32_t right);
   std::uint32_t constant(double value);
   /// The value of a constant; nothing for what is known at the evaluation only.
   std::optional<double> known(std::uint32_t number) const;
 
-  ParseCache& cache_;
+  ParseCache cache_;
+  Splitter splitter_;
   Plan plan_;
   std::map<std::uint64_t, std::uint32_t> constants_;  // by their bits
   std::map<std::uint32_t, double> known_;
   std::map<std::tuple<char, std::uint32_t, std::uint32_t>, std::uint32_t> results_;
 };
 
-bool PlanMaker::walk(std::string_view code) {
+std::optional<std::uint32_t> PlanMaker::walk(std::string_view code) {
   std::vector<Pending> stack;
   std::string_view text = code;
   for (;;) {
-    const Descent descent = descend(text, cache_);
+    const Descent descent = descend(text, cache_, splitter_);
     if (descent.kind == Descent::Kind::split) {
       stack.push_back({descent.split, 0, false});
       text = descent.split.left;
@@ -92,11 +94,7 @@ bool PlanMaker::walk(std::string_view code) {
       value = apply(stack.back(), *value);
       stack.pop_back();
     }
-    if (!value) return false;
-    if (stack.empty()) {
-      plan_.result_ = *value;
-      return true;
-    }
+    if (!value || stack.empty()) return value;
     stack.back().left = *value;
     stack.back().has_left = true;
     text = stack.back().split.right;
@@ -106,7 +104,10 @@ bool PlanMaker::walk(std::string_view code) {
 std::optional<std::uint32_t> PlanMaker::leaf(const Descent& descent) {
   if (descent.kind == Descent::Kind::number)
     return constant(readNumber(descent.text).value_or(HUGE_VAL));
-  if (descent.kind != Descent::Kind::name) return std::nullopt;
+  if (descent.kind != Descent::Kind::name) {
+    plan_.rejection_ = {descent.split.failure, std::string(descent.text)};
+    return std::nullopt;
+  }
   switch (descent.text[0]) {
     case 'x': return Plan::kX;
     case 't': return Plan::kT;
@@ -115,21 +116,19 @@ std::optional<std::uint32_t> PlanMaker::leaf(const Descent& descent) {
   }
 }
 
-std::optional<std::uint32_t> PlanMaker::apply(const Pending& pending, std::uint32_t right) {
-  const std::string_view op = pending.split.op;
-  if (op.size() != 1 || OperatorPrecedence.find(op[0]) == std::string_view::npos)
-    return std::nullopt;
+std::uint32_t PlanMaker::apply(const Pending& pending, std::uint32_t right) {
+  const char op = pending.split.op[0];
   const auto left_value = known(pending.left);
   const auto right_value = known(right);
   if (left_value && right_value && std::isfinite(*left_value) && std::isfinite(*right_value)) {
-    const Computed computed = ComputeOperator(*left_value, *right_value, op[0]);
+    const Computed computed = ComputeOperator(*left_value, *right_value, op);
     if (computed.failure == Failure::none) return constant(roundTo15Digits(computed.value));
   }
-  const auto [place, is_new] = results_.try_emplace({op[0], pending.left, right});
+  const auto [place, is_new] = results_.try_emplace({op, pending.left, right});
   if (is_new) {
     place->second = static_cast<std::uint32_t>(plan_.values_.size());
     plan_.values_.push_back(0);
-    plan_.operations_.push_back({kindOf(op[0], left_value, right_value), op[0], pending.left, right,
+    plan_.operations_.push_back({kindOf(op, left_value, right_value), op, pending.left, right,
                                  place->second, static_cast<std::uint32_t>(cache_.position())});
   }
   return place->second;
@@ -151,19 +150,14 @@ std::optional<double> PlanMaker::known(std::uint32_t number) const {
   return found == known_.end() ? std::nullopt : std::optional(found->second);
 }
 
-Plan PlanMaker::finish() {
-  ParseRecord record;
+Plan PlanMaker::make(std::string_view code) {
+  plan_.result_ = walk(code).value_or(Plan::kX);
   plan_.end_position_ = cache_.position();
   for (std::size_t slot = 1; slot < cache_.position(); ++slot)
-    record.emplace_back(cache_.slot(slot));
-  plan_.record_ = std::make_shared<const ParseRecord>(std::move(record));
+    plan_.record_.emplace_back(cache_.slot(slot));
   return std::move(plan_);
 }
 
-std::unique_ptr<Plan> Plan::make(std::string_view expanded, ParseCache cache) {
-  PlanMaker maker(cache);
-  if (!maker.walk(expanded)) return nullptr;
-  return std::make_unique<Plan>(maker.finish());
-}
+Plan Plan::make(std::string_view expanded) { return PlanMaker().make(expanded); }
 
 }  // namespace zel

@@ -4,6 +4,7 @@
 
 #include "engine/grammar.h"
 #include "engine/reference/parse_cache.h"
+#include "engine/reference/splitter.h"
 
 namespace zel {
 
@@ -15,7 +16,7 @@ struct Descent {
     name,           // `text` is "x", "t", "p" or "e"
     split,          // both operands are there
     failed,         // the grammar rejects `text`; split.failure says why
-    user_function,  // a record of the cache came without an operand and yet without a failure
+    user_function,  // what the cache was read on for came without an operand
   };
 
   Kind kind;
@@ -23,6 +24,6 @@ struct Descent {
   Split split;
 };
 
-Descent descend(std::string_view text, ParseCache& cache);
+Descent descend(std::string_view text, ParseCache& cache, Splitter& splitter);
 
 }  // namespace zel

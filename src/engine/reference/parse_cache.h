@@ -2,23 +2,23 @@
 
 #include <array>
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "engine/grammar.h"
+#include "engine/reference/splitter.h"
 
 namespace zel {
 
-/// The texts of the slots that a whole evaluation records when it starts at the first one.
+/// The texts of the slots that a whole evaluation records.
 using ParseRecord = std::vector<std::string>;
 
 /// Remembers how the last code was taken apart. While it is not valid, every strip and split is
-/// computed and recorded at the current position; while it is valid, the same calls come in the
-/// same order and each reads its record instead. After an arithmetic fault the position stays
-/// where the fault found it, and the next evaluation starts there: this is meant, and so are the
-/// mixed records that can come of it.
+/// computed and recorded from the first slot on; while it is valid, the same calls come in the same
+/// order and each reads its record instead. After an arithmetic fault a valid cache stays as it is,
+/// and the next evaluation of the same code reads on from the place where the fault stopped, beyond
+/// the code's own record too: this is meant.
 class ParseCache {
  public:
   /// A strip takes one slot, a split three (left, right, operator).
@@ -26,21 +26,21 @@ class ParseCache {
   static constexpr std::size_t kStripSlots = 1;
   static constexpr std::size_t kSplitSlots = 3;
 
-  /// Before an evaluation: another code than the one it is valid for invalidates the cache.
+  /// Before an evaluation: a cache that is not valid for the code is invalidated.
   void prepareFor(std::string_view code);
   /// After an evaluation that ended without a fault.
   void markValid(std::string_view code);
-  /// Empties the code and nothing else: the slots and the position stay.
-  void invalidate() { code_.clear(); }
+  /// Empties the code and goes back to the first slot. The texts stay in their slots.
+  void invalidate();
 
   /// StripOuterParentheses and SplitAtMainOperator through the cache; beyond the last slot they
   /// are computed and the position stays. Results point into the text or into the slots.
-  std::string_view strip(std::string_view text);
-  Split split(std::string_view text);
+  std::string_view strip(std::string_view text, Splitter& splitter);
+  Split split(std::string_view text, Splitter& splitter);
 
   /// What an evaluation that is known beforehand leaves: the first `count` slots as it records
-  /// them, and its position. The texts are copied only when they are needed.
-  void record(std::shared_ptr<const ParseRecord> texts, std::size_t count);
+  /// them, and its position.
+  void record(const ParseRecord& texts, std::size_t count);
   void moveTo(std::size_t position) { position_ = position; }
 
   /// The code that the slots are valid for; empty when they are not.
@@ -48,23 +48,14 @@ class ParseCache {
   /// The number of the next slot, from 1.
   std::size_t position() const { return position_; }
   /// The text of slot 1 to kSlots.
-  std::string_view slot(std::size_t number) const;
+  std::string_view slot(std::size_t number) const { return slots_[number - 1]; }
 
  private:
-  /// Slots that are not copied yet. They lie over each other, each with fewer slots than the one
-  /// below it.
-  struct Layer {
-    std::shared_ptr<const ParseRecord> texts;
-    std::size_t count = 0;
-  };
-
   bool isValid() const { return !code_.empty(); }
   bool fits(std::size_t count) const { return position_ + count - 1 <= kSlots; }
   std::string& next() { return slots_[position_++ - 1]; }
-  void copyLayers();
 
   std::array<std::string, kSlots> slots_;
-  std::vector<Layer> layers_;
   std::size_t position_ = 1;
   std::string code_;
 };

@@ -16,11 +16,6 @@ std::optional<double> readOperand(std::string_view text) {
   return text.empty() ? 0.0 : readNumber(text);
 }
 
-std::string splitMessage(SplitFailure failure, std::string_view text) {
-  if (failure == SplitFailure::no_operator) return Localize("No se encuentra el operador.");
-  return Localize("Error: No se entiende el elemento: ") + "'" + std::string(text) + "'";
-}
-
 std::string_view textOf(char name, const NameTexts& names) {
   switch (name) {
     case 'x': return names.x;
@@ -36,9 +31,10 @@ Outcome::Kind Reducer::reduce(std::string_view code, const NameTexts& names) {
   using Kind = Outcome::Kind;
   stack_.clear();
   message_.clear();
+  Splitter splitter;
   std::string_view text = code;
   for (;;) {
-    const Descent descent = descend(text, cache_);
+    const Descent descent = descend(text, cache_, splitter);
     if (descent.kind == Descent::Kind::split) {
       stack_.push_back({descent.split, {}, false});
       text = descent.split.left;
@@ -63,7 +59,7 @@ bool Reducer::borrow(const Descent& leaf, const NameTexts& names) {
     case Descent::Kind::number: value_.borrow(leaf.text); return true;
     case Descent::Kind::name: value_.borrow(textOf(leaf.text[0], names)); return true;
     case Descent::Kind::user_function: raiseUnknownElement(); return false;
-    default: raise(splitMessage(leaf.split.failure, leaf.text)); return false;
+    default: raise(SplitMessage(leaf.split.failure, leaf.text)); return false;
   }
 }
 
@@ -73,7 +69,7 @@ Outcome::Kind Reducer::apply(const Pending& pending) {
   const auto right = readOperand(value_.text());
   if (!left || !right) return Outcome::Kind::fault;
   if (op.size() != 1 || OperatorPrecedence.find(op[0]) == std::string_view::npos) {
-    raiseUnknownElement();  // a mixed record of the cache: nothing to apply leaves no value
+    raiseUnknownElement();  // read on in the wrong place: nothing to apply leaves no value
     return Outcome::Kind::error;
   }
   Outcome outcome = ApplyOperator(*left, *right, op[0]);

@@ -23,10 +23,10 @@ bool ReferenceEngine::Evaluate(double x, double& result, std::string_view code,
                                std::string& message) {
   if (!std::isfinite(x)) return failWithFault(message);
   SetX(x);
-  if (!Expand(code)) return failWithFault(message);
   cache_.prepareFor(code);
+  if (!Expand(code)) return failWithFault(message);
   const auto kind = reducer_.reduce(references_.expanded, {value_x_, value_t_, value_p_});
-  // A fault leaves the cache as it found it; an error rewinds and invalidates it. Both are meant.
+  // A fault leaves the cache as it found it; an error invalidates it. Both are meant.
   if (kind == Outcome::Kind::fault) return failWithFault(message);
   cache_.markValid(code);
   if (kind == Outcome::Kind::error) {

@@ -12,8 +12,8 @@
 namespace zel {
 
 /// The evaluation that defines the language: from number text to number text, by one step of the
-/// grammar after the other. An Engine gives what this one gives, and asks it wherever the parse
-/// cache is not in a plain state.
+/// grammar after the other. An Engine gives what this one gives, and asks it for the evaluation
+/// after a fault that reads on in the parse cache.
 class ReferenceEngine {
  public:
   /// The longest code that is evaluated, after the expansion of its graph calls, in bytes. A longer

@@ -18,7 +18,8 @@ struct Sample {
   Point point;           // on the picture, when it is drawn
 };
 
-/// So many samples are evaluated in one go, and pending events run between.
+/// So many samples are evaluated in one go, or fewer where one takes long, and pending events run
+/// between.
 inline constexpr std::size_t kSweepBlock = 256;
 
 /// Draws the code over x and calls `visit` with each sample after it has been drawn.
@@ -27,16 +28,16 @@ void sweepSamples(const CurveTools& tools, std::string_view code, const Visit& v
   const Viewport& viewport = tools.viewport;
   std::array<double, kSweepBlock> ys;
   bool pen_up = true;
-  for (std::size_t first = 0; first < tools.grid.size(); first += kSweepBlock) {
+  for (std::size_t first = 0, count = 0; first < tools.grid.size(); first += count) {
     if (first > 0) {
       const double p = tools.engine.GetP();
       tools.screen.runPendingEvents();
       if (tools.in_progress.isAbandoned()) return;
       tools.engine.SetP(p);  // a click may have picked another member of a family
     }
-    const std::size_t count = std::min(kSweepBlock, tools.grid.size() - first);
-    const auto xs = tools.grid.xs().subspan(first, count);
-    tools.engine.EvaluateSweep(code, xs, std::span(ys).first(count));
+    const auto xs =
+        tools.grid.xs().subspan(first).first(std::min(kSweepBlock, tools.grid.size() - first));
+    count = tools.engine.SweepPart(code, xs, std::span(ys).first(xs.size()));
     for (std::size_t i = 0; i < count; ++i) {
       Sample sample;
       sample.defined = !std::isnan(ys[i]);

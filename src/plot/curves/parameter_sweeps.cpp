@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "plot/curves/curve.h"
 #include "plot/curves/parameter_range.h"
@@ -16,7 +17,7 @@ namespace zel {
 namespace {
 
 constexpr double kDotRadius = 20;        // twips
-constexpr std::size_t kCurveBlock = 64;  // samples that are evaluated in one go
+constexpr std::size_t kCurveBlock = 64;  // samples that are evaluated in one go, or fewer
 
 /// Draws a parametric curve sample by sample.
 class CurveSweep {
@@ -32,23 +33,27 @@ class CurveSweep {
 
   /// Draws what was taken.
   bool flush() {
+    auto ts = std::span<const double>(ts_).first(std::exchange(count_, 0));
     std::array<double, kCurveBlock> xs;
     std::array<double, kCurveBlock> ys;
-    const std::size_t count = count_;
-    count_ = 0;
-    tools_.engine.EvaluateCurve(code_x_, code_y_, std::span(ts_).first(count),
-                                std::span(xs).first(count), std::span(ys).first(count));
-    for (std::size_t i = 0; i < count; ++i) {
-      const bool defined = !std::isnan(xs[i]) && !std::isnan(ys[i]);
-      if (defined && tools_.viewport.isInside(xs[i], ys[i]))
-        draw(tools_.viewport.map(xs[i], ys[i]));
-      tools_.screen.runPendingEvents();
-      if (!tools_.in_progress.isSet()) return false;
+    while (!ts.empty()) {
+      const std::size_t count = tools_.engine.CurvePart(
+          code_x_, code_y_, ts, std::span(xs).first(ts.size()), std::span(ys).first(ts.size()));
+      for (std::size_t i = 0; i < count; ++i)
+        if (!drawSample(xs[i], ys[i])) return false;
+      ts = ts.subspan(count);
     }
     return true;
   }
 
  private:
+  bool drawSample(double x, double y) {
+    const bool defined = !std::isnan(x) && !std::isnan(y);
+    if (defined && tools_.viewport.isInside(x, y)) draw(tools_.viewport.map(x, y));
+    tools_.screen.runPendingEvents();
+    return tools_.in_progress.isSet();
+  }
+
   void draw(Point point) {
     if (pen_up_)
       tools_.picture.startPiece(point);

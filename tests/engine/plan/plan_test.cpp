@@ -1,5 +1,6 @@
 #include "engine/plan/plan.h"
 
+#include <array>
 #include <bit>
 #include <cmath>
 #include <string>
@@ -11,13 +12,14 @@
 #include "engine/plan/scalar_program.h"
 #include "engine/random_codes.h"
 #include "numbers/rounding.h"
+#include "support/language_guard.h"
 
 namespace zel::test {
 namespace {
 
-std::unique_ptr<Plan> planOf(std::string_view code) { return Plan::make(code, ParseCache()); }
+Plan planOf(std::string_view code) { return Plan::make(code); }
 
-std::size_t operationsOf(std::string_view code) { return planOf(code)->operations().size(); }
+std::size_t operationsOf(std::string_view code) { return planOf(code).operations().size(); }
 
 TEST(PlanOfACode, HasNoOperationForParenthesesAndNames) {
   EXPECT_EQ(operationsOf("x"), 0u);
@@ -29,12 +31,12 @@ TEST(PlanOfACode, ComputesConstantsBeforehand) {
   EXPECT_EQ(operationsOf("2*3+4"), 0u);
   EXPECT_EQ(operationsOf("2*3*x"), 1u);
   EXPECT_EQ(operationsOf("7@(2)*x"), 1u);
-  EXPECT_EQ(planOf("2*3+4")->evaluateStrictly({}).value, 10);
+  EXPECT_EQ(planOf("2*3+4").evaluateStrictly({}).value, 10);
 }
 
 TEST(PlanOfACode, KeepsAConstantThatFailsForTheEvaluation) {
   EXPECT_EQ(operationsOf("1/0"), 1u);
-  const auto outcome = planOf("x+1/0")->evaluateStrictly({});
+  const auto outcome = planOf("x+1/0").evaluateStrictly({});
   EXPECT_EQ(outcome.failure, Failure::zero_divisor);
   EXPECT_EQ(outcome.position, 7u);
 }
@@ -46,17 +48,37 @@ TEST(PlanOfACode, ComputesOnceWhatStandsTwice) {
 
 TEST(PlanOfACode, KeepsTheOrderOfTheReference) {
   const auto plan = planOf("4@x+7@x");
-  EXPECT_EQ(plan->evaluateStrictly({.x = -1}).failure, Failure::logarithm_of_negative);
-  EXPECT_EQ(plan->evaluateStrictly({.x = -1}).position, 7u);
+  EXPECT_EQ(plan.evaluateStrictly({.x = -1}).failure, Failure::logarithm_of_negative);
+  EXPECT_EQ(plan.evaluateStrictly({.x = -1}).position, 7u);
 }
 
-TEST(PlanOfACode, IsNotThereWhereTheGrammarRejectsAPart) {
-  for (const std::string_view code : {"", "x+", "x)", "2*-x", "(5)", "2x", "x+(y)"})
-    EXPECT_EQ(planOf(code), nullptr) << code;
+TEST(PlanOfACode, EndsWhereTheGrammarRejectsAPart) {
+  LanguageGuard language("ES");
+  const std::vector<std::array<std::string_view, 2>> messages = {
+      {"", "No se encuentra el operador."},    {"x+", "Error: No se entiende el elemento: 'x+'"},
+      {"x)", "No se encuentra el operador."},  {"2*-x", "Error: No se entiende el elemento: '2*'"},
+      {"(5)", "No se encuentra el operador."}, {"x+(y)", "No se encuentra el operador."},
+  };
+  for (const auto& [code, message] : messages) {
+    const Plan plan = planOf(code);
+    EXPECT_FALSE(plan.isPlain()) << code;
+    EXPECT_EQ(plan.message(plan.evaluateStrictly({})), message) << code;
+  }
+}
+
+TEST(PlanOfACode, FailsBeforeARejectedPartWhereTheReferenceDoes) {
+  LanguageGuard language("EN");
+  const Plan plan = planOf("9@x+4@x+y");
+  EXPECT_EQ(plan.evaluateStrictly({.x = 0}).kind, Outcome::Kind::fault);
+  EXPECT_EQ(plan.evaluateStrictly({.x = 0}).position, 10u);
+  EXPECT_EQ(
+      plan.message(plan.evaluateStrictly({.x = -1})),
+      "Error in function 'ln'\r\nDetail: Logarithmand must be numeric and greater than zero.");
+  EXPECT_EQ(plan.message(plan.evaluateStrictly({.x = 1})), "Cannot find operator.");
 }
 
 TEST(PlanOfACode, RecordsTheSlotsOfAnEvaluation) {
-  EXPECT_EQ(*planOf("(x+1)*(x)")->record(),
+  EXPECT_EQ(planOf("(x+1)*(x)").record(),
             (ParseRecord{"(x+1)*(x)", "x+1", "x", "*", "x", "1", "+"}));
 }
 
@@ -64,15 +86,15 @@ TEST(PlanOfACode, OfAnyLengthStopsRecordingAtTheLastSlot) {
   std::string code = "x";
   for (int i = 0; i < 500; ++i) code += "+x*" + std::to_string(i);
   const auto plan = planOf(code);
-  EXPECT_EQ(plan->record()->size(), ParseCache::kSlots);
-  EXPECT_EQ(plan->evaluateStrictly({.x = 2}).value, 2 + 2 * 499 * 500 / 2);
+  EXPECT_EQ(plan.record().size(), ParseCache::kSlots);
+  EXPECT_EQ(plan.evaluateStrictly({.x = 2}).value, 2 + 2 * 499 * 500 / 2);
 }
 
 TEST(PlanOfACode, LeavesANumberThatCannotBeReadToTheStrictEvaluation) {
   const auto plan = planOf("1e999");
-  EXPECT_FALSE(plan->isPlain());
-  EXPECT_TRUE(plan->evaluateStrictly({}).at_the_end);
-  EXPECT_TRUE(std::isnan(ScalarProgram(*plan).evaluate(1, 0, 0)));
+  EXPECT_FALSE(plan.isPlain());
+  EXPECT_TRUE(plan.evaluateStrictly({}).at_the_end);
+  EXPECT_TRUE(std::isnan(ScalarProgram(plan).evaluate(1, 0, 0)));
 }
 
 class Programs : public ::testing::TestWithParam<InstructionSet> {
@@ -84,7 +106,7 @@ class Programs : public ::testing::TestWithParam<InstructionSet> {
 
 /// What the programs say of an outcome.
 double valueOf(const PlanOutcome& outcome) {
-  return outcome.failure == Failure::none ? outcome.value : std::nan("");
+  return outcome.kind == Outcome::Kind::value ? outcome.value : std::nan("");
 }
 
 void expectSame(double value, double expected, const std::string& where) {
@@ -101,9 +123,9 @@ TEST_P(Programs, GiveWhatTheStrictEvaluationGives) {
   for (int i = 0; i < 3000 && !HasFatalFailure(); ++i) {
     const std::string code = codes.code();
     const auto plan = planOf(code);
-    if (!plan || !plan->isPlain()) continue;
-    ScalarProgram scalar(*plan, GetParam());
-    BlockProgram blocks(*plan, GetParam());
+    if (!plan.isPlain()) continue;
+    ScalarProgram scalar(plan, GetParam());
+    BlockProgram blocks(plan, GetParam());
     std::vector<double> xs(std::min<std::size_t>(blocks.capacity(), 50));
     const double step = std::ldexp(1, -static_cast<int>(codes.below(12)));
     for (std::size_t n = 0; n < xs.size(); ++n)
@@ -113,11 +135,11 @@ TEST_P(Programs, GiveWhatTheStrictEvaluationGives) {
     const auto report = blocks.run(xs, false, values);
     for (std::size_t n = 0; n < xs.size() && !HasFatalFailure(); ++n) {
       const double x = std::isfinite(xs[n]) ? roundTo15Digits(xs[n]) : HUGE_VAL;
-      const PlanOutcome outcome = plan->evaluateStrictly({x, 0.5, -2});
+      const PlanOutcome outcome = plan.evaluateStrictly({x, 0.5, -2});
       const std::string where = code + " at " + std::to_string(xs[n]);
       if (std::isfinite(x)) expectSame(scalar.evaluate(xs[n], 0.5, -2), valueOf(outcome), where);
       if (std::isfinite(x)) expectSame(values[n], valueOf(outcome), where);
-      if (outcome.failure == Failure::fault && std::isfinite(x)) {
+      if (outcome.kind == Outcome::Kind::fault && std::isfinite(x)) {
         ASSERT_TRUE(report.has_fault) << where;
       }
     }

@@ -58,18 +58,35 @@ TEST_F(Cache, StaysWhereAFaultFoundItWhenValid) {
   EXPECT_EQ(state(4), "9 x @ _ at 1 for '9@(x)'");
 }
 
-TEST_F(Cache, MixesRecordsAfterAFaultBeforeItIsValid) {
+TEST_F(Cache, ReadsOnBeyondItsOwnRecordInWhatAnotherCodeLeftThere) {
+  EXPECT_EQ(evaluateCode("x+5*2", 1), "= 11");
+  EXPECT_EQ(evaluateCode("9@(x)", 2), "= 0,5");
+  EXPECT_EQ(state(7), "9 x @ 5 2 * _ at 1 for '9@(x)'");
   EXPECT_EQ(evaluateCode("9@(x)", 0), kFault);
-  EXPECT_EQ(state(7), "9 x @ _ _ _ _ at 4 for ''");
-  EXPECT_EQ(evaluateCode("x+1", 2), "= 3");
-  EXPECT_EQ(state(7), "9 x @ x 1 + _ at 1 for 'x+1'");
-  // The replay starts at slot 1, where the other code's record stands.
-  EXPECT_EQ(evaluateCode("x+1", 2), "= 0,5");
-  EXPECT_EQ(state(7), "9 x @ x 1 + _ at 1 for 'x+1'");
-  EXPECT_EQ(evaluateCode("x+1", 0), kFault);
-  EXPECT_EQ(state(7), "9 x @ x 1 + _ at 4 for 'x+1'");
-  EXPECT_EQ(evaluateCode("x+1", 0), "= 1");
-  EXPECT_EQ(state(7), "9 x @ x 1 + _ at 1 for 'x+1'");
+  EXPECT_EQ(evaluateCode("9@(x)", 2), "= 10");
+  EXPECT_EQ(evaluateCode("9@(x)", 2), "= 0,5");
+}
+
+TEST_F(Cache, RecordsFromTheFirstSlotAfterAFaultBeforeItIsValid) {
+  EXPECT_EQ(evaluateCode("9@(x)+1", 0), kFault);
+  EXPECT_EQ(state(7), "9@(x) 1 + 9 x @ _ at 7 for ''");
+  EXPECT_EQ(evaluateCode("9@(x)+1", 0), kFault);
+  EXPECT_EQ(state(7), "9@(x) 1 + 9 x @ _ at 7 for ''");
+  EXPECT_EQ(evaluateCode("9@(x)+1", 2), "= 1,5");
+  EXPECT_EQ(state(7), "9@(x) 1 + 9 x @ _ at 1 for '9@(x)+1'");
+}
+
+TEST_F(Cache, RecordsFromTheFirstSlotWhenAnotherCodeComesAfterAFault) {
+  for (const bool is_valid : {false, true}) {
+    if (is_valid) {
+      EXPECT_EQ(evaluateCode("9@(x)", 2), "= 0,5");
+    }
+    EXPECT_EQ(evaluateCode("9@(x)", 0), kFault);
+    EXPECT_EQ(engine.parseCache().position(), 4u);
+    EXPECT_EQ(evaluateCode("x+1", 2), "= 3");
+    EXPECT_EQ(state(4), "x 1 + _ at 1 for 'x+1'");
+    EXPECT_EQ(evaluateCode("x+1", 3), "= 4");
+  }
 }
 
 TEST_F(Cache, GoesThroughFaultsErrorsAndOtherCodesWithItsSlotsIntact) {
@@ -79,19 +96,31 @@ TEST_F(Cache, GoesThroughFaultsErrorsAndOtherCodesWithItsSlotsIntact) {
   EXPECT_EQ(state(9), "1 9@(x) + 9 x @ _ _ _ at 1 for '1+9@(x)'");
   EXPECT_EQ(evaluateCode("1+9@(x)", 0), kFault);
   EXPECT_EQ(state(9), "1 9@(x) + 9 x @ _ _ _ at 7 for '1+9@(x)'");
-  // Another code empties the cache's code and nothing else: it records from slot 7 on.
   EXPECT_EQ(evaluateCode("2-9@(x)", 0), kFault);
-  EXPECT_EQ(state(13), "1 9@(x) + 9 x @ 2 9@(x) - 9 x @ _ at 13 for ''");
+  EXPECT_EQ(state(9), "2 9@(x) - 9 x @ _ _ _ at 7 for ''");
   EXPECT_EQ(evaluateCode("x*5", 3), "= 15");
-  EXPECT_EQ(state(16), "1 9@(x) + 9 x @ 2 9@(x) - 9 x @ x 5 * _ at 1 for 'x*5'");
-  // Replayed from slot 1: it computes 1+9@(x).
-  EXPECT_EQ(evaluateCode("x*5", 4), "= 1,25");
-  EXPECT_EQ(state(6), "1 9@(x) + 9 x @ at 1 for 'x*5'");
-  // An error of another code rewinds, and its record overwrites the slots from 1 on.
+  EXPECT_EQ(state(9), "x 5 * 9 x @ _ _ _ at 1 for 'x*5'");
+  EXPECT_EQ(evaluateCode("x*5", 4), "= 20");
+  EXPECT_EQ(evaluateCode("x*5", 1e308), kFault);
+  EXPECT_EQ(state(9), "x 5 * 9 x @ _ _ _ at 4 for 'x*5'");
+  // It reads on in what the code before left: 9@x.
+  EXPECT_EQ(evaluateCode("x*5", 4), "= 0,25");
+  EXPECT_EQ(state(9), "x 5 * 9 x @ _ _ _ at 1 for 'x*5'");
+  // An error of another code, whose record overwrites the slots from 1 on.
   EXPECT_EQ(evaluateCode("4@x", -1).substr(0, 3), "! E");
   EXPECT_EQ(state(6), "4 x @ 9 x @ at 1 for ''");
-  EXPECT_EQ(evaluateCode("x*5", 4), "= 20");
-  EXPECT_EQ(state(6), "x 5 * 9 x @ at 1 for 'x*5'");
+}
+
+TEST_F(Cache, StaysBeyondItsLastSlotAfterAFaultThere) {
+  const std::string code = sum(41) + "+9@x";
+  EXPECT_EQ(evaluateCode(code, 1), "= 42");
+  EXPECT_EQ(evaluateCode(code, 0), kFault);
+  EXPECT_EQ(engine.parseCache().position(), 121u);
+  EXPECT_EQ(evaluateCode(code, 0), kFault);
+  EXPECT_EQ(engine.parseCache().position(), 121u);
+  // Nothing is left to be read on: it is taken apart as if there was no cache.
+  EXPECT_EQ(evaluateCode(code, 2), "= 82,5");
+  EXPECT_EQ(engine.parseCache().position(), 1u);
 }
 
 TEST_F(Cache, ReplaysASignWithTheZeroThatWasPutBeforeIt) {

@@ -157,6 +157,17 @@ TEST_F(FunctionSweep, LetsEventsRunBetweenItsBlocks) {
   EXPECT_EQ(screen.event_runs, 2);
 }
 
+TEST_F(FunctionSweep, LetsEventsRunAfterFewSamplesOfALongCode) {
+  setQuality(200);                             // 201 samples
+  addFunction('g', longFormula("x", 10'000));  // "(x)" takes the place of each x
+  const std::string cut = longFormula("x").substr(0, 16000);
+  for (const std::string& code : {longFormula("x"), cut + "+", "9@x+" + cut, std::string("g(x)")}) {
+    screen = {};
+    sweep(code);
+    EXPECT_GE(screen.event_runs, 201 / 40u) << code.substr(0, 9);
+  }
+}
+
 TEST_F(FunctionSweep, KeepsItsParameterWhateverHappensMeanwhile) {
   setQuality(600);
   engine.SetP(2);
