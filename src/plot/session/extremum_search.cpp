@@ -53,7 +53,7 @@ class Turns {
 }  // namespace
 
 std::optional<Extremum> searchExtremum(Engine& engine, std::string_view code,
-                                       const Viewport& viewport, double start) {
+                                       const Viewport& viewport, double start, Walk& walk) {
   const double step = viewport.xStep() / 2;
   Turns turns;
   bool wrapped = false;
@@ -76,7 +76,7 @@ std::optional<Extremum> searchExtremum(Engine& engine, std::string_view code,
     } else {
       turns.forget();
     }
-    if (wrapped && x > start) return std::nullopt;
+    if ((wrapped && x > start) || !walk.goesOn()) return std::nullopt;
   }
 }
 

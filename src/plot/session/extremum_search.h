@@ -18,8 +18,8 @@ struct Extremum {
 
 /// Searches to the right of `start` for the next maximum or minimum of the code in the view, in
 /// half sample steps, and goes on at the left end of the range once. At least three samples must
-/// come before the one that tells.
+/// come before the one that tells. Nothing when there is none, or the walk is ended.
 std::optional<Extremum> searchExtremum(Engine& engine, std::string_view code,
-                                       const Viewport& viewport, double start);
+                                       const Viewport& viewport, double start, Walk& walk);
 
 }  // namespace zel

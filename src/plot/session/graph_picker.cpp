@@ -16,12 +16,13 @@ namespace {
 /// Compares candidates as they come; an equally near one does not replace an earlier one.
 class NearestGraph {
  public:
-  NearestGraph(Engine& engine, PlanePoint point) : engine_(engine), point_(point) {}
+  NearestGraph(Engine& engine, PlanePoint point, Walk& walk)
+      : engine_(engine), point_(point), walk_(walk) {}
 
   void visit(const GraphDef& def) {
     if (isTwoBranch(def)) {
-      consider(def.nombre, parameter(def, "codigo1"));
-      consider(def.nombre, parameter(def, "codigo2"));
+      if (consider(def.nombre, parameter(def, "codigo1")))
+        consider(def.nombre, parameter(def, "codigo2"));
     } else if (def.tipo == 'Z') {
       visitFamily(def);
     } else {
@@ -38,22 +39,27 @@ class NearestGraph {
     int members = 0;
     forEachParameter(*range, [&](double p) {
       engine_.SetP(p);
-      consider(def.nombre, def.codigo, p);
-      return range->variacion != 0 && ++members < kMostPickedMembers;
+      return consider(def.nombre, def.codigo, p) && range->variacion != 0 &&
+             ++members < kMostPickedMembers;
     });
   }
 
-  void consider(char letter, std::string_view code, std::optional<double> member = std::nullopt) {
+  /// Whether the walk goes on.
+  bool consider(char letter, std::string_view code, std::optional<double> member = std::nullopt) {
     double y = 0;
-    if (!engine_.Evaluate(point_.x, y, code, message_)) return;
-    const double distance = std::fabs(point_.y - y);
-    if (best_ && distance >= best_distance_) return;
-    best_ = PickedGraph{letter, member};
-    best_distance_ = distance;
+    if (engine_.Evaluate(point_.x, y, code, message_)) {
+      const double distance = std::fabs(point_.y - y);
+      if (!best_ || distance < best_distance_) {
+        best_ = PickedGraph{letter, member};
+        best_distance_ = distance;
+      }
+    }
+    return walk_.goesOn();
   }
 
   Engine& engine_;
   PlanePoint point_;
+  Walk& walk_;
   std::optional<PickedGraph> best_;
   double best_distance_ = 0;
   std::string message_;
@@ -62,12 +68,17 @@ class NearestGraph {
 }  // namespace
 
 std::optional<PickedGraph> pickGraph(Engine& engine, const GraphTable& graphs, char active,
-                                     PlanePoint point) {
-  NearestGraph nearest(engine, point);
-  for (int i = 0; i < GraphTable::kSlots; ++i) {
+                                     PlanePoint point, Walk& walk) {
+  const double p = engine.GetP();
+  NearestGraph nearest(engine, point, walk);
+  for (int i = 0; i < GraphTable::kSlots && !walk.isEnded(); ++i) {
     const auto letter = static_cast<char>('a' + (active - 'a' + i) % GraphTable::kSlots);
     const auto def = graphs.graph(letter);
     if (def && def->defined) nearest.visit(*def);
+  }
+  if (walk.isEnded()) {
+    engine.SetP(p);
+    return std::nullopt;
   }
   if (nearest.best() && nearest.best()->member) engine.SetP(*nearest.best()->member);
   return nearest.best();

@@ -20,7 +20,8 @@ struct PickedGraph {
 /// The graph whose value at the point's x is nearest to the point's y. Graphs are visited in letter
 /// order, going round, from the active one; the first of equally near ones is picked. A conic
 /// counts with each branch and a family with each member, whose parameter stays set in the engine.
+/// Nothing is picked, and the parameter is what it was, when the walk is ended.
 std::optional<PickedGraph> pickGraph(Engine& engine, const GraphTable& graphs, char active,
-                                     PlanePoint point);
+                                     PlanePoint point, Walk& walk);
 
 }  // namespace zel

@@ -51,6 +51,7 @@ void PlotSession::redraw() {
 bool PlotSession::drawView() {
   if (state_ == State::closed || state_ == State::refused) return false;
   state_ = State::drawn;
+  ++changes_;
   const RedrawOutcome outcome = drawing_.redraw(viewport_, marks_);
   // Whatever put an end to it, another redraw or a close, has the say now.
   if (outcome == RedrawOutcome::abandoned) return false;
@@ -92,6 +93,7 @@ void PlotSession::resize(const PictureSize& size) {
 
 void PlotSession::setMode(PlotMode mode) {
   mode_ = mode;
+  ++changes_;
   if (mode != PlotMode::recorrido) {
     cursor_.reset();
     screen_.showStatus(rangeStatus(viewport_.view));

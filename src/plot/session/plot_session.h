@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -11,6 +12,7 @@
 #include "plot/session/navigation.h"
 #include "plot/session/plot_command.h"
 #include "plot/session/trace.h"
+#include "plot/session/walk.h"
 #include "plot/session/zoom_rectangle.h"
 #include "plot/viewport.h"
 
@@ -54,7 +56,8 @@ class PlotListener {
 };
 
 /// What the plot window does, without the window. Every call may arrive while a drawing is under
-/// way, from the pending events that it lets run: a drawing that is out of date ends by itself.
+/// way, or a trace, a search or a pick, from the pending events that they let run: what is out of
+/// date ends by itself. One more trace, search or pick meanwhile does nothing.
 class PlotSession {
  public:
   static constexpr double kSmallestSide = 1000;  // twips
@@ -151,6 +154,11 @@ class PlotSession {
   void applyRectangle();
   void pick(Point mouse);
 
+  /// Does what may be a long walk, unless one is under way.
+  void walkOnce(const std::function<void()>& task);
+  /// A walk that another mode, view or active graph ends.
+  Walk beginWalk();
+
   /// In the mode "RECORRIDO", which a step that finds nothing ends.
   void trace(double x, int direction);
   void startTrace(double x, int direction);
@@ -177,6 +185,8 @@ class PlotSession {
   bool ignores_press_ = false;  // with what belongs to it, until the button is up
   State state_ = State::closed;
   std::uint64_t opened_count_ = 0;  // tells one opening from the next
+  std::uint64_t changes_ = 0;       // of mode, view and active graph
+  bool is_walking_ = false;
 };
 
 }  // namespace zel

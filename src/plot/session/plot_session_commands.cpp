@@ -32,7 +32,7 @@ void PlotSession::execute(PlotCommand command) {
     case PlotCommand::acercar: return zoomTo(zoomed(viewport_.view, Zoom::in));
     case PlotCommand::alejar: return zoomTo(zoomed(viewport_.view, Zoom::out));
     case PlotCommand::calcular_y: return calculateValues();
-    case PlotCommand::buscar_max_min: return search();
+    case PlotCommand::buscar_max_min: return walkOnce([this] { search(); });
     case PlotCommand::zoom_a_medida: return toggleZoom();
     case PlotCommand::copiar_grafico:
       listener_.copyPicture();
@@ -72,6 +72,7 @@ bool PlotSession::activate(char letter) {
 void PlotSession::makeActive(const std::optional<GraphDef>& def) {
   if (!def || !def->defined) return;
   active_ = def->nombre;
+  ++changes_;
   listener_.toolsChanged();
 }
 

@@ -14,7 +14,7 @@ void PlotSession::mouseDown(MouseButton button, Point mouse) {
   if (ignores_press_) return;
   if (button == MouseButton::right) return toggleZoom();
   if (button != MouseButton::left) return;
-  if (mode_ != PlotMode::zoom) return pick(mouse);
+  if (mode_ != PlotMode::zoom) return walkOnce([&] { pick(mouse); });
   rectangle_.start(mouse);
   is_dragging_ = true;
   listener_.toolsChanged();
@@ -68,8 +68,10 @@ void PlotSession::pick(Point mouse) {
   setMode(PlotMode::recorrido);
   const PlanePoint point = {viewport_.planeX(mouse.x), viewport_.planeY(mouse.y)};
   std::optional<PickedGraph> picked;
+  Walk walk = beginWalk();
   if (active_ && viewport_.isInside(point.x, point.y))
-    picked = pickGraph(engine_, graphs_, *active_, point);
+    picked = pickGraph(engine_, graphs_, *active_, point, walk);
+  if (walk.isEnded()) return;
   if (!picked) return setMode(PlotMode::normal);
   active_ = picked->letter;
   listener_.toolsChanged();

@@ -15,15 +15,33 @@ std::string coordinate(std::string_view name, double value) {
 
 }  // namespace
 
+void PlotSession::walkOnce(const std::function<void()>& task) {
+  if (is_walking_) return;
+  is_walking_ = true;
+  task();
+  is_walking_ = false;
+}
+
+Walk PlotSession::beginWalk() {
+  return Walk(engine_, [this, changes = changes_] {
+    screen_.runPendingEvents();
+    return isDrawn() && changes == changes_;
+  });
+}
+
 void PlotSession::startTrace(double x, int direction) {
-  setMode(PlotMode::recorrido);
-  trace(x, direction);
+  walkOnce([&] {
+    setMode(PlotMode::recorrido);
+    trace(x, direction);
+  });
 }
 
 void PlotSession::trace(double x, int direction) {
   if (drawing_.inProgress()) return;
   const GraphDef def = activeDef();
-  const auto point = traceStep(engine_, def.codigo, viewport_, x, direction);
+  Walk walk = beginWalk();
+  const auto point = traceStep(engine_, def.codigo, viewport_, x, direction, walk);
+  if (walk.isEnded()) return;
   if (!point) return setMode(PlotMode::normal);
   placeCursor(*point, *point, direction < 0);
   screen_.showStatus(
@@ -33,7 +51,9 @@ void PlotSession::trace(double x, int direction) {
 void PlotSession::search() {
   setMode(PlotMode::recorrido);
   const GraphDef def = activeDef();
-  const auto found = searchExtremum(engine_, def.codigo, viewport_, tracePosition());
+  Walk walk = beginWalk();
+  const auto found = searchExtremum(engine_, def.codigo, viewport_, tracePosition(), walk);
+  if (walk.isEnded()) return;
   if (!found)
     return screen_.showStatus({Localize("No se encuentran MÁXIMOS ni Mínimos."), "", "", ""});
   placeCursor(found->before, found->after, false);

@@ -28,7 +28,7 @@ bool hasPassed(const ViewSettings& view, double x, int direction) {
 }  // namespace
 
 std::optional<PlanePoint> traceStep(Engine& engine, std::string_view code, const Viewport& viewport,
-                                    double x, int direction) {
+                                    double x, int direction, Walk& walk) {
   const double step = viewport.xStep();
   if (direction != 0) x = walkStartTowards(viewport, x, step, direction);
   std::string message;
@@ -39,6 +39,7 @@ std::optional<PlanePoint> traceStep(Engine& engine, std::string_view code, const
     double y = 0;
     if (engine.Evaluate(x, y, code, message) && viewport.isInside(x, y)) return PlanePoint{x, y};
     if (direction == 0 || hasPassed(viewport.view, x, direction)) return std::nullopt;
+    if (!walk.goesOn()) return std::nullopt;
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include "engine/engine.h"
 #include "pictures/picture.h"
+#include "plot/session/walk.h"
 #include "plot/viewport.h"
 
 namespace zel {
@@ -20,10 +21,10 @@ struct PlanePoint {
 inline constexpr double kLongestWalk = 100'000;
 
 /// From x, step by step in one direction (1 or -1), to the next point of the code that is in the
-/// view; a direction of 0 tries x alone. Nothing when the walk leaves the range, or a step no
-/// longer advances.
+/// view; a direction of 0 tries x alone. Nothing when the walk leaves the range or is ended, or a
+/// step no longer advances.
 std::optional<PlanePoint> traceStep(Engine& engine, std::string_view code, const Viewport& viewport,
-                                    double x, int direction);
+                                    double x, int direction, Walk& walk);
 
 /// The place from which a walk over x to the right begins: x, or the left end of the range when it
 /// is too far to the left of it. `step` is above 0.

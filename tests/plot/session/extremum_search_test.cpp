@@ -12,7 +12,8 @@ class ExtremumSearch : public PlotTest {
   std::optional<Extremum> search(const std::string& formula, double start) {
     addFunction('a', formula);
     EXPECT_EQ(viewport.prepare(), RangeVerdict::drawable);
-    return searchExtremum(engine, graph('a').codigo, viewport, start);
+    Walk walk(engine, [] { return true; });
+    return searchExtremum(engine, graph('a').codigo, viewport, start, walk);
   }
 
   void expectFound(const std::string& formula, double start, std::string_view label,

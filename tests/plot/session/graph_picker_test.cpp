@@ -8,7 +8,8 @@ namespace {
 class GraphPicker : public PlotTest {
  protected:
   std::optional<PickedGraph> pick(char active, double x, double y) {
-    return pickGraph(engine, graphs, active, {x, y});
+    Walk walk(engine, [] { return true; });
+    return pickGraph(engine, graphs, active, {x, y}, walk);
   }
   char letterAt(char active, double x, double y) {
     const auto picked = pick(active, x, y);

@@ -11,7 +11,8 @@ class Trace : public PlotTest {
   std::optional<PlanePoint> step(const std::string& formula, double x, int direction) {
     addFunction('a', formula);
     EXPECT_EQ(viewport.prepare(), RangeVerdict::drawable);
-    return traceStep(engine, graph('a').codigo, viewport, x, direction);
+    Walk walk(engine, [] { return true; });
+    return traceStep(engine, graph('a').codigo, viewport, x, direction, walk);
   }
 };
 
