@@ -23,11 +23,11 @@ std::string RandomCodes::code() {
 }
 
 std::string RandomCodes::faultingCode() {
-  constexpr std::array<std::string_view, 5> kBegins = {"^0,5", "^(1/3)", "^(0-1)", "*1e308",
-                                                       "\\0,4"};
+  constexpr std::array<std::string_view, 5> kBegins = {"*1e308", "\\0,4", "^0,5", "^(1/3)",
+                                                       "^(0-1)"};
   const std::string base = oneIn(2) ? "x" : "(" + expression(1) + ")";
-  std::string code = base + std::string(kBegins[below(kBegins.size())]);
-  if (oneIn(3)) code = (oneIn(2) ? "9@" : "6@") + base;
+  std::string code = base + std::string(kBegins[below(is_arithmetic_ ? 2 : kBegins.size())]);
+  if (oneIn(3)) code = (is_arithmetic_ || oneIn(2) ? "9@" : "6@") + base;
   if (oneIn(2)) code += "+" + expression(below(4));
   if (oneIn(3)) code = expression(below(3)) + "-" + code;
   return code;
@@ -48,6 +48,8 @@ std::string RandomCodes::atom() {
 
 std::string RandomCodes::function() {
   constexpr std::array<std::string_view, 4> kOdd = {"18@", "2,5@", "(0-1)@", "x@"};
+  constexpr std::array<std::string_view, 4> kExact = {"2@", "3@", "7@", "9@"};
+  if (is_arithmetic_) return std::string(kExact[below(kExact.size())]);
   return oneIn(60) ? std::string(kOdd[below(kOdd.size())]) : std::to_string(below(18)) + "@";
 }
 
@@ -62,29 +64,33 @@ std::string RandomCodes::expression(std::size_t operators) {
     case 0:
     case 1:
     case 2: return function() + operand(operators - 1);
-    case 3: return operand(operators - 1) + (oneIn(20) ? "#1" : "#0");
+    case 3:
+      if (is_arithmetic_) return operand(operators - 1) + "\\" + atom();
+      return operand(operators - 1) + (oneIn(20) ? "#1" : "#0");
     case 4:
       if (oneIn(3))
         return std::string(1, "fghtx"[below(5)]) + "(" + expression(operators - 1) + ")";
+      if (is_arithmetic_) return operand(operators - 1) + "/" + operand(0);
       return operand(operators - 1) + "^" + (oneIn(2) ? "2" : oneIn(2) ? "3" : "0,5");
     case 5: return "(" + expression(operators) + ")";
     case 6: return "-" + expression(operators - 1);
     default: {
-      constexpr std::string_view kOperators = "++--**//^\\";
+      constexpr std::string_view kOperators = "++--**//\\^";
       const std::size_t left = below(operators);
       const std::string first = left == 0 ? atom() : operand(left);
-      return first + kOperators[below(kOperators.size())] +
+      return first + kOperators[below(kOperators.size() - (is_arithmetic_ ? 1 : 0))] +
              (left + 1 == operators ? atom() : operand(operators - 1 - left));
     }
   }
 }
 
 std::string RandomCodes::damaged(std::string code) {
-  constexpr std::string_view kLetters = "+-\\/*@^#()xtpeafz019,. E\xB1";
+  const std::string_view letters =
+      is_arithmetic_ ? "+-\\/*()xtpafz \xB1" : "+-\\/*@^#()xtpeafz019,. E\xB1";
   for (std::size_t i = below(3) + 1; i > 0; --i) {
     const std::size_t at = below(code.size() + 1);
-    if (oneIn(2))
-      code.insert(at, 1, kLetters[below(kLetters.size())]);
+    if (is_arithmetic_ || oneIn(2))
+      code.insert(at, 1, letters[below(letters.size())]);
     else if (at < code.size())
       code.erase(at, 1);
   }

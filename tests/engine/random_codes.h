@@ -11,7 +11,11 @@ namespace zel::test {
 /// that the grammar rejects.
 class RandomCodes {
  public:
-  explicit RandomCodes(std::uint64_t seed) : random_(seed) {}
+  /// What the codes are made of: everything, or only what is rounded correctly by any machine.
+  enum class Vocabulary { all, arithmetic };
+
+  explicit RandomCodes(std::uint64_t seed, Vocabulary vocabulary = Vocabulary::all)
+      : random_(seed), is_arithmetic_(vocabulary == Vocabulary::arithmetic) {}
 
   std::string code();
   /// A code that faults on one side of some x, with more to take apart behind it.
@@ -29,6 +33,7 @@ class RandomCodes {
   std::string damaged(std::string code);
 
   std::mt19937_64 random_;
+  bool is_arithmetic_;
 };
 
 }  // namespace zel::test
