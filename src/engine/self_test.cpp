@@ -19,9 +19,12 @@ bool TestEvaluator(Engine& engine, std::string& detail) {
 bool RunSelfTest(Engine& engine, std::string& report) {
   report.clear();
   std::string detail;
-  if (!TestEvaluator(engine, detail))
-    report = Localize(messages::kSelfTestFailed) + "\r\n" + detail;
+  if (!TestEvaluator(engine, detail)) report = SelfTestReport(detail);
   return report.empty();
+}
+
+std::string SelfTestReport(const std::string& detail) {
+  return Localize(messages::kSelfTestFailed) + "\r\n" + detail;
 }
 
 }  // namespace zel

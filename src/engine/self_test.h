@@ -13,4 +13,7 @@ bool TestEvaluator(Engine& engine, std::string& detail);
 /// text for the user, in the current language; it is empty after a pass.
 bool RunSelfTest(Engine& engine, std::string& report);
 
+/// That text for a test that failed with a detail, which may be empty.
+std::string SelfTestReport(const std::string& detail);
+
 }  // namespace zel

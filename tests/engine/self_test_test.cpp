@@ -41,5 +41,20 @@ TEST_F(SelfTest, ReportsInEnglishToo) {
             "Test details:\r\n");
 }
 
+TEST_F(SelfTest, ReportsWhatTheEvaluationSaid) {
+  const std::string detail = "Error en Función 'log'\r\nDetalle: 10";
+  EXPECT_EQ(SelfTestReport(detail),
+            "Error: Se ha detectado un problema al probar alguna función en su sistema.\r\n"
+            "Consecuencia: NO se puede iniciar el programa.\r\n"
+            "\r\n"
+            "Detalles de la prueba:\r\n"
+            "Error en Función 'log'\r\n"
+            "Detalle: 10");
+  SetCurrentLanguage("EN");
+  EXPECT_EQ(SelfTestReport("Too big values"),
+            "Error detected while testing program functions.\r\nCannot start system.\r\n"
+            "Test details:\r\nToo big values");
+}
+
 }  // namespace
 }  // namespace zel::test
