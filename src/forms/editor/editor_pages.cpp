@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "forms/numeric_keys.h"
+#include "forms/text_box.h"
 
 namespace zel {
 namespace {
@@ -48,8 +49,7 @@ class Page {
   void label(int row, int column, const char* name) { fixedLabel(row, column, name, ""); }
 
   void field(int row, int column, const char* name, const char* tag, Holds holds, int columns = 1) {
-    auto* box = new QLineEdit;
-    box->setObjectName(QString::fromLatin1(name));
+    auto* box = makeTextBox(name);
     box->setProperty("Tag", QString::fromLatin1(tag));
     if (holds != Holds::formula) filterNumericKeys(*box, holds == Holds::distance);
     grid_->addWidget(box, row, column, 1, columns);

@@ -10,6 +10,7 @@
 #include "app/new_graph.h"
 #include "forms/editor/editor_fields.h"
 #include "forms/editor/frm_adm_graficos.h"
+#include "forms/tool_tip.h"
 
 namespace zel {
 namespace {
@@ -58,7 +59,8 @@ void frmAdmGraficos::markLettersInUse() {
     const auto def = program().graphs.graph(static_cast<char>('a' + i));
     const bool in_use = def && def->defined;
     cboNombre_->setItemData(i, in_use ? bold : QVariant(), Qt::FontRole);
-    cboNombre_->setItemData(i, in_use ? toQt(displayText(*def)) : QVariant(), Qt::ToolTipRole);
+    cboNombre_->setItemData(i, in_use ? toolTipOf(toQt(displayText(*def))) : QVariant(),
+                            Qt::ToolTipRole);
   }
 }
 

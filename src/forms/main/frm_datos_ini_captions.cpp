@@ -85,6 +85,9 @@ void frmDatosIni::updateLanguageMenu() {
   action("mTemasDeAyuda")->setEnabled(CurrentLanguage() == "ES");
 }
 
-void frmDatosIni::updateTitle() { setWindowTitle(toQt(mainWindowTitle(program()))); }
+void frmDatosIni::updateTitle() {
+  // Twice, "[*]" stands for itself; once, Qt takes it for a place of its own.
+  setWindowTitle(toQt(mainWindowTitle(program())).replace("[*]", "[*][*]"));
+}
 
 }  // namespace zel

@@ -14,6 +14,7 @@
 #include "forms/main/frm_datos_ini.h"
 #include "forms/main/graph_list.h"
 #include "forms/numeric_keys.h"
+#include "forms/text_box.h"
 
 namespace zel {
 namespace {
@@ -100,8 +101,7 @@ void frmDatosIni::buildControls() {
 }
 
 QLineEdit* frmDatosIni::makeNumberBox(const char* name, bool refuses_minus) {
-  auto* box = new QLineEdit;
-  box->setObjectName(QString::fromLatin1(name));
+  auto* box = makeTextBox(name);
   filterNumericKeys(*box, refuses_minus);
   return box;
 }

@@ -6,6 +6,8 @@
 
 #include "forms/form.h"
 #include "forms/kind_captions.h"
+#include "forms/tool_tip.h"
+#include "platform/qt/one_line.h"
 
 namespace zel {
 namespace {
@@ -58,8 +60,8 @@ void GraphList::listGraphs(const GraphTable& graphs) {
     bold.setBold(true);
     item->setFont(kName, bold);
     item->setText(kKind, kindCaption(def->tipo));
-    item->setText(kText, toQt(displayText(*def)));
-    item->setToolTip(kText, item->text(kText));
+    item->setText(kText, inOneLine(toQt(displayText(*def))));
+    item->setToolTip(kText, toolTipOf(item->text(kText)));
     if (letter == current_letter) setCurrentItem(item);
     item->setSelected(selected.find(letter) != std::string::npos);
   }

@@ -7,7 +7,9 @@
 
 #include "forms/editor/colour_swatch.h"
 #include "forms/form.h"
+#include "forms/tool_tip.h"
 #include "platform/icons/plot_icons.h"
+#include "platform/qt/one_line.h"
 
 namespace zel {
 namespace {
@@ -62,7 +64,7 @@ void GraphBar::showGraph(const std::optional<GraphDef>& graph) {
   CmdGrafAnterior_->setEnabled(graph.has_value());
   CmdGrafSiguiente_->setEnabled(graph.has_value());
   swatch_->setVisible(graph.has_value());
-  text_ = graph ? toQt(displayText(*graph)) : QString();
+  text_ = graph ? inOneLine(toQt(displayText(*graph))) : QString();
   QPalette palette = this->palette();
   if (graph) palette.setColor(QPalette::Window, qtColour(graph->color));
   swatch_->setPalette(palette);
@@ -80,7 +82,7 @@ void GraphBar::fitText() {
   const int room = LblGrafico_->width();
   const QString fitted = LblGrafico_->fontMetrics().elidedText(text_, Qt::ElideRight, room);
   LblGrafico_->setText(fitted);
-  LblGrafico_->setToolTip(fitted == text_ ? QString() : text_);
+  LblGrafico_->setToolTip(fitted == text_ ? QString() : toolTipOf(text_));
 }
 
 }  // namespace zel

@@ -1,6 +1,7 @@
 #include <QListView>
 
 #include "app/new_graph.h"
+#include "forms/shown_tip.h"
 #include "frm_adm_graficos_fixture.h"
 
 namespace zel::test {
@@ -46,7 +47,7 @@ TEST_F(EditorOpens, WithTheLettersInUseMarked) {
   openNew();
   auto& letters = control<QComboBox>(editor, "cboNombre");
   EXPECT_TRUE(letters.itemData(2, Qt::FontRole).value<QFont>().bold());
-  EXPECT_EQ(fromQt(letters.itemData(2, Qt::ToolTipRole).toString()), "c(x)=x^2");
+  EXPECT_EQ(shownTip(letters.itemData(2, Qt::ToolTipRole).toString()), "c(x)=x^2");
   EXPECT_FALSE(letters.itemData(1, Qt::FontRole).isValid());
   program.graphs.freeGraph('c');
   openNew();

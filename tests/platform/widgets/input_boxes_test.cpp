@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QLabel>
@@ -50,6 +51,16 @@ TEST_F(InputBoxesOfWidgets, GiveWhatWasTypedAsItIs) {
     QTest::keyClick(&field(box), Qt::Key_Return);
   }});
   EXPECT_EQ(inputs.ask("x", "t"), " 2,5 ");
+}
+
+TEST_F(InputBoxesOfWidgets, DropControlCharactersFromWhatIsPasted) {
+  QApplication::clipboard()->setText(QStringLiteral("\r\n1\t\r\n \r\n2\u0085") +
+                                     QChar(QChar::LineSeparator) + "3\n");
+  const ModalDriver<QInputDialog> driver({[](QInputDialog& box) {
+    QTest::keyClick(&field(box), Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(&field(box), Qt::Key_Return);
+  }});
+  EXPECT_EQ(inputs.ask("x", "t"), "1 23");
 }
 
 TEST_F(InputBoxesOfWidgets, TellAnEmptyAnswerFromACancelledOne) {
