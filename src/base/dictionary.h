@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -98,5 +99,11 @@ class KeyedDictionary {
   /// size is a power of two, and at least half of it is free.
   std::vector<std::size_t> index_;
 };
+
+/// A new empty dictionary. The records of graphs are built with it.
+template <class Value = std::string>
+std::shared_ptr<KeyedDictionary<Value>> NewDictionary() {
+  return std::make_shared<KeyedDictionary<Value>>();
+}
 
 }  // namespace zel

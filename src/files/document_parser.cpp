@@ -121,7 +121,7 @@ bool readGraph(LineReader& lines, GraphTable& graphs) {
   Parameters properties;
   if (!collectPairs(lines, properties)) return false;
   if (!lines.find("[PARAMETROS]")) return true;
-  auto parameters = std::make_shared<Parameters>();
+  auto parameters = NewDictionary();
   if (!collectPairs(lines, *parameters)) return false;
   const auto color = toInt32(properties.Item("color"));
   return color &&

@@ -1,7 +1,10 @@
 #include "forms/form.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
 #include <QWindow>
 
 #include "base/language.h"
@@ -35,6 +38,15 @@ void Form::showForm() {
   show();
   raise();
   activateWindow();
+}
+
+std::optional<std::string> Form::controlText(std::string_view name) const {
+  const auto* const control = findChild<QWidget*>(toQt(name));
+  if (const auto* const box = qobject_cast<const QLineEdit*>(control)) return fromQt(box->text());
+  if (const auto* const label = qobject_cast<const QLabel*>(control)) return fromQt(label->text());
+  if (const auto* const frame = qobject_cast<const QGroupBox*>(control))
+    return fromQt(frame->title());
+  return std::nullopt;
 }
 
 void Form::layOverCaller() {

@@ -3,9 +3,11 @@
 #include <QMainWindow>
 #include <QPixmap>
 #include <QString>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "app/field_text.h"
 #include "app/form_params.h"
 #include "app/program.h"
 
@@ -22,7 +24,7 @@ QString caption(const char* spanish, const char* english);
 QPixmap windowIconPixmap(int side);
 
 /// A window of the program: a single instance, hidden and not destroyed when it is closed.
-class Form : public QMainWindow, public FormWindow {
+class Form : public QMainWindow, public FormWindow, public FormControls {
   Q_OBJECT
 
  public:
@@ -36,6 +38,8 @@ class Form : public QMainWindow, public FormWindow {
   /// Takes the arguments out of FormParams and shows the window, or brings it to the front. Its
   /// captions are in the current language then.
   void showForm() override;
+
+  std::optional<std::string> controlText(std::string_view name) const override;
 
  protected:
   /// The captions from the window's own two literal sets. A window calls it once when it is made:

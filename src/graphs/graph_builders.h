@@ -72,7 +72,7 @@ struct BuiltGraph {
   char tipo = '\0';
   std::string ecuacion;
   std::string codigo;  // of a parabola only
-  std::shared_ptr<Parameters> parameters = std::make_shared<Parameters>();
+  std::shared_ptr<Parameters> parameters = NewDictionary();
 };
 
 /// Validates the fields and makes the graph of them. `letter` is the graph's name. A parabola with

@@ -103,7 +103,7 @@ bool GraphTable::rebuildGraph(char nombre, std::string ecuacion, std::string cod
   def.color = color;
   def.tipo = tipo;
   def.defined = true;
-  def.parameters = parameters ? std::move(parameters) : std::make_shared<Parameters>();
+  def.parameters = parameters ? std::move(parameters) : NewDictionary();
   makeCode(def, std::move(codigo));
   return storeGraph(def);
 }

@@ -45,6 +45,22 @@ TEST_F(MainCommands, AScaleIsGivenUnlessItIsZeroOrNothing) {
   EXPECT_FALSE(scaleIsGiven("0"));
   EXPECT_FALSE(scaleIsGiven(" 0 "));
   EXPECT_FALSE(scaleIsGiven(""));
+  EXPECT_TRUE(scaleIsGiven(" "));
+}
+
+TEST_F(MainCommands, PlotReportsAScaleOfBlanksInBothLanguages) {
+  addFunction('a', "x");
+  PlotFields blanks = fields();
+  blanks.escala_y = "  ";
+  EXPECT_FALSE(preparePlot(program, blanks, &main_window));
+  EXPECT_EQ(services.boxes.shown.back(),
+            errorReport("Datos no válidos en declaraciones y/o rango."));
+  SetCurrentLanguage("EN");
+  EXPECT_FALSE(preparePlot(program, blanks, &main_window));
+  EXPECT_EQ(services.boxes.shown.back(), errorReport("No valid definitions or range."));
+  blanks.escala_y = " 2 ";
+  EXPECT_TRUE(preparePlot(program, blanks, &main_window));
+  EXPECT_EQ(program.marks.escala_y, 2);
 }
 
 TEST_F(MainCommands, PlotHandsTheViewOver) {

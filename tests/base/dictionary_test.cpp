@@ -88,5 +88,13 @@ TEST(KeyedDictionary, TakesManyKeysInTimeThatGrowsWithThem) {
   EXPECT_EQ(dictionary.Count(), 200'000u);
 }
 
+TEST(Dictionary, IsNewAndEmptyAtFirst) {
+  const auto one = NewDictionary();
+  const auto other = NewDictionary<int>();
+  EXPECT_EQ(one->Count() + other->Count(), 0u);
+  EXPECT_TRUE(one->Add("h", "1"));
+  EXPECT_EQ(NewDictionary()->Count(), 0u);
+}
+
 }  // namespace
 }  // namespace zel::test

@@ -55,6 +55,12 @@ TEST(Text, ReplacesWhateverTheCase) {
   EXPECT_EQ(replaceAllIgnoringCase("abc", "", "y"), "abc");
 }
 
+TEST(Text, LosesRelationSignsBeforeItsEndsAreTrimmed) {
+  EXPECT_EQ(stripRelationSigns(" <= x > 3 = "), "x  3");
+  EXPECT_EQ(stripRelationSigns("=<>"), "");
+  EXPECT_EQ(stripRelationSigns("año"), "año");
+}
+
 TEST(Text, TrimsBlanksAndNoOtherWhiteSpace) {
   EXPECT_EQ(trimBlanks("  a b "), "a b");
   EXPECT_EQ(trimBlanks("\t a \r\n"), "\t a \r\n");

@@ -1,8 +1,6 @@
 // What the graph editor's controls hold.
 #include <QComboBox>
 #include <QFont>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QVariant>
@@ -13,18 +11,6 @@
 #include "forms/tool_tip.h"
 
 namespace zel {
-namespace {
-
-/// The caption of the label or frame that the "Tag" of a field names.
-QString tagCaption(const QWidget& form, const QLineEdit& box) {
-  const QString tag = box.property("Tag").toString();
-  if (const auto* label = form.findChild<QLabel*>(tag)) return label->text();
-  const auto* frame = form.findChild<QGroupBox*>(tag);
-  return frame ? frame->title() : QString();
-}
-
-}  // namespace
-
 QLineEdit* frmAdmGraficos::box(const char* name) const {
   return findChild<QLineEdit*>(QString::fromLatin1(name));
 }
@@ -38,8 +24,8 @@ char frmAdmGraficos::kind() const {
 GraphFields frmAdmGraficos::fields() const {
   GraphFields fields = newGraphFields(kind());
   for (const auto& [control, field] : placesOf(fields)) {
-    const QLineEdit* const edited = box(control);
-    *field = {fromQt(edited->text()), fromQt(tagCaption(*this, *edited))};
+    const std::string tag = fromQt(box(control)->property("Tag").toString());
+    *field = {ReadFieldText(*this, control), ReadFieldText(*this, tag)};
   }
   return fields;
 }

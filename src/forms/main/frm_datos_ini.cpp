@@ -190,14 +190,14 @@ void frmDatosIni::CmdBorrar_Click() {
 }
 
 void frmDatosIni::CmdGraficarLista_Click() {
-  const auto field = [](const QLineEdit* box, const QLabel* label) {
-    return Field{fromQt(box->text()), fromQt(label->text())};
+  const auto field = [this](const char* box, const char* label) {
+    return Field{ReadFieldText(*this, box), ReadFieldText(*this, label)};
   };
   PlotFields plot;
-  plot.xi = field(txtRanXi_, range_labels_[1]);
-  plot.xf = field(txtRanXf_, range_labels_[0]);
-  plot.yi = field(txtRanYi_, range_labels_[3]);
-  plot.yf = field(txtRanYf_, range_labels_[2]);
+  plot.xi = field("txtRanXi", "LblRanXi");
+  plot.xf = field("txtRanXf", "LblRanXf");
+  plot.yi = field("txtRanYi", "LblRanYi");
+  plot.yf = field("txtRanYf", "LblRanYf");
   plot.escala_x = fromQt(txtEscalaX_->text());
   plot.escala_y = fromQt(txtEscalaY_->text());
   plot.mantener_prop = chkProporcional_->isChecked();

@@ -59,6 +59,36 @@ TEST_F(EditorAccepts, AFamily) {
   EXPECT_EQ(parameter(graph('z'), "variacion"), "1");
 }
 
+TEST_F(EditorAccepts, FieldsWithoutRelationSignsAndBlanksAtTheirEnds) {
+  declare('f', 'F', {{"txtF", " =x+1 "}});
+  EXPECT_EQ(graph('f').ecuacion, "x+1");
+  EXPECT_EQ(graph('f').codigo, "x+1");
+  declare('c', 'C', {{"txtCX", " 3 "}, {"txtCY", "=-1"}, {"txtCRadio", "<2"}});
+  EXPECT_EQ(graph('c').ecuacion, "c(3;-1;2)");
+  EXPECT_EQ(parameter(graph('c'), "h"), "3");
+  declare('t', 'T',
+          {{"txtTx", "= t "},
+           {"txtTy", ">t"},
+           {"txtTinicio", " 0"},
+           {"txtTfin", "9 "},
+           {"txtTvariacion", "=1"}});
+  EXPECT_EQ(graph('t').ecuacion, "[X(t)=t;Y(t)=t]");
+  EXPECT_EQ(parameter(graph('t'), "fin"), "9");
+  EXPECT_TRUE(services.boxes.shown.empty());
+}
+
+TEST_F(EditorAccepts, NoFormulaOfRelationSignsAndBlanks) {
+  for (const char* const language : {"ES", "EN"}) {
+    SetCurrentLanguage(language);
+    declare('f', 'F', {{"txtF", " = "}});
+    const bool english = CurrentLanguage() == "EN";
+    EXPECT_TRUE(cause().starts_with(
+        english ? "Text field Function can't be empty.\r\n"
+                : "El campo Declaración de la función no puede estar vacío.\r\n"));
+    EXPECT_FALSE(graph('f').defined);
+  }
+}
+
 TEST_F(EditorAccepts, TheColourThatWasChosen) {
   services.colours.colours = {0x00FF7F};
   openNew();
