@@ -31,11 +31,19 @@ bool IsKnownUserError(std::string_view text) {
          holds("Error de sintaxis.");
 }
 
-void ReportCriticalError(MessageBoxes& boxes, std::string_view text, char graph) {
+void ReportCriticalError(MessageBoxes& boxes, std::string_view text, std::optional<char> graph) {
   if (!IsKnownUserError(text)) return;
-  boxes.show(Localize("Operación cancelada.") + "\r\n" + Localize("Causa: ") + std::string(text) +
-                 "\r\n" + Localize("Detalle: gráfico activo ") + graph,
-             Localize("ZEL - Reporte de errores criticos"), BoxStyle::stop);
+  std::string report = Localize("Operación cancelada.") + "\r\n" + Localize("Causa: ");
+  report.append(text).append("\r\n").append(Localize("Detalle: gráfico activo "));
+  if (graph) report += *graph;
+  boxes.show(report, Localize("ZEL - Reporte de errores criticos"), BoxStyle::stop);
+}
+
+void ShowDrawingError(MessageBoxes& boxes, std::string_view message, std::optional<char> graph) {
+  if (IsKnownUserError(message))
+    ReportCriticalError(boxes, message, graph);
+  else
+    ShowAttention(boxes, message);
 }
 
 }  // namespace zel

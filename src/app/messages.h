@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "app/services.h"
@@ -22,6 +23,9 @@ bool IsKnownUserError(std::string_view text);
 
 /// That an operation was cancelled, with the text as its cause and the graph that was being drawn.
 /// Shows nothing for a text that is no known user error: this is meant.
-void ReportCriticalError(MessageBoxes& boxes, std::string_view text, char graph);
+void ReportCriticalError(MessageBoxes& boxes, std::string_view text, std::optional<char> graph);
+
+/// Why a plot was not drawn: a known user error as a critical one, any other as it is.
+void ShowDrawingError(MessageBoxes& boxes, std::string_view message, std::optional<char> graph);
 
 }  // namespace zel

@@ -32,8 +32,7 @@ struct Program {
   DocumentHeader header;
   std::string document_name;  // the file name alone; empty when there is no document
   std::string document_path;
-  std::string help_file;    // the application's; "mEnglish" does not change it, which is meant
-  char active_graph = 'a';  // the graph that is being drawn, for reports
+  std::string help_file;  // the application's; "mEnglish" does not change it, which is meant
   std::function<void()> end_process = [] {};
 };
 

@@ -24,9 +24,10 @@ void DriveWindow::pictureDrawn() {
   progress_.reset();
 }
 
-void DriveWindow::showMessage(const std::string& message) {
+void DriveWindow::showDrawingError(const std::string& message, std::optional<char> graph) {
   was_refused_ = true;
-  ShowAttention(*this, message);
+  is_report_ = IsKnownUserError(message);
+  ShowDrawingError(*this, message, graph);
 }
 
 void DriveWindow::showInformation(const std::string& message) { ShowInformation(*this, message); }
@@ -54,9 +55,10 @@ void DriveWindow::clear() {
 }
 
 BoxAnswer DriveWindow::show(const std::string& text, const std::string& title, BoxStyle style) {
-  const bool is_attention = style == BoxStyle::stop;
-  shown_.messages.push_back({is_attention ? "attention" : "information", title, text});
-  return is_attention ? BoxAnswer::ok : BoxAnswer::cancel;
+  const bool is_stop = style == BoxStyle::stop;
+  const std::string_view stop_kind = is_report_ ? "report" : "attention";
+  shown_.messages.push_back({is_stop ? stop_kind : "information", title, text});
+  return is_stop ? BoxAnswer::ok : BoxAnswer::cancel;
 }
 
 }  // namespace zel

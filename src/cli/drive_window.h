@@ -16,7 +16,7 @@ namespace zel {
 
 /// A message box, as it was shown.
 struct ShownMessage {
-  std::string_view kind;  // "information" or "attention"
+  std::string_view kind;  // "information", "attention" or "report"
   std::string title;
   std::string text;
 };
@@ -57,7 +57,7 @@ class DriveWindow : private PlotListener, private Screen, private Picture, priva
  private:
   void pictureDrawn() override;
   void toolsChanged() override {}
-  void showMessage(const std::string& message) override;
+  void showDrawingError(const std::string& message, std::optional<char> graph) override;
   void showInformation(const std::string& message) override;
   std::optional<std::string> askValue(const std::string&, const std::string&) override;
   void copyPicture() override {}
@@ -84,6 +84,7 @@ class DriveWindow : private PlotListener, private Screen, private Picture, priva
   std::size_t answers_size_ = 0;
   std::optional<Progress> progress_;
   bool was_refused_ = false;
+  bool is_report_ = false;  // the box that is shown
 };
 
 }  // namespace zel

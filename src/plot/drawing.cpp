@@ -74,6 +74,8 @@ RedrawOutcome Drawing::redraw(Viewport& viewport, const ScaleMarks& marks) {
 RedrawOutcome Drawing::drawOnce(Viewport& viewport, const ScaleMarks& marks) {
   Flag flag(*this, ++latest_);
   in_progress_ = false;  // a curve of an older redraw ends here
+  putParameterBack();
+  graph_.reset();
   picture_.clear();
   const RangeVerdict verdict = viewport.prepare();
   if (verdict != RangeVerdict::drawable) return refusal(verdict);
@@ -93,21 +95,35 @@ RedrawOutcome Drawing::drawGraphs(const Viewport& viewport, Flag& flag) {
     if (!def || !def->defined) continue;
     screen_.showStatus(progressStatus(letter, graphs_.count()));
     picture_.beginGraph(letter, def->color);
+    graph_ = letter;
     const bool drawn = drawGraph(tools, *def);
     if (flag.isAbandoned()) return RedrawOutcome::abandoned;
     if (!drawn) return RedrawOutcome::failed;
     screen_.runPendingEvents();
     if (flag.isAbandoned()) return RedrawOutcome::abandoned;
+    graph_.reset();
   }
   return RedrawOutcome::drawn;
 }
 
 bool Drawing::drawGraph(const CurveTools& tools, const GraphDef& def) {
   if (isTwoBranch(def)) return sweepBranches(tools, def);
-  if (def.tipo == 'Z') return sweepFamily(tools, def);
+  if (def.tipo == 'Z') return drawFamily(tools, def);
   if (def.tipo == 'T') return sweepParametric(tools, def);
   sweepFunction(tools, def.codigo);
   return true;
+}
+
+bool Drawing::drawFamily(const CurveTools& tools, const GraphDef& def) {
+  parameter_ = engine_.GetP();
+  const bool drawn = sweepFamily(tools, def);
+  putParameterBack();
+  return drawn;
+}
+
+void Drawing::putParameterBack() {
+  if (parameter_) engine_.SetP(*parameter_);
+  parameter_.reset();
 }
 
 }  // namespace zel

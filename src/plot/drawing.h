@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "engine/engine.h"
@@ -42,13 +43,17 @@ class Drawing {
 
   /// Clears the picture and draws the view, which the proportional rule may change first. A refused
   /// range draws nothing; a failure leaves what was drawn before it. The range stands in the status
-  /// bar after a whole redraw.
+  /// bar after a whole redraw. The engine's "p" is what it was before, so that a trace goes on
+  /// along the member of a family that was picked.
   RedrawOutcome redraw(Viewport& viewport, const ScaleMarks& marks);
 
   /// Whether a redraw has begun and not returned.
   bool isUnderWay() const { return nested_ > 0; }
   /// Whether a family or a parametric curve is being drawn.
   bool inProgress() const { return in_progress_; }
+  /// The graph that is being drawn, or was when the last redraw failed; nothing where there is
+  /// none.
+  std::optional<char> graph() const { return graph_; }
   /// Ends the family or parametric curve that is being drawn; what it has drawn stays.
   void stop() { in_progress_ = false; }
   /// Ends a redraw that is under way, at its next look.
@@ -74,15 +79,19 @@ class Drawing {
   RedrawOutcome drawOnce(Viewport& viewport, const ScaleMarks& marks);
   RedrawOutcome drawGraphs(const Viewport& viewport, Flag& flag);
   bool drawGraph(const CurveTools& tools, const GraphDef& def);
+  bool drawFamily(const CurveTools& tools, const GraphDef& def);
+  void putParameterBack();
 
   Engine& engine_;
   const GraphTable& graphs_;
   Picture& picture_;
   Screen& screen_;
   bool in_progress_ = false;
-  std::uint64_t latest_ = 0;  // the number of the redraw that owns the picture
-  int nested_ = 0;            // redraws that have begun and not returned
-  bool begins_anew_ = false;  // the last of them, as soon as it notices
+  std::optional<char> graph_;
+  std::optional<double> parameter_;  // the engine's "p" as it was before a family took it
+  std::uint64_t latest_ = 0;         // the number of the redraw that owns the picture
+  int nested_ = 0;                   // redraws that have begun and not returned
+  bool begins_anew_ = false;         // the last of them, as soon as it notices
 };
 
 }  // namespace zel

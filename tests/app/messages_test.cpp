@@ -80,5 +80,30 @@ TEST_F(Messages, ACriticalErrorNamesTheGraphAndIsShownForKnownErrorsOnly) {
             }));
 }
 
+TEST_F(Messages, ACriticalErrorOfNoGraphNamesNone) {
+  ReportCriticalError(boxes, "Error de sintaxis.", std::nullopt);
+  EXPECT_EQ(boxes.shown.at(0).text,
+            "Operación cancelada.\r\nCausa: Error de sintaxis.\r\nDetalle: gráfico activo ");
+}
+
+TEST_F(Messages, ADrawingErrorIsCriticalWhenItIsKnownAndShownAsItIsOtherwise) {
+  ShowDrawingError(boxes, messages::kRangeTooClose, 'c');
+  ShowDrawingError(boxes, "Error: Los valores del rango son demasiado elevados.", 'c');
+  SetCurrentLanguage("EN");
+  ShowDrawingError(boxes, "Cannot graph because interval range is too small.", 'd');
+  EXPECT_EQ(
+      boxes.shown,
+      (std::vector<Box>{
+          {"Operación cancelada.\r\nCausa: " + std::string(messages::kRangeTooClose) +
+               "\r\nDetalle: gráfico activo c",
+           "ZEL - Reporte de errores criticos", BoxStyle::stop},
+          {"Error: Los valores del rango son demasiado elevados.", "ZEL - ATENCIÓN",
+           BoxStyle::stop},
+          {"Cancelled operation.\r\nReason: Cannot graph because interval range is too small.\r\n"
+           "Detail: active graphic d",
+           "ZEL - Critical error report", BoxStyle::stop},
+      }));
+}
+
 }  // namespace
 }  // namespace zel::test

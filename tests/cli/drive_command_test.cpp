@@ -135,8 +135,7 @@ TEST_F(DriveCommand, ARefusedRangeClosesTheWindowAndTheRestIsStillAnswered) {
     std::vector<std::string> range;
     std::string message;
   };
-  const Row rows[] = {{{"3", "3", "0", "1"}, std::string(messages::kRangeTooClose)},
-                      {{"-1e300", "1e300", "-1e300", "1e300"}, kTooLarge},
+  const Row rows[] = {{{"-1e300", "1e300", "-1e300", "1e300"}, kTooLarge},
                       {{"0", "1", "2", "2"}, kFailed}};
   for (const Row& row : rows) {
     std::vector<std::string> more = {"--range"};
@@ -153,6 +152,21 @@ TEST_F(DriveCommand, ARefusedRangeClosesTheWindowAndTheRestIsStillAnswered) {
     EXPECT_EQ(drive(planeOf("x"), "", more).last()["messages"],
               Json({attention(SpanishToEnglish(row.message), "ZEL - NOTIFY")}));
   }
+}
+
+TEST_F(DriveCommand, ARangeThatIsTooCloseIsReportedWithTheActiveGraph) {
+  const std::string document = planeOf("x");
+  EXPECT_EQ(drive(document, "", {"--range", "3", "3", "0", "1"}).last()["messages"],
+            Json({report("Operación cancelada.\r\nCausa: " + std::string(messages::kRangeTooClose) +
+                             "\r\nDetalle: gráfico activo a",
+                         "ZEL - Reporte de errores criticos")}));
+  const Driven english = drive(document, "", {"--range", "3", "3", "0", "1", "--lang", "EN"});
+  EXPECT_EQ(english.status, 1);
+  EXPECT_EQ(english.last()["closed_to"], "main");
+  EXPECT_EQ(english.last()["messages"],
+            Json({report("Cancelled operation.\r\nReason: Cannot graph because interval range is "
+                         "too small.\r\nDetail: active graphic a",
+                         "ZEL - Critical error report")}));
 }
 
 TEST_F(DriveCommand, ALineThatIsNoCommandIsComplainedOfAndAnsweredAllTheSame) {

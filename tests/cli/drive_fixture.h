@@ -96,6 +96,10 @@ class DriveTest : public CliTest {
     return {{"kind", "attention"}, {"title", title}, {"text", text}};
   }
 
+  static Json report(const std::string& text, const std::string& title) {
+    return {{"kind", "report"}, {"title", title}, {"text", text}};
+  }
+
   static std::string repeated(const std::string& line, int count) {
     std::string result;
     for (; count > 0; --count) result += line + "\n";

@@ -168,11 +168,17 @@ TEST_F(DriveModes, ARectangleIsDroppedByTheRightButtonAndByAnotherMode) {
   }
 }
 
-TEST_F(DriveModes, AHeldButtonSizesAHiddenRectangleTooFromWhereItStoodLast) {
-  const Json object = after(planeOf("x"), "Zoom_a_Medida\nmove left 4000 4000\n");
-  EXPECT_EQ(object["zoom_rectangle"], nullptr);
-  EXPECT_EQ(after(planeOf("x"), "Zoom_a_Medida\nmove left 4000 4000\nup left 4000 4000")["redraws"],
-            2);
+TEST_F(DriveModes, ADragThatBeganInAnotherModeAppliesNothing) {
+  const std::string drag = "move left 4000 4000\nup left 4000 4000\n";
+  for (const std::string begins : {"Zoom_a_Medida\n", "down left 10 10\ndown right 10 10\n"}) {
+    const Json object = after(planeOf("x"), begins + drag);
+    EXPECT_EQ(object["mode"], "ZOOM");
+    EXPECT_EQ(object["zoom_rectangle"], nullptr);
+    EXPECT_EQ(object["redraws"], 1);
+  }
+  const std::string zooms = "Zoom_a_Medida\ndown left 1000 1000\n";
+  EXPECT_EQ(after(planeOf("x"), zooms + drag)["redraws"], 2);
+  EXPECT_EQ(after(planeOf("x"), zooms + drag + drag)["redraws"], 2);  // the old rectangle
 }
 
 }  // namespace

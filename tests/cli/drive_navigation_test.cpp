@@ -84,7 +84,9 @@ TEST_F(DriveNavigation, ZoomingInEndsWhereTheRangeIsTooClose) {
   EXPECT_EQ(driven.objects[zooms - 1]["closed_to"], nullptr);
   EXPECT_EQ(driven.objects[zooms]["closed_to"], "main");
   EXPECT_EQ(driven.objects[zooms]["messages"],
-            Json({attention(std::string(messages::kRangeTooClose))}));
+            Json({report("Operación cancelada.\r\nCausa: " + std::string(messages::kRangeTooClose) +
+                             "\r\nDetalle: gráfico activo a",
+                         "ZEL - Reporte de errores criticos")}));
   EXPECT_EQ(driven.objects[zooms]["xi"], xi);
   EXPECT_EQ(driven.objects[zooms]["xf"], xf);
   EXPECT_EQ(driven.last()["closed_to"], "main");

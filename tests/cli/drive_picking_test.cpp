@@ -48,8 +48,7 @@ TEST_F(DrivePicking, ABranchOfAConicCountsAndTheTraceFollowsTheGraphsCode) {
 
 TEST_F(DrivePicking, AMemberOfAFamilyIsPickedWithItsParameter) {
   const std::string document = plane(family('a', "p*x", "0", "2") + block('b', 'F', "-8"));
-  const Json start = after(document, "");
-  EXPECT_EQ(start["p"], 2);  // the member that was drawn last
+  EXPECT_EQ(after(document, "")["p"], 0);  // as before it was drawn
   const Json lowest = picked(document, 3, 0.25, "b");
   EXPECT_EQ(lowest["active"], "a");
   EXPECT_EQ(lowest["p"], 0);
@@ -59,6 +58,8 @@ TEST_F(DrivePicking, AMemberOfAFamilyIsPickedWithItsParameter) {
   EXPECT_EQ(middle["panels"], panels("X=3,5", "Y=3,5", "P=1"));
   EXPECT_EQ(after(document, clickAt(3, 3.5) + "Recorrer_Adelante")["panels"],
             panels("X=4", "Y=4", "P=1"));
+  EXPECT_EQ(after(document, clickAt(3, 3.5) + "Derecha\nDerecha")["panels"],
+            panels("X=3,5", "Y=3,5", "P=1"));
   EXPECT_EQ(picked(document, 3, 4.5, "a")["p"], 1);  // as near to p = 2
 }
 

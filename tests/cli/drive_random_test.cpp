@@ -65,7 +65,7 @@ class DriveRandom : public DriveTest {
     EXPECT_EQ(object["panels"].size(), 4u);
     EXPECT_NE(object["panels"][0], "");
     for (const Json& message : object["messages"])
-      EXPECT_EQ(message["kind"] == "attention", object["closed_to"] == "main");
+      EXPECT_EQ(message["kind"] != "information", object["closed_to"] == "main");
   }
 
   static void expectOneAfterAnother(const Json& earlier, const Json& later) {

@@ -111,7 +111,8 @@ TEST_F(DriveSearch, AnUndefinedPointBreaksTheDirections) {
 }
 
 TEST_F(DriveSearch, ShowsTheParameterOfAFamily) {
-  const Json object = after(plane(family('a', "(x-p)^2", "1", "2")), "Buscar_Max_Min");
+  const Json object =
+      after(plane(family('a', "(x-p)^2", "1", "2")), clickAt(0, 4) + "Buscar_Max_Min");
   EXPECT_EQ(object["panels"], panels("Posible Min", "X=2,25", "Y=0,0625", "P=2"));
   EXPECT_EQ(object["cursor"], Json({7000, 4500}));
 }

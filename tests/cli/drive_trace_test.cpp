@@ -93,16 +93,17 @@ TEST_F(DriveTrace, ThePositionOutlivesModesAndZooms) {
   EXPECT_EQ(object["trace_x"], 2.5 + 16 / 48.0);
 }
 
-TEST_F(DriveTrace, ATraceFollowsTheMemberThatWasDrawnLast) {
-  const Json object = after(plane(family('a', "p*x", "0", "2")), "Recorrer");
-  EXPECT_EQ(object["panels"], panels("X=-4,5", "Y=-9", "P=2"));
+TEST_F(DriveTrace, ATraceFollowsTheMemberThatWasPicked) {
+  const std::string document = plane(family('a', "p*x", "0", "2"));
+  EXPECT_EQ(after(document, clickAt(1, 1.75) + "Recorrer")["panels"],
+            panels("X=-4,5", "Y=-9", "P=2"));
+  EXPECT_EQ(after(document, "Recorrer")["panels"], panels("X=-11,5", "Y=0", "P=0"));
 }
 
 TEST_F(DriveTrace, AFamilyWhoseStepIsLongerThanItsRangeHasItsFirstMember) {
   const std::string document =
       plane(block('a', 'Z', "p*x", "parametro=P\r\ninicio=1\r\nfin=3\r\nvariacion=5\r\n"));
-  EXPECT_EQ(after(document, "")["p"], 1);
-  EXPECT_EQ(after(document, "Recorrer_Adelante")["panels"], panels("X=0,5", "Y=0,5", "P=1"));
+  EXPECT_EQ(after(document, clickAt(0, 5))["panels"], panels("X=0,5", "Y=0,5", "P=1"));
 }
 
 TEST_F(DriveTrace, MapsWithTheFloorOfTheDrawing) {

@@ -53,8 +53,8 @@ void frmGrafico::toolsChanged() {
   if (session_.mode() != PlotMode::recorrido) describePicture();
 }
 
-void frmGrafico::showMessage(const std::string& message) {
-  ShowAttention(program().services.boxes, message);
+void frmGrafico::showDrawingError(const std::string& message, std::optional<char> graph) {
+  ShowDrawingError(program().services.boxes, message, graph);
 }
 
 void frmGrafico::showInformation(const std::string& message) {

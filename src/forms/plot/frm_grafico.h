@@ -47,7 +47,7 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
  private:
   void pictureDrawn() override;
   void toolsChanged() override;
-  void showMessage(const std::string& message) override;
+  void showDrawingError(const std::string& message, std::optional<char> graph) override;
   void showInformation(const std::string& message) override;
   std::optional<std::string> askValue(const std::string& prompt, const std::string& title) override;
   void copyPicture() override;

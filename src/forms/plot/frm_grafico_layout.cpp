@@ -72,8 +72,6 @@ void frmGrafico::connectControls() {
   picGrafico_->installEventFilter(this);
   connect(picGrafico_, &PictureBox::KeyPress, this, &frmGrafico::picGrafico_KeyPress);
   connect(picGrafico_, &PictureBox::resolutionChanged, this, [this] { session_.redraw(); });
-  connect(picGrafico_, &PictureBox::graphBegun, this,
-          [this](char letter) { program().active_graph = letter; });
   connect(Toolbar1_, &PlotToolbar::ButtonClick, this, &frmGrafico::Toolbar1_ButtonClick);
   connect(graph_bar_, &GraphBar::previousClicked, this, &frmGrafico::CmdGrafAnterior_Click);
   connect(graph_bar_, &GraphBar::nextClicked, this, &frmGrafico::CmdGrafSiguiente_Click);

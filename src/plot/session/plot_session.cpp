@@ -22,6 +22,7 @@ void PlotSession::open(const ViewSettings& view, const ScaleMarks& marks) {
   rectangle_ = {};
   ignores_press_ = false;
   is_dragging_ = false;
+  drags_in_mode_ = false;
   active_.reset();
   activateFirst();
   state_ = State::opened;
@@ -76,7 +77,8 @@ bool PlotSession::takeView(const ViewSettings& view) {
 
 void PlotSession::report(RedrawOutcome outcome) {
   const auto opening = opened_count_;
-  listener_.showMessage(Localize(redrawMessage(outcome)));
+  const auto drawn = drawing_.graph();
+  listener_.showDrawingError(Localize(redrawMessage(outcome)), drawn ? drawn : active_);
   if (state_ == State::refused && opening == opened_count_) listener_.returnToMain();
 }
 
@@ -94,6 +96,7 @@ void PlotSession::resize(const PictureSize& size) {
 void PlotSession::setMode(PlotMode mode) {
   mode_ = mode;
   ++changes_;
+  drags_in_mode_ = false;
   if (mode != PlotMode::recorrido) {
     cursor_.reset();
     screen_.showStatus(rangeStatus(viewport_.view));

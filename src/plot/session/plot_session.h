@@ -40,8 +40,9 @@ class PlotListener {
   virtual void pictureDrawn() = 0;
   /// The mode, the cursor, the zoom rectangle or the active graph is no longer what it was.
   virtual void toolsChanged() = 0;
-  /// Why the view was not drawn, in the current language. Shown until the user has seen it.
-  virtual void showMessage(const std::string& message) = 0;
+  /// Why the view was not drawn, in the current language, and the graph that was being drawn, or
+  /// the active one where none was. Shown until the user has seen it.
+  virtual void showDrawingError(const std::string& message, std::optional<char> graph) = 0;
   /// The same for what the user wanted to know.
   virtual void showInformation(const std::string& message) = 0;
   /// What the user types; nothing, or an empty text, when that was cancelled.
@@ -181,7 +182,8 @@ class PlotSession {
   std::optional<PlanePoint> trace_;  // the last trace point
   std::optional<TraceCursor> cursor_;
   ZoomRectangle rectangle_;
-  bool is_dragging_ = false;    // the rectangle
+  bool is_dragging_ = false;    // the rectangle, which is shown
+  bool drags_in_mode_ = false;  // the left button went down in this mode, and has not come up
   bool ignores_press_ = false;  // with what belongs to it, until the button is up
   State state_ = State::closed;
   std::uint64_t opened_count_ = 0;  // tells one opening from the next

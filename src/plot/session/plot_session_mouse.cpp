@@ -17,6 +17,7 @@ void PlotSession::mouseDown(MouseButton button, Point mouse) {
   if (mode_ != PlotMode::zoom) return walkOnce([&] { pick(mouse); });
   rectangle_.start(mouse);
   is_dragging_ = true;
+  drags_in_mode_ = true;
   listener_.toolsChanged();
 }
 
@@ -34,11 +35,10 @@ void PlotSession::mouseMove(MouseButton held, Point mouse) {
 void PlotSession::mouseUp(MouseButton button, Point) {
   const bool is_ignored = std::exchange(ignores_press_, false);
   is_dragging_ = false;
+  const bool ends_drag = button == MouseButton::left && std::exchange(drags_in_mode_, false);
   if (!isDrawn()) return;
   listener_.toolsChanged();
-  if (is_ignored) return;
-  if (button == MouseButton::left && mode_ == PlotMode::zoom && rectangle_.isLargeEnough())
-    applyRectangle();
+  if (!is_ignored && ends_drag && rectangle_.isLargeEnough()) applyRectangle();
 }
 
 void PlotSession::wheelTurned(Zoom zoom, Point mouse) {

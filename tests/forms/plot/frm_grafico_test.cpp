@@ -44,7 +44,6 @@ TEST_F(Grafico, DrawsTheViewOnceAndShowsItsRange) {
   EXPECT_EQ(begun, "ac");
   EXPECT_THAT(panels(), ::testing::ElementsAreArray(kRange));
   EXPECT_GT(pixelsThatAreNotWhite(picture->image()), 1000);
-  EXPECT_EQ(program.active_graph, 'c');
 }
 
 TEST_F(Grafico, ShowsThePanelsBehindTheFirstOnlyWithText) {
@@ -68,7 +67,6 @@ TEST_F(Grafico, RefusedRangesShowTheirMessageAndReturnWithTheView) {
     std::string message;
   };
   const Row rows[] = {
-      {3, 3, -1, 1, std::string(messages::kRangeTooClose)},
       {-5e299, 5e299, -5e299, 5e299, "Error: Los valores del rango son demasiado elevados."},
       {-1, 1, 2, 2, "Error: No se puede graficar con la ecuación y rango elegidos."},
   };
@@ -91,6 +89,27 @@ TEST_F(Grafico, RefusedRangesShowTheirMessageAndReturnWithTheView) {
     }
   }
   EXPECT_EQ(begun, "");
+}
+
+TEST_F(Grafico, ARangeThatIsTooCloseIsACriticalErrorOfTheActiveGraph) {
+  addFunction('c', "x");
+  addFunction('e', "x");
+  for (const std::string code : {"ES", "EN"}) {
+    SetCurrentLanguage(code);
+    services.boxes.shown.clear();
+    open({3, -1, 3, 1, 10, false});
+    const FakeMessageBoxes::Box spanish = {
+        "Operación cancelada.\r\nCausa: " + std::string(messages::kRangeTooClose) +
+            "\r\nDetalle: gráfico activo c",
+        "ZEL - Reporte de errores criticos", BoxStyle::stop};
+    const FakeMessageBoxes::Box english = {
+        "Cancelled operation.\r\nReason: Cannot graph because interval range is too small.\r\n"
+        "Detail: active graphic c",
+        "ZEL - Critical error report", BoxStyle::stop};
+    EXPECT_THAT(services.boxes.shown, ElementsAre(code == "ES" ? spanish : english));
+    EXPECT_FALSE(window.isVisible());
+  }
+  EXPECT_EQ(caller.shown, 2);
 }
 
 TEST_F(Grafico, HandsTheProportionalViewBackWhenItIsRefused) {

@@ -18,8 +18,9 @@ class RecorderListener : public PlotListener {
     ++drawn;
     if (on_drawn) on_drawn();
   }
-  void showMessage(const std::string& message) override {
+  void showDrawingError(const std::string& message, std::optional<char> graph) override {
     messages.push_back(message);
+    named_graphs += graph.value_or('-');
     if (on_message) on_message();
   }
   void toolsChanged() override { ++tools_changes; }
@@ -42,6 +43,7 @@ class RecorderListener : public PlotListener {
 
   int drawn = 0;
   std::vector<std::string> messages;
+  std::string named_graphs;  // by the messages; "-" for none
   int returns = 0;
   int tools_changes = 0;
   std::vector<std::string> informations;

@@ -91,6 +91,27 @@ TEST_F(Session, ARefusedRangeShowsItsMessageAndReturns) {
   }
 }
 
+TEST_F(Session, ARefusalNamesTheActiveGraphWhereNoneIsDrawn) {
+  show(3, 3, -5, 5);
+  openAndDraw();
+  addFunction('c', "x");
+  addFunction('e', "x");
+  openAndDraw();
+  show(-5, 5, -5, 5);
+  openAndDraw();
+  session.activateNext();
+  session.resize(PictureSize::ofPixels(0, 100));
+  EXPECT_EQ(listener.named_graphs, "-ce");
+}
+
+TEST_F(Session, AFailureNamesTheGraphThatIsBeingDrawn) {
+  addFunction('c', "x");
+  addGraph('e', FamilyFields{field("P*x"), field("0"), field("2"), field("1")});
+  graphs.graph('e')->parameters->set("fin", "dos");
+  openAndDraw();
+  EXPECT_EQ(listener.named_graphs, "e");
+}
+
 TEST_F(Session, AGraphThatCannotBeDrawnShowsTheGeneralMessageAndReturns) {
   addGraph('a', FamilyFields{field("P*x"), field("0"), field("2"), field("1")});
   graphs.graph('a')->parameters->set("fin", "dos");

@@ -1,40 +1,12 @@
 #include <gmock/gmock.h>
 
-#include "plot/session/plot_session_fixture.h"
+#include "plot/session/session_tools_fixture.h"
 
 /// The modes and the tools of a session: who enters and leaves what, and what is shown then.
 namespace zel::test {
 namespace {
 
 using ::testing::ElementsAre;
-
-/// 150 twips to a unit, the origin at (750, 750), a sample at every integer; "a" is the diagonal.
-class SessionTools : public PlotSessionTest {
- protected:
-  SessionTools() {
-    addFunction('a', "x");
-    addFunction('c', "x^2-4");
-    openAndDraw();
-  }
-
-  std::string shown() const {
-    const StatusPanels& panels = screen.statuses.back();
-    return panels.first + "|" + panels.second + "|" + panels.third + "|" + panels.fourth;
-  }
-  std::string range() const {
-    const StatusPanels panels = rangeStatus(session.view());
-    return panels.first + "|" + panels.second + "|" + panels.third + "|" + panels.fourth;
-  }
-  void expectCursor(Point place) const {
-    ASSERT_TRUE(session.cursor());
-    EXPECT_EQ(session.cursor()->place, place);
-  }
-  void drag(Point from, Point to) {
-    session.mouseDown(MouseButton::left, from);
-    session.mouseMove(MouseButton::left, to);
-    session.mouseUp(MouseButton::left, to);
-  }
-};
 
 TEST_F(SessionTools, TheFirstGraphInLetterOrderIsActiveWhenAViewIsOpened) {
   EXPECT_EQ(session.activeGraph(), 'a');
@@ -134,14 +106,46 @@ TEST_F(SessionTools, ARedrawKeepsTheTracePoint) {
   EXPECT_EQ(shown(), "X=1|Y=1||");
 }
 
-TEST_F(SessionTools, AfterAPanTheTraceOfAFamilyFollowsItsMemberDrawnLast) {
+TEST_F(SessionTools, AfterAPanTheTraceOfAFamilyGoesOnAlongTheMemberThatWasPicked) {
   graphs.clearGraphs();
   addGraph('b', FamilyFields{field("P*x/4"), field("0"), field("2"), field("1")});
   openAndDraw();
   session.mouseDown(MouseButton::left, {900, 715});  // x = 1, y = 0.23
   EXPECT_EQ(shown(), "X=2|Y=0,5|P=1|");
   session.execute(PlotCommand::derecha);
-  EXPECT_EQ(shown(), "X=2|Y=1|P=2|");
+  EXPECT_EQ(shown(), "X=2|Y=0,5|P=1|");
+  session.redraw();
+  EXPECT_EQ(shown(), "X=2|Y=0,5|P=1|");
+  session.execute(PlotCommand::recorrer_adelante);
+  EXPECT_EQ(shown(), "X=3|Y=0,75|P=1|");
+}
+
+TEST_F(SessionTools, ADrawingThatIsGivenUpPutsTheParameterBack) {
+  graphs.clearGraphs();
+  addGraph('b', FamilyFields{field("P*x/4"), field("5"), field("9"), field("1")});
+  engine.SetP(3);
+  screen.on_events = [&](std::size_t) {
+    if (engine.GetP() == 7) session.close();
+  };
+  openAndDraw();
+  EXPECT_FALSE(session.isOpen());
+  EXPECT_EQ(engine.GetP(), 3);
+}
+
+TEST_F(SessionTools, AMemberThatIsPickedInsideOfADrawingStaysPicked) {
+  graphs.clearGraphs();
+  addGraph('b', FamilyFields{field("P*x/4"), field("0"), field("2"), field("1")});
+  addFunction('d', "x+4");
+  bool has_redrawn = false;
+  screen.on_events = [&](std::size_t) {
+    if (engine.GetP() != 1 || has_redrawn) return;
+    has_redrawn = true;
+    session.redraw();
+    session.mouseDown(MouseButton::left, {900, 680});  // x = 1, y = 0.47
+  };
+  openAndDraw();
+  EXPECT_EQ(session.activeGraph(), 'b');
+  EXPECT_EQ(engine.GetP(), 2);
 }
 
 TEST_F(SessionTools, APanKeepsTheModeZoom) {
@@ -193,66 +197,6 @@ TEST_F(SessionTools, InModeZoomTheStatusFollowsTheMouse) {
   session.execute(PlotCommand::zoom_a_medida);
   session.mouseMove(MouseButton::none, {900, 600});
   EXPECT_EQ(shown(), "X=1|Y=1||");
-}
-
-TEST_F(SessionTools, ADragToTheLeftGrowsTheRectangleToTheRight) {
-  session.execute(PlotCommand::zoom_a_medida);
-  session.mouseDown(MouseButton::left, {1000, 1000});
-  EXPECT_EQ(session.zoomRectangle(), (ZoomRectangle{1000, 1000, 1, 1}));
-  session.mouseMove(MouseButton::left, {400, 1600});
-  EXPECT_EQ(session.zoomRectangle(), (ZoomRectangle{1000, 1000, 600, 600}));
-  session.mouseUp(MouseButton::left, {400, 1600});
-  EXPECT_EQ(session.zoomRectangle(), std::nullopt);
-}
-
-TEST_F(SessionTools, TheRectangleBecomesTheViewAndTheModeStays) {
-  session.execute(PlotCommand::zoom_a_medida);
-  drag({600, 450}, {1050, 750});
-  EXPECT_EQ(session.mode(), PlotMode::zoom);
-  EXPECT_EQ(session.view().xi, -1);
-  EXPECT_EQ(session.view().xf, 2);
-  EXPECT_EQ(session.view().yi, 0);
-  EXPECT_EQ(session.view().yf, 2);
-  EXPECT_EQ(shown(), range());
-  EXPECT_EQ(listener.drawn, 2);
-}
-
-TEST_F(SessionTools, ARectangleThatIsNotLongerThanFiftyIsIgnored) {
-  session.execute(PlotCommand::zoom_a_medida);
-  drag({100, 100}, {150, 900});
-  drag({100, 100}, {900, 150});
-  EXPECT_EQ(listener.drawn, 1);
-  drag({100, 100}, {151, 151});
-  EXPECT_EQ(listener.drawn, 2);
-}
-
-TEST_F(SessionTools, ARectangleIsDroppedWithItsMode) {
-  session.execute(PlotCommand::zoom_a_medida);
-  session.mouseDown(MouseButton::left, {100, 100});
-  session.mouseMove(MouseButton::left, {900, 900});
-  session.execute(PlotCommand::parar);
-  EXPECT_EQ(session.zoomRectangle(), std::nullopt);
-  session.mouseUp(MouseButton::left, {900, 900});
-  EXPECT_EQ(listener.drawn, 1);
-}
-
-TEST_F(SessionTools, ARectangleThatAnotherButtonHidKeepsItsSize) {
-  session.execute(PlotCommand::zoom_a_medida);
-  session.mouseDown(MouseButton::left, {600, 450});
-  session.mouseMove(MouseButton::left, {1050, 750});
-  session.mouseUp(MouseButton::right, {1050, 750});
-  session.mouseUp(MouseButton::left, {1050, 750});
-  EXPECT_EQ(session.view().xi, -1);
-  EXPECT_EQ(session.view().xf, 2);
-}
-
-TEST_F(SessionTools, AnotherButtonThanTheLeftOneHidesTheRectangle) {
-  session.execute(PlotCommand::zoom_a_medida);
-  session.mouseDown(MouseButton::left, {100, 100});
-  session.mouseMove(MouseButton::left, {900, 900});
-  session.mouseUp(MouseButton::right, {900, 900});
-  EXPECT_EQ(session.zoomRectangle(), std::nullopt);
-  EXPECT_EQ(listener.drawn, 1);
 }
 
 TEST_F(SessionTools, AClickTracesTheNearestGraphFromThere) {
