@@ -35,6 +35,10 @@ StartStep startProgram(Program& program) {
 
 void chooseHelpFile(Program& program) { program.help_file = HelpFileName(); }
 
+void showApplicationHelp(Program& program) {
+  program.services.help.show(program.help_file, kHelpTopics);
+}
+
 void acceptLanguage(Program& program) {
   writeConfig(program.config_path, program.configuration);
   registerZelDocuments(program.services.registry, program.place);

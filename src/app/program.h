@@ -51,6 +51,9 @@ StartStep startProgram(Program& program);
 /// Sets the application's help file by the current language.
 void chooseHelpFile(Program& program);
 
+/// Shows the topics of the application's help file, as F1 does.
+void showApplicationHelp(Program& program);
+
 /// The accept of the language choice: keeps the language and registers the document type.
 void acceptLanguage(Program& program);
 

@@ -115,6 +115,13 @@ TEST_F(Start, ChoosesTheHelpFileByTheLanguage) {
   EXPECT_EQ(program.help_file, "ayuda_en.hlp");
 }
 
+TEST_F(Start, ShowsTheHelpFileOfTheApplicationAndNotThatOfTheLanguage) {
+  chooseHelpFile(program);
+  SetCurrentLanguage("EN");
+  showApplicationHelp(program);
+  EXPECT_EQ(services.help.shown, (std::vector<std::pair<std::string, int>>{{"ayuda_es.hlp", 15}}));
+}
+
 TEST_F(Start, IsUndoneByClosingHelpWritingTheConfigurationAndEnding) {
   std::string at_end;
   program.end_process = [&] { at_end = bytesOf("config.ini"); };

@@ -105,7 +105,7 @@ bool frmGrafico::pressButtonOf(const QKeyEvent& event) {
 
 void frmGrafico::showHelp() {
   // Help topics are offered in Spanish only: this is meant.
-  if (CurrentLanguage() == "ES") ShowHelpTopics(program().services.help);
+  if (CurrentLanguage() == "ES") showApplicationHelp(program());
 }
 
 void frmGrafico::Toolbar1_ButtonClick(PlotCommand command) {

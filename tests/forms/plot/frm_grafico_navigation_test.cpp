@@ -100,10 +100,11 @@ TEST_F(GraficoNavigation, PageKeysChangeTheActiveGraph) {
   EXPECT_EQ(begun, "");
 }
 
-TEST_F(GraficoNavigation, F1OffersHelpInSpanishOnly) {
+TEST_F(GraficoNavigation, F1OffersTheHelpFileOfTheApplicationInSpanishOnly) {
   openUsual();
+  program.help_file = "ayuda_otra.hlp";
   press(Qt::Key_F1);
-  EXPECT_THAT(services.help.shown, ElementsAre(std::pair<std::string, int>("ayuda_es.hlp", 15)));
+  EXPECT_THAT(services.help.shown, ElementsAre(std::pair<std::string, int>("ayuda_otra.hlp", 15)));
   SetCurrentLanguage("EN");
   press(Qt::Key_F1);
   EXPECT_EQ(services.help.shown.size(), 1u);
