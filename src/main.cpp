@@ -1,25 +1,23 @@
-#include <QApplication>
 #include <QFileInfo>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "app/installation.h"
 #include "app/program.h"
+#include "forms/application.h"
 #include "forms/forms.h"
+#include "platform/command_line.h"
 #include "platform/desktop_services.h"
 #include "platform/widgets/widget_services.h"
 
 namespace {
 
-/// The command line as the one document that it names: blanks inside a path need no quotes.
-QString commandLine(const QApplication& application) {
-  return application.arguments().mid(1).join(' ');
-}
-
 /// Makes an installed program's own folder the current one. The document, which may be named from
-/// where the program was started, as it reads from there.
-std::string settle(const std::string& program_folder, const std::string& document) {
+/// where the program was started and in quotes, as it reads from there.
+std::string settle(const std::string& program_folder, std::string document) {
   if (!zel::isInstalledProgram(program_folder)) return document;
+  std::erase(document, '"');
   const std::string path = zel::fromCurrentFolder(document);
   zel::enterFolder(zel::userFolder());
   return path;
@@ -31,10 +29,8 @@ std::string settle(const std::string& program_folder, const std::string& documen
   std::_Exit(EXIT_SUCCESS);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+int run(int& argument_count, char** arguments) {
+  zel::Application application(argument_count, arguments);
   QApplication::setApplicationName("zel");
   QApplication::setDesktopFileName("zel");
   QApplication::setQuitOnLastWindowClosed(false);
@@ -42,7 +38,7 @@ int main(int argc, char** argv) {
   const QFileInfo file(QApplication::applicationFilePath());
   const std::string folder = file.absolutePath().toStdString();
   zel::WidgetServices widgets(folder);
-  const std::string document = settle(folder, commandLine(application).toStdString());
+  const std::string document = settle(folder, zel::commandLine(argument_count, arguments));
   const zel::DesktopServices desktop = zel::makeDesktopServices(file.filePath().toStdString());
   zel::Program program({widgets.boxes, widgets.files, widgets.colours, widgets.help,
                         *desktop.registry, *desktop.browser, *desktop.mail, widgets.inputs,
@@ -50,9 +46,25 @@ int main(int argc, char** argv) {
   program.place = zel::programPlace(file.filePath().toStdString());
   program.end_process = endProcess;
 
+  application.failed = [&] {
+    zel::tellFailedStart(program);
+    std::_Exit(EXIT_FAILURE);
+  };
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
-  zel::Forms forms(program, QString::fromStdString(document));
-  forms.begin(step);
+  zel::Forms forms(program, document);
+  if (!forms.begin(step)) return EXIT_FAILURE;
+  application.failed = [&] { zel::tellUnstableMemory(program); };
   return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  try {
+    return run(argument_count, arguments);
+  } catch (...) {
+    std::fputs("zel: the program cannot go on\n", stderr);
+    return EXIT_FAILURE;
+  }
 }

@@ -12,14 +12,12 @@ namespace {
 constexpr std::string_view kStartupFailed =
     "Un error en la configuración impidió que el programa se inicie correctamente.";
 
-}  // namespace
-
-StartStep startProgram(Program& program) {
+StartStep takeFirstSteps(Program& program) {
   const ConfigRead configuration = readConfig(program.config_path, program.configuration);
   // A first start, however early it ends, leaves nothing that a later one would take for damaged.
   if (configuration != ConfigRead::read) removeEmptyFile(program.config_path);
   if (configuration == ConfigRead::damaged) {
-    ShowAttention(program.services.boxes, Localize(kStartupFailed));
+    tellFailedStart(program);
     return StartStep::ended;
   }
   program.engine.InitEngine();
@@ -31,6 +29,34 @@ StartStep startProgram(Program& program) {
     return StartStep::ended;
   }
   return configuration == ConfigRead::missing ? StartStep::first_start : StartStep::presentation;
+}
+
+}  // namespace
+
+StartStep startProgram(Program& program) {
+  StartStep step = StartStep::ended;
+  carryOutStart(program, [&] { step = takeFirstSteps(program); });
+  return step;
+}
+
+bool carryOutStart(Program& program, const std::function<void()>& steps) {
+  try {
+    steps();
+    return true;
+  } catch (...) {
+    tellFailedStart(program);
+    return false;
+  }
+}
+
+void tellFailedStart(Program& program) {
+  ShowAttention(program.services.boxes, Localize(kStartupFailed));
+}
+
+void tellUnstableMemory(Program& program) {
+  ShowAttention(program.services.boxes, Localize("No se pudieron cargar los datos en memoria "
+                                                 "correctamente.\r\nMemoria inestable.  Se "
+                                                 "recomienda reiniciar."));
 }
 
 void chooseHelpFile(Program& program) { program.help_file = HelpFileName(); }

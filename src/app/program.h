@@ -44,9 +44,19 @@ enum class StartStep {
 };
 
 /// The steps of the start before any window: configuration, engine, graphs, arguments, self-test.
-/// A damaged configuration and a failed self-test show their message. The empty configuration file
-/// that the reading of a missing one makes is taken away at once.
+/// A damaged configuration, a failed self-test and any other error show their message. The empty
+/// configuration file that the reading of a missing one makes is taken away at once.
 StartStep startProgram(Program& program);
+
+/// Carries out steps of the start. False when something is thrown out of them: the message of a
+/// start that failed was shown then, and the process is to end at once.
+bool carryOutStart(Program& program, const std::function<void()>& steps);
+
+/// That the program could not be started.
+void tellFailedStart(Program& program);
+
+/// That something was given up for want of memory, and the program had better be started again.
+void tellUnstableMemory(Program& program);
 
 /// Sets the application's help file by the current language.
 void chooseHelpFile(Program& program);

@@ -15,17 +15,19 @@
 
 namespace zel {
 
-Forms::Forms(Program& program, QString command_line)
+Forms::Forms(Program& program, std::string command_line)
     : program_(program), command_line_(std::move(command_line)) {}
 
 Forms::~Forms() = default;
 
-void Forms::begin(StartStep step) {
-  if (step == StartStep::first_start)
-    chooseLanguage();
-  else
-    showPresentation();
-  chooseHelpFile(program_);
+bool Forms::begin(StartStep step) {
+  return carryOutStart(program_, [&] {
+    if (step == StartStep::first_start)
+      chooseLanguage();
+    else
+      showPresentation();
+    chooseHelpFile(program_);
+  });
 }
 
 void Forms::chooseLanguage() {
@@ -40,19 +42,20 @@ void Forms::chooseLanguage() {
 }
 
 void Forms::showPresentation() {
+  datos_ini_ = std::make_unique<frmDatosIni>(program_);
   presentacion_ = std::make_unique<frmPresentacion>(program_);
+  presentacion_->setLlamador(datos_ini_.get());
   presentacion_->enableTimer();
   presentacion_->showForm();
   // What takes longer is made behind the first window; the user's events wait until it is there.
   QApplication::setWindowIcon(programIcon());
-  datos_ini_ = std::make_unique<frmDatosIni>(program_);
-  presentacion_->setLlamador(datos_ini_.get());
   loadForms();
 }
 
 void Forms::loadForms() {
   adm_graficos_ = std::make_unique<frmAdmGraficos>(program_);
   controles_ = std::make_unique<frmControles>(program_);
+  datos_ini_->load();
   datos_ini_->openCommandLine(command_line_);
   grafico_ = std::make_unique<frmGrafico>(program_);
   imprimir_ = std::make_unique<frmImprimir>(program_);

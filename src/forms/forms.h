@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QString>
 #include <memory>
+#include <string>
 
 #include "app/program.h"
 
@@ -20,12 +20,12 @@ class frmPresentacion;
 class Forms {
  public:
   /// The program outlives its windows. `command_line` is the path of the document to open.
-  Forms(Program& program, QString command_line);
+  Forms(Program& program, std::string command_line);
   ~Forms();
 
   /// The rest of the start: the language choice at the first start, otherwise the presentation,
-  /// which hands over to the main window.
-  void begin(StartStep step);
+  /// which hands over to the main window. False when it failed, which was told.
+  bool begin(StartStep step);
 
  private:
   void chooseLanguage();
@@ -33,7 +33,7 @@ class Forms {
   void loadForms();
 
   Program& program_;
-  QString command_line_;
+  std::string command_line_;
   std::unique_ptr<frmIdioma> idioma_;
   std::unique_ptr<frmPresentacion> presentacion_;
   std::unique_ptr<frmAdmGraficos> adm_graficos_;

@@ -96,6 +96,30 @@ TEST_F(Start, EndsWithTheReportOfAFailedSelfTest) {
             "Error: Se ha detectado un problema al probar alguna función en su siste");
 }
 
+TEST_F(Start, EndsWithItsMessageWhenAStepFails) {
+  EXPECT_TRUE(carryOutStart(program, [] {}));
+  EXPECT_TRUE(services.boxes.shown.empty());
+  SetCurrentLanguage("EN");
+  EXPECT_FALSE(carryOutStart(program, [] { throw std::bad_alloc(); }));
+  EXPECT_FALSE(carryOutStart(program, [] { throw 1; }));
+  const Box box =
+      attention("Un error en la configuración impidió que el programa se inicie correctamente.");
+  EXPECT_EQ(services.boxes.shown, (std::vector<Box>{box, box}));
+}
+
+TEST_F(Start, IsRecommendedAgainWhereMemoryIsUnstable) {
+  tellUnstableMemory(program);
+  SetCurrentLanguage("EN");
+  tellUnstableMemory(program);
+  EXPECT_EQ(services.boxes.shown,
+            (std::vector<Box>{
+                {"No se pudieron cargar los datos en memoria correctamente.\r\nMemoria inestable.  "
+                 "Se recomienda reiniciar.",
+                 "ZEL - ATENCIÓN", BoxStyle::stop},
+                {"Could not load data into memory. Restart program recommended.", "ZEL - NOTIFY",
+                 BoxStyle::stop}}));
+}
+
 TEST_F(Start, KeepsTheChosenLanguageAndRegistersDocuments) {
   startProgram(program);
   SetCurrentLanguage("EN");

@@ -1,5 +1,8 @@
 #include "forms/forms.h"
 
+#include <new>
+
+#include "forms/start/frm_presentacion.h"
 #include "forms/window_fixture.h"
 
 namespace zel::test {
@@ -25,7 +28,7 @@ class AllWindows : public WindowTest {
 
 TEST_F(AllWindows, GoFromTheLanguageChoiceToTheMainWindow) {
   ASSERT_EQ(startProgram(program), StartStep::first_start);
-  Forms forms(program, QString());
+  Forms forms(program, "");
   forms.begin(StartStep::first_start);
   ASSERT_NE(shown("frmIdioma"), nullptr);
   EXPECT_EQ(shown("frmPresentacion"), nullptr);
@@ -41,12 +44,63 @@ TEST_F(AllWindows, GoFromTheLanguageChoiceToTheMainWindow) {
 
 TEST_F(AllWindows, EndAndAskAgainWhenTheLanguageIsNotChosen) {
   ASSERT_EQ(startProgram(program), StartStep::first_start);
-  Forms forms(program, QString());
+  Forms forms(program, "");
   forms.begin(StartStep::first_start);
   shown("frmIdioma")->close();
   EXPECT_EQ(ends, 1);
   EXPECT_FALSE(std::filesystem::exists("config.ini"));
   EXPECT_EQ(startProgram(program), StartStep::first_start);
+}
+
+TEST_F(AllWindows, EndWithTheMessageOfTheStartWhenOneOfThemFails) {
+  services.boxes.on_show = [this](const FakeMessageBoxes::Box&) {
+    services.boxes.on_show = nullptr;
+    throw std::bad_alloc();
+  };
+  putBytes("bad.zel", "nothing");
+  Forms forms(program, "bad.zel");
+  EXPECT_FALSE(forms.begin(StartStep::presentation));
+  ASSERT_EQ(services.boxes.shown.size(), 2u);
+  EXPECT_EQ(services.boxes.shown[1].text,
+            "Un error en la configuración impidió que el programa se inicie correctamente.");
+}
+
+TEST_F(AllWindows, EndWithTheMessageOfTheStartWhenOneFailsAfterTheLanguageChoice) {
+  ASSERT_EQ(startProgram(program), StartStep::first_start);
+  services.boxes.on_show = [this](const FakeMessageBoxes::Box&) {
+    services.boxes.on_show = nullptr;
+    throw std::bad_alloc();
+  };
+  putBytes("bad.zel", "nothing");
+  Forms forms(program, "bad.zel");
+  EXPECT_TRUE(forms.begin(StartStep::first_start));
+  QTest::keyClick(shown("frmIdioma"), Qt::Key_Return);
+  ASSERT_EQ(services.boxes.shown.size(), 2u);
+  EXPECT_EQ(services.boxes.shown[1].text,
+            "Un error en la configuración impidió que el programa se inicie correctamente.");
+  EXPECT_EQ(ends, 1);
+}
+
+/// Notes to whom the presentation hands over when it is shown.
+class ShownPresentation : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Show)
+      if (const auto* window = dynamic_cast<frmPresentacion*>(watched))
+        caller = window->getLlamador();
+    return false;
+  }
+
+  FormWindow* caller = nullptr;
+};
+
+TEST_F(AllWindows, TellThePresentationItsCallerBeforeItIsShown) {
+  ShownPresentation look;
+  qApp->installEventFilter(&look);
+  Forms forms(program, "");
+  forms.begin(StartStep::presentation);
+  qApp->removeEventFilter(&look);
+  EXPECT_NE(look.caller, nullptr);
 }
 
 TEST_F(AllWindows, OpenTheDocumentOfTheCommandLine) {
@@ -67,7 +121,7 @@ TEST_F(AllWindows, OpenTheDocumentOfTheCommandLine) {
 
 TEST_F(AllWindows, PlotAndComeBackWithTheRange) {
   addFunction('a', "x^2");
-  Forms forms(program, QString());
+  Forms forms(program, "");
   forms.begin(StartStep::presentation);
   QTest::keyClick(shown("frmPresentacion"), Qt::Key_Return);
   QWidget* const main_window = shown("frmDatosIni");
@@ -82,7 +136,7 @@ TEST_F(AllWindows, PlotAndComeBackWithTheRange) {
 }
 
 TEST_F(AllWindows, ComeBackFromTheEditorWithTheRangeThatWasTyped) {
-  Forms forms(program, QString());
+  Forms forms(program, "");
   forms.begin(StartStep::presentation);
   QTest::keyClick(shown("frmPresentacion"), Qt::Key_Return);
   QWidget* const main_window = shown("frmDatosIni");

@@ -46,7 +46,7 @@ class Markup : public WindowTest {
     main_window.setTargets({&editor, &plot, nullptr});
     plot.setPrintWindow(&print);
     main_window.showForm();
-    main_window.openCommandLine(QStringLiteral("<b>a[*]&.zel"));
+    main_window.openCommandLine("<b>a[*]&.zel");
     EXPECT_EQ(program.graphs.count(), static_cast<int>(kKinds.size()));
   }
 

@@ -191,7 +191,7 @@ class Monkey : public WindowTest {
     ended_ = false;
     forms_.reset();
     program.params = makeFormParams();
-    forms_.emplace(program, QString());
+    forms_.emplace(program, "");
     forms_->begin(step);
   }
 

@@ -23,6 +23,8 @@ constexpr const char* kPlainText = "1 23";
 
 class TextBoxes : public WindowTest {
  protected:
+  TextBoxes() { main_window.load(); }
+
   /// All that text can be put into; scroll bars of menus and the like have none.
   static std::vector<QLineEdit*> boxesOf(QWidget& window) {
     const auto found = window.findChildren<QLineEdit*>();

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The adapters of Windows under Wine: the four entries of the document type read back, a browser and
-# a mail client that are not installed, and recorders in the place of both.
+# The adapters of Windows under Wine: the command line, the four entries of the document type read
+# back, a browser and a mail client that are not installed, and recorders in the place of both.
 set -uo pipefail
 root=$2
 
@@ -66,6 +66,8 @@ entry() {
 
 probe=$folder/bin/win32_probe.exe
 
+says "a name that no code page has" 'line ondas_é_Ω.zel two' "$probe" line ondas_é_Ω.zel two
+says "a name in quotes" 'line "a b.zel"' "$probe" line 'a b.zel'
 says "register in English" true "$probe" register 'C:/Program Files/zel/zel.exe' EN
 entry zel "Function graphic"
 entry .zel zel

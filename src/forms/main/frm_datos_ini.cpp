@@ -30,7 +30,10 @@ QString documentIn(const QMimeData& data) {
 
 }  // namespace
 
-frmDatosIni::frmDatosIni(Program& program) : Form(program, "frmDatosIni") {
+frmDatosIni::frmDatosIni(Program& program) : Form(program, "frmDatosIni") {}
+
+void frmDatosIni::load() {
+  if (listaG_) return;
   buildMenus();
   buildControls();
   connectControls();
@@ -41,9 +44,14 @@ frmDatosIni::frmDatosIni(Program& program) : Form(program, "frmDatosIni") {
   updateList();
 }
 
-void frmDatosIni::openCommandLine(QString command_line) {
-  command_line.remove('"');
-  if (!command_line.isEmpty()) openPath(fromQt(command_line));
+void frmDatosIni::showForm() {
+  load();
+  Form::showForm();
+}
+
+void frmDatosIni::openCommandLine(std::string command_line) {
+  std::erase(command_line, '"');
+  if (!command_line.empty()) openPath(command_line);
 }
 
 void frmDatosIni::actProporcional(bool on) {

@@ -29,16 +29,21 @@ class frmDatosIni : public Form {
   Q_OBJECT
 
  public:
+  /// Without its controls, so that the presentation need not wait for them: see load.
   explicit frmDatosIni(Program& program);
+
+  /// Makes the controls, once; showForm does it, too. Before that there is nothing to work with.
+  void load();
 
   /// The targets outlive the window.
   void setTargets(const MainWindowTargets& targets) { targets_ = targets; }
 
   void assignCaptions() override;
+  void showForm() override;
 
   /// Opens the document that the program was started with; an empty command line does nothing.
   /// Double quotes are taken out of it.
-  void openCommandLine(QString command_line);
+  void openCommandLine(std::string command_line);
 
   /// Sets the box and lets the y range be edited exactly when it is off.
   void actProporcional(bool on);

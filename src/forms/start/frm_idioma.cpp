@@ -53,9 +53,12 @@ void frmIdioma::optIdioma_Click(std::size_t index) {
 
 void frmIdioma::cmdAceptar_Click() {
   SetCurrentLanguage(kCodes[optIdioma_[1]->isChecked() ? 1 : 0]);
-  acceptLanguage(program());
-  hide();
-  accepted();
+  const bool goes_on = carryOutStart(program(), [this] {
+    acceptLanguage(program());
+    hide();
+    accepted();
+  });
+  if (!goes_on) program().end_process();
 }
 
 void frmIdioma::closeEvent(QCloseEvent* event) {

@@ -5,8 +5,10 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "base/language.h"
 #include "platform/icons/program_icon.h"
@@ -68,6 +70,7 @@ void frmPresentacion::fillInside() {
 }
 
 void frmPresentacion::showForm() {
+  bCerrar_->setVisible(presentation_.showsCloseButton());
   Form::showForm();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   if (Image1_->pixmap().isNull()) {
@@ -116,12 +119,24 @@ void frmPresentacion::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmPresentacion::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress &&
-      (watched == Image1_ || presentation_.versionClicked())) {
-    closePresentation();
+  const auto left_button = [event] {
+    return static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton;
+  };
+  if (event->type() == QEvent::MouseButtonPress && left_button()) {
+    pressed_ = watched;
+    return true;  // only the label that takes a press is told of the release
+  }
+  if (event->type() == QEvent::MouseButtonRelease && left_button()) {
+    const QPoint place = static_cast<const QMouseEvent*>(event)->position().toPoint();
+    const bool on_label = static_cast<const QWidget*>(watched)->rect().contains(place);
+    if (std::exchange(pressed_, nullptr) == watched && on_label) clicked(watched);
     return true;
   }
   return Form::eventFilter(watched, event);
+}
+
+void frmPresentacion::clicked(const QObject* label) {
+  if (label == Image1_ || presentation_.versionClicked()) closePresentation();
 }
 
 void frmPresentacion::closePresentation() {

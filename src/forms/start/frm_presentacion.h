@@ -39,6 +39,8 @@ class frmPresentacion : public Form {
  private:
   void fillInside();
   void activate();
+  /// The left button was pressed and let go on this label.
+  void clicked(const QObject* label);
   void Timer1_Timer();
   void closePresentation();
   /// Lets the real timer follow what the presentation decided.
@@ -48,6 +50,7 @@ class frmPresentacion : public Form {
   FormWindow* llamador_ = nullptr;
   std::string shown_language_;
   QTimer Timer1_;
+  const QObject* pressed_ = nullptr;  // the label where the left button went down
   QFrame* inside_;
   QLabel* Image1_;
   QLabel* LblVersion_;

@@ -14,7 +14,10 @@ namespace {
 
 class MainWindow : public WindowTest {
  protected:
-  MainWindow() { window.setTargets({&editor, &plot, &about}); }
+  MainWindow() {
+    window.load();
+    window.setTargets({&editor, &plot, &about});
+  }
 
   void click(const char* name) {
     QTest::mouseClick(&control<QPushButton>(window, name), Qt::LeftButton);
@@ -258,6 +261,42 @@ TEST_F(MainWindow, PlotsOnlyWithGraphsAndIncreasingRanges) {
   click("CmdGraficarLista");
   EXPECT_EQ(plot.shown, 1);
   EXPECT_EQ(callerOf(program.params), &window);
+}
+
+TEST_F(MainWindow, ReadsTheRangeWithoutRelationSignsAndBlanksAndLeavesItAsTyped) {
+  addFunction('a', "x");
+  window.showForm();
+  control<QLineEdit>(window, "txtRanXi").setText(" =-3 ");
+  click("CmdGraficarLista");
+  EXPECT_EQ(plot.shown, 1);
+  EXPECT_EQ(program.params.Item("xi"), FormValue(-3.0));
+  EXPECT_EQ(text(window, "txtRanXi"), " =-3 ");
+}
+
+TEST_F(MainWindow, ReportsAScaleOfBlanks) {
+  addFunction('a', "x");
+  window.showForm();
+  control<QLineEdit>(window, "txtEscalaX").setText("  ");
+  click("CmdGraficarLista");
+  EXPECT_EQ(plot.shown, 0);
+  ASSERT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(services.boxes.shown[0].text,
+            "No se puede realizar la operación.\r\nCausa: Datos no válidos en declaraciones y/o "
+            "rango.");
+}
+
+TEST_F(MainWindow, OpensADocumentWhoseNameIsNoUtf8AndSavesItThere) {
+  const std::string name = "n\xFF.zel";
+  putBytes(name, bytesOf(std::string(ZEL_EXAMPLES_DIR) + "/waves.zel"));
+  window.openCommandLine(name);
+  EXPECT_TRUE(services.boxes.shown.empty());
+  EXPECT_GT(program.graphs.count(), 0);
+  EXPECT_EQ(title(), "ZEL - n\uFFFD.zel");
+  program.graphs.clearGraphs();
+  addFunction('q', "x");
+  choose("mGuardar");
+  EXPECT_NE(bytesOf(name).find("nombre=q"), std::string::npos);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator("."), {}), 1);
 }
 
 TEST_F(MainWindow, SavesAndOpensWhatItsControlsHold) {

@@ -55,6 +55,38 @@ TEST_F(PresentationWindow, HandsOverAtAClickOnItsVersionWhileItsTimerRuns) {
   EXPECT_EQ(main_window.shown, 1);
 }
 
+TEST_F(PresentationWindow, HidesItsButtonWhileItsTimerRunsFromTheFirstMoment) {
+  EXPECT_FALSE(control<QPushButton>(window, "bCerrar").isVisible());
+  frmPresentacion other(program);
+  other.setLlamador(&main_window);
+  other.showForm();
+  EXPECT_TRUE(control<QPushButton>(other, "bCerrar").isVisible());
+  control<QPushButton>(other, "bCerrar").click();
+  EXPECT_EQ(main_window.shown, 1);
+}
+
+TEST_F(PresentationWindow, ShowsItsButtonWhenItIsActivatedWhilePaused) {
+  QTest::keyClick(&window, 'p');
+  EXPECT_FALSE(control<QPushButton>(window, "bCerrar").isVisible());
+  QEvent activation(QEvent::WindowActivate);
+  QApplication::sendEvent(&window, &activation);
+  EXPECT_TRUE(control<QPushButton>(window, "bCerrar").isVisible());
+}
+
+TEST_F(PresentationWindow, StaysWhenItsImageIsOnlyPressed) {
+  QLabel& image = control<QLabel>(window, "Image1");
+  QTest::mousePress(&image, Qt::LeftButton);
+  EXPECT_EQ(main_window.shown, 0);
+  QTest::mouseRelease(&image, Qt::LeftButton, {}, QPoint(-5, -5));  // let go elsewhere
+  EXPECT_EQ(main_window.shown, 0);
+  QTest::mouseRelease(&image, Qt::LeftButton);
+  QTest::mouseClick(&image, Qt::RightButton);
+  EXPECT_EQ(main_window.shown, 0);
+  QTest::mousePress(&image, Qt::LeftButton);
+  QTest::mouseRelease(&image, Qt::LeftButton);
+  EXPECT_EQ(main_window.shown, 1);
+}
+
 TEST_F(PresentationWindow, HandsOverWhenItIsClosed) {
   window.close();
   EXPECT_EQ(main_window.shown, 1);

@@ -2,12 +2,14 @@
 //   register PROGRAM LANGUAGE  registers the document type of a program's file
 //   missing                    drives a browser and a mail client that are not installed
 //   automation                 drives recorders in their place
+//   line ANYTHING...           tells its own command line
 
 #include <iostream>
 #include <string>
 
 #include "app/desktop.h"
 #include "base/language.h"
+#include "platform/command_line.h"
 #include "platform/desktop_services.h"
 #include "platform/win32/automation_browser.h"
 #include "platform/win32/automation_mail_client.h"
@@ -60,5 +62,9 @@ int main(int argument_count, char** arguments) {
     return zel::test::registerFor(arguments[2], arguments[3]);
   if (command == "missing") return zel::test::driveMissing();
   if (command == "automation") return zel::test::driveRecorders();
+  if (command == "line") {
+    std::cout << zel::commandLine(argument_count, arguments) << "\n";
+    return 0;
+  }
   return 2;
 }

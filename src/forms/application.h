@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QApplication>
+#include <functional>
+
+namespace zel {
+
+/// The application. What a window throws in the middle of an event, for want of memory above all,
+/// ends there: no exception passes through the toolkit, and the program goes on.
+class Application : public QApplication {
+ public:
+  /// The arguments outlive the application, which takes its own options out of them.
+  Application(int& argument_count, char** arguments) : QApplication(argument_count, arguments) {}
+
+  /// Tells the user, or ends the program. Not called for what it throws itself.
+  std::function<void()> failed = [] {};
+
+  bool notify(QObject* receiver, QEvent* event) override;
+
+ private:
+  void tellFailure();
+
+  bool is_telling_ = false;
+};
+
+}  // namespace zel
