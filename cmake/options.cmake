@@ -1,4 +1,5 @@
-option(ZEL_WITH_QT "Build what needs Qt: the windows, and the pictures of zel-cli" ON)
+option(ZEL_WITH_QT "Build what needs Qt: the windows" ON)
+option(ZEL_WITH_ISAL "Compress pictures with ISA-L, and not with zlib" ON)
 option(ZEL_BUILD_CLI "Build zel-cli" ON)
 option(ZEL_BUILD_TESTS "Build the tests" OFF)
 option(ZEL_BUILD_BENCH "Build the benchmarks (targets zel_bench and bench_rows)" OFF)

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "pictures/bitmap.h"
 #include "pictures/drawing_list.h"
 
 /// What the program asks of the platform. Each service is handed in at start, so that tests can
@@ -94,15 +95,6 @@ class InputBoxes {
   /// What the user typed, as it is; nothing when the user cancels. The prompt may have several
   /// lines.
   virtual std::optional<std::string> ask(const std::string& prompt, const std::string& title) = 0;
-};
-
-/// Pixels row by row from the top, each 0xffRRGGBB.
-struct Bitmap {
-  int width = 0;
-  int height = 0;
-  std::vector<std::uint32_t> pixels;
-
-  bool operator==(const Bitmap&) const = default;
 };
 
 class Clipboard {

@@ -20,15 +20,11 @@ class FilePicture {
   virtual std::string bytes() = 0;
 };
 
-/// Whether this build can write pictures with this ending.
+/// Whether there are pictures with this ending, in lower case: "svg", "png" and "pdf".
 bool canMakePicture(std::string_view ending);
 
-/// A picture of a size in pixels in the format of a file's ending in lower case: "svg", "png" or
-/// "pdf". Null for an ending that this build cannot write, and when there is not memory enough.
+/// A picture of a size in pixels in the format of a file's ending. Null for any other ending, and
+/// when there is not memory enough.
 std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height);
-
-/// The formats that need a toolkit; false and null where there is none.
-bool canPaint(std::string_view ending);
-std::unique_ptr<FilePicture> makePaintedPicture(std::string_view ending, int width, int height);
 
 }  // namespace zel

@@ -4,30 +4,16 @@
 
 #include "pictures/svg_picture.h"
 
-#include <array>
-#include <charconv>
-#include <cmath>
-
 #include "pictures/colour.h"
+#include "pictures/coordinate_text.h"
 #include "pictures/line_style.h"
 #include "pictures/picture_size.h"
 
 namespace zel {
 namespace {
 
-/// Whole numbers without a point; only a vertex far outside of the picture needs an exponent.
-std::string number(double value) {
-  constexpr double kLargestPlain = 1e15;
-  const auto format =
-      std::fabs(value) < kLargestPlain ? std::chars_format::fixed : std::chars_format::scientific;
-  std::array<char, 32> buffer;
-  const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value + 0.0, format).ptr;
-  return {buffer.data(), end};
-}
-
 std::string attribute(const char* name, double value) {
-  return std::string(" ") + name + "=\"" + number(value) + "\"";
+  return std::string(" ") + name + "=\"" + coordinateText(value) + "\"";
 }
 
 }  // namespace
@@ -72,17 +58,18 @@ std::string SvgPicture::text() {
   if (isFull()) return {};
   const std::string width = std::to_string(width_);
   const std::string height = std::to_string(height_);
-  const std::string box = number(width_ * kTwipsPerPixel) + " " + number(height_ * kTwipsPerPixel);
+  const std::string box =
+      coordinateText(width_ * kTwipsPerPixel) + " " + coordinateText(height_ * kTwipsPerPixel);
   return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
          "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
          width + "\" height=\"" + height + "\" viewBox=\"0 0 " + box +
          "\">\n"
          "<style>\n"
          "#axes{stroke:#000000;stroke-width:" +
-         number(kAxisWidth) +
+         coordinateText(kAxisWidth) +
          "}\n"
          "polyline{fill:none;stroke-width:" +
-         number(kCurveWidth) +
+         coordinateText(kCurveWidth) +
          ";stroke-linecap:round;stroke-linejoin:round}\n"
          "circle{stroke:none}\n" +
          styles_ +
@@ -111,7 +98,7 @@ void SvgPicture::endGroup() {
 void SvgPicture::appendPoint(Point point) {
   if (isFull()) return;
   if (point_count_ > 0) points_ += ' ';
-  points_ += number(point.x) + "," + number(point.y);
+  points_ += coordinateText(point.x) + "," + coordinateText(point.y);
   ++point_count_;
 }
 

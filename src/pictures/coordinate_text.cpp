@@ -1,0 +1,19 @@
+#include "pictures/coordinate_text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace zel {
+
+std::string coordinateText(double value) {
+  constexpr double kLargestPlain = 1e15;
+  const auto format =
+      std::fabs(value) < kLargestPlain ? std::chars_format::fixed : std::chars_format::scientific;
+  std::array<char, 32> buffer;
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value + 0.0, format).ptr;
+  return {buffer.data(), end};
+}
+
+}  // namespace zel

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace zel {
+
+/// Compresses what it is given, part by part, into one zlib stream. Made for speed: a picture of
+/// curves takes a few per cent more bytes than it could.
+class Deflate {
+ public:
+  Deflate();
+  ~Deflate();
+  Deflate(Deflate&&) noexcept;
+  Deflate& operator=(Deflate&&) noexcept;
+
+  void take(std::span<const std::uint8_t> part);
+  void take(std::string_view part);
+  /// So many bytes have come out so far; those that are still held back are not among them.
+  std::size_t size() const { return output_.size(); }
+  /// Ends the stream: all of it, once. Empty when it could not be made.
+  std::string finish();
+
+ private:
+  struct Stream;  // of the library
+
+  std::unique_ptr<Stream> stream_;
+  std::string output_;
+  bool has_failed_ = false;
+};
+
+/// The checksum of PNG (CRC-32), going on from that of the bytes before.
+std::uint32_t checksum(std::string_view bytes, std::uint32_t before = 0);
+
+}  // namespace zel

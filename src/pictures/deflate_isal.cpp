@@ -1,0 +1,63 @@
+#include <array>
+#include <vector>
+
+#include <isa-l/crc.h>
+#include <isa-l/igzip_lib.h>
+
+#include "pictures/deflate.h"
+
+namespace zel {
+namespace {
+
+// The library takes what it only reads without const.
+std::uint8_t* unconst(const std::uint8_t* bytes) { return const_cast<std::uint8_t*>(bytes); }
+
+}  // namespace
+
+struct Deflate::Stream {
+  isal_zstream z = {};
+  std::vector<std::uint8_t> memory = std::vector<std::uint8_t>(ISAL_DEF_LVL1_DEFAULT);
+  std::array<char, std::size_t{1} << 16> out;
+
+  /// False when the library failed. What has come out is appended.
+  bool run(std::span<const std::uint8_t> part, bool is_last, std::string& output) {
+    z.end_of_stream = is_last;
+    z.next_in = unconst(part.data());
+    z.avail_in = static_cast<std::uint32_t>(part.size());
+    do {
+      z.next_out = reinterpret_cast<std::uint8_t*>(out.data());
+      z.avail_out = static_cast<std::uint32_t>(out.size());
+      if (isal_deflate(&z) != COMP_OK) return false;
+      output.append(out.data(), out.size() - z.avail_out);
+    } while (z.avail_out == 0);
+    return true;
+  }
+};
+
+Deflate::Deflate() : stream_(std::make_unique<Stream>()) {
+  isal_zstream& z = stream_->z;
+  isal_deflate_init(&z);
+  z.level = 1;
+  z.level_buf = stream_->memory.data();
+  z.level_buf_size = static_cast<std::uint32_t>(stream_->memory.size());
+  z.gzip_flag = IGZIP_ZLIB;
+}
+
+Deflate::~Deflate() = default;
+Deflate::Deflate(Deflate&&) noexcept = default;
+Deflate& Deflate::operator=(Deflate&&) noexcept = default;
+
+void Deflate::take(std::span<const std::uint8_t> part) {
+  has_failed_ = has_failed_ || !stream_->run(part, false, output_);
+}
+
+std::string Deflate::finish() {
+  has_failed_ = has_failed_ || !stream_->run({}, true, output_);
+  return has_failed_ ? std::string() : std::move(output_);
+}
+
+std::uint32_t checksum(std::string_view bytes, std::uint32_t before) {
+  return crc32_gzip_refl(before, reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+}
+
+}  // namespace zel
