@@ -2,9 +2,12 @@
 
 #include <QKeyEvent>
 #include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
-#include "pictures/picture_size.h"
+#include "platform/qt/bitmap_image.h"
 
 namespace zel {
 namespace {
@@ -15,94 +18,102 @@ char32_t characterCode(const QKeyEvent& event) {
   return code.isEmpty() ? 0 : code.first();
 }
 
+/// The widget's size in pixels of the device, of which there is one at least.
+QSize pixelsOf(const QWidget& widget) {
+  const QSizeF pixels = QSizeF(widget.size()) * widget.devicePixelRatioF();
+  return {std::max(1, static_cast<int>(std::ceil(pixels.width()))),
+          std::max(1, static_cast<int>(std::ceil(pixels.height())))};
+}
+
+QSize sizeOf(const Bitmap& bitmap) { return {bitmap.width, bitmap.height}; }
+
 }  // namespace
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  makeImage();
 }
 
+/// What is shown stays, on pixels that are taken back when the next picture is shown.
 void PictureBox::clear() {
-  const QSize pixels(static_cast<int>(std::ceil(width() * devicePixelRatioF())),
-                     static_cast<int>(std::ceil(height() * devicePixelRatioF())));
-  if (drawn_.size() != pixels || drawn_.devicePixelRatio() != devicePixelRatioF()) makeImage();
+  const QSize pixels = pixelsOf(*this);
+  if (shows_drawn_)
+    shown_ = {drawn_.exchange(std::move(shown_.bitmap)), ratio_};
+  else
+    drawn_.clear();
+  if (pixels != sizeOf(drawn_.bitmap()) || ratio_ != devicePixelRatioF()) {
+    ratio_ = devicePixelRatioF();
+    drawn_ = RasterPicture(pixels.width(), pixels.height(), ratio_);
+  }
+  shows_drawn_ = false;
   is_stale_ = false;
   since_shown_.start();
-  picture_->clear();
   drawing_.clear();
 }
 
-void PictureBox::makeImage() {
-  picture_.reset();
-  if (painter_.isActive()) painter_.end();
-  const qreal ratio = devicePixelRatioF();
-  const QSizeF pixels = QSizeF(size()) * ratio;
-  drawn_ = QImage(static_cast<int>(std::ceil(pixels.width())),
-                  static_cast<int>(std::ceil(pixels.height())), QImage::Format_RGB32);
-  if (drawn_.isNull()) drawn_ = QImage(1, 1, QImage::Format_RGB32);
-  drawn_.setDevicePixelRatio(ratio);
-  painter_.begin(&drawn_);
-  painter_.scale(1 / kTwipsPerPixel, 1 / kTwipsPerPixel);
-  const QSizeF twips = QSizeF(width() + 1, height() + 1) * kTwipsPerPixel;
-  picture_.emplace(painter_, QRectF(QPointF(), twips), Qt::white, Qt::black);
-}
-
 void PictureBox::beginAxes() {
-  picture_->beginAxes();
+  drawn_.beginAxes();
   drawing_.beginAxes();
 }
 
 void PictureBox::line(Point from, Point to) {
-  picture_->line(from, to);
+  drawn_.line(from, to);
   drawing_.line(from, to);
 }
 
 void PictureBox::beginGraph(char letter, std::int32_t colour) {
   emit graphBegun(letter);
-  picture_->beginGraph(letter, colour);
+  drawn_.beginGraph(letter, colour);
   drawing_.beginGraph(letter, colour);
 }
 
 void PictureBox::startPiece(Point point) {
-  picture_->startPiece(point);
+  drawn_.startPiece(point);
   drawing_.startPiece(point);
 }
 
 void PictureBox::extendPiece(Point point) {
-  picture_->extendPiece(point);
+  drawn_.extendPiece(point);
   drawing_.extendPiece(point);
 }
 
 void PictureBox::dot(Point centre, double radius) {
-  picture_->dot(centre, radius);
+  drawn_.dot(centre, radius);
   drawing_.dot(centre, radius);
 }
 
 void PictureBox::showDrawn() {
-  shown_ = image();
-  since_shown_.start();
+  drawn_.finish();
+  shows_drawn_ = true;
   update();
 }
 
 void PictureBox::showProgress() {
-  if (since_shown_.elapsed() >= kProgressInterval) showDrawn();
+  if (since_shown_.elapsed() < kProgressInterval) return;
+  shown_ = {drawn_.soFar(), ratio_};
+  shows_drawn_ = false;
+  since_shown_.start();
+  update();
 }
 
-QImage PictureBox::image() {
-  picture_->flush();
-  return drawn_.copy();
+QImage PictureBox::image() const {
+  QImage image = toImage(bitmap());
+  image.setDevicePixelRatio(ratio_);
+  return image;
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {
   noticeResolution();
+  QImage image = viewOf(shows_drawn_ ? drawn_.bitmap() : shown_.bitmap);
+  image.setDevicePixelRatio(shows_drawn_ ? ratio_ : shown_.ratio);
   QPainter painter(this);
   painter.fillRect(event->rect(), Qt::white);
-  painter.drawImage(QPointF(), shown_);
+  painter.drawImage(QPointF(), image);
 }
 
 void PictureBox::noticeResolution() {
-  if (is_stale_ || shown_.isNull() || drawn_.devicePixelRatio() == devicePixelRatioF()) return;
+  const bool shows_something = shows_drawn_ || !shown_.bitmap.pixels.empty();
+  if (is_stale_ || !shows_something || ratio_ == devicePixelRatioF()) return;
   is_stale_ = true;
   QMetaObject::invokeMethod(this, &PictureBox::resolutionChanged, Qt::QueuedConnection);
 }

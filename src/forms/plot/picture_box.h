@@ -2,14 +2,11 @@
 
 #include <QElapsedTimer>
 #include <QImage>
-#include <QPainter>
 #include <QWidget>
-#include <optional>
 
-#include "app/services.h"
+#include "pictures/bitmap.h"
 #include "pictures/drawing_list.h"
-#include "platform/qt/bitmap_image.h"
-#include "platform/qt/painter_picture.h"
+#include "pictures/raster_picture.h"
 
 namespace zel {
 
@@ -36,15 +33,16 @@ class PictureBox : public QWidget, public Picture {
   void extendPiece(Point point) override;
   void dot(Point centre, double radius) override;
 
-  /// Shows what has been drawn so far.
+  /// Shows what has been drawn, which is all.
   void showDrawn();
-  /// The same for a drawing that takes long, at most once in each interval from its beginning.
+  /// Shows what has been drawn so far in a drawing that takes long, at most once in each interval
+  /// from its beginning.
   void showProgress();
 
   /// A copy of what has been drawn so far.
-  QImage image();
+  QImage image() const;
   /// The same in the pixels of the device.
-  Bitmap bitmap() { return toBitmap(image()); }
+  Bitmap bitmap() const { return drawn_.soFar(); }
   /// The same as it was drawn, in twips.
   const DrawingList& drawing() const { return drawing_; }
 
@@ -60,14 +58,19 @@ class PictureBox : public QWidget, public Picture {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void makeImage();
+  /// A bitmap with as many pixels to a logical one.
+  struct Shown {
+    Bitmap bitmap;
+    qreal ratio = 1;
+  };
+
   void noticeResolution();
 
   DrawingList drawing_;
-  QImage drawn_;
-  QPainter painter_;                       // on drawn_
-  std::optional<PainterPicture> picture_;  // by painter_; always there
-  QImage shown_;
+  RasterPicture drawn_{1, 1};
+  qreal ratio_ = 1;           // of drawn_
+  bool shows_drawn_ = false;  // what is shown is drawn_
+  Shown shown_;               // what is shown otherwise
   QElapsedTimer since_shown_;
   bool is_stale_ = false;  // resolutionChanged was emitted
 };

@@ -17,12 +17,12 @@ Bitmap toBitmap(const QImage& image) {
   return bitmap;
 }
 
-QImage toImage(const Bitmap& bitmap) {
-  QImage image(bitmap.width, bitmap.height, QImage::Format_RGB32);
-  auto from = bitmap.pixels.begin();
-  for (int y = 0; y < image.height(); ++y, from += bitmap.width)
-    std::copy_n(from, bitmap.width, reinterpret_cast<QRgb*>(image.scanLine(y)));
-  return image;
+QImage toImage(const Bitmap& bitmap) { return viewOf(bitmap).copy(); }
+
+QImage viewOf(const Bitmap& bitmap) {
+  if (bitmap.pixels.empty()) return {};
+  return {reinterpret_cast<const uchar*>(bitmap.pixels.data()), bitmap.width, bitmap.height,
+          QImage::Format_RGB32};
 }
 
 }  // namespace zel

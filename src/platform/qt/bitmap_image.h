@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "app/services.h"
+#include "pictures/bitmap.h"
 
 namespace zel {
 
@@ -10,5 +10,8 @@ Bitmap toBitmap(const QImage& image);
 
 /// A null image for a bitmap without pixels.
 QImage toImage(const Bitmap& bitmap);
+
+/// The same on the pixels of the bitmap, which must stay as they are while the image is used.
+QImage viewOf(const Bitmap& bitmap);
 
 }  // namespace zel
