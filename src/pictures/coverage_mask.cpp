@@ -90,9 +90,9 @@ void CoverageMask::touch(int left, int top, int right, int bottom) {
       touched_[static_cast<std::size_t>(row * tiles_across_ + tile)] = 1;
 }
 
-void CoverageMask::blendOnto(Bitmap& bitmap, std::uint32_t colour) {
+bool CoverageMask::blendOnto(Bitmap& bitmap, std::uint32_t colour) {
   const Bytes<std::uint8_t> bytes = opaque(colour);
-  takeTouched([&](int left, int top) {
+  return takeTouched([&](int left, int top) {
     const int count = std::min(kTileWidth, width_ - left);
     if (left >= 0 && top >= 0 && count > 0) {
       for (int y = top; y < std::min(top + kTileHeight, height_); ++y)
@@ -106,17 +106,21 @@ void CoverageMask::clear() {
   takeTouched([this](int left, int top) { clearTile(left, top); });
 }
 
+/// Hands over each touched tile. False when there is none.
 template <class Tile>
-void CoverageMask::takeTouched(const Tile& tile) {
+bool CoverageMask::takeTouched(const Tile& tile) {
   std::size_t number = 0;
+  bool has_any = false;
   while (const void* const found =
              std::memchr(touched_.data() + number, 1, touched_.size() - number)) {
     number = static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - touched_.data());
     touched_[number] = 0;
+    has_any = true;
     const int place = static_cast<int>(number);
     tile(place % tiles_across_ * kTileWidth - margin_,
          place / tiles_across_ * kTileHeight - margin_);
   }
+  return has_any;
 }
 
 void CoverageMask::clearTile(int left, int top) {

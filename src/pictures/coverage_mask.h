@@ -30,8 +30,9 @@ class CoverageMask {
   /// Says that these pixels may have been raised; the last ones are among them.
   void touch(int left, int top, int right, int bottom);
 
-  /// Lays a colour, 0xRRGGBB, on the bitmap by its coverage, and is empty then.
-  void blendOnto(Bitmap& bitmap, std::uint32_t colour);
+  /// Lays a colour, 0xRRGGBB, on the bitmap by its coverage, and is empty then. False when it was
+  /// empty before.
+  bool blendOnto(Bitmap& bitmap, std::uint32_t colour);
   void clear();
 
  private:
@@ -39,7 +40,7 @@ class CoverageMask {
     return static_cast<std::size_t>((y + margin_) * stride_ + x + margin_);
   }
   template <class Tile>
-  void takeTouched(const Tile& tile);
+  bool takeTouched(const Tile& tile);
   void clearTile(int left, int top);
 
   int width_;

@@ -74,7 +74,8 @@ RasterPicture::RasterPicture(int width, int height, double density)
 void RasterPicture::clear() {
   piece_.reset();
   mask_.clear();
-  std::ranges::fill(bitmap_.pixels, kWhite);
+  if (!is_blank_) std::ranges::fill(bitmap_.pixels, kWhite);
+  is_blank_ = true;
 }
 
 void RasterPicture::beginAxes() { beginLayer(kBlack); }
@@ -106,7 +107,7 @@ void RasterPicture::dot(Point centre, double radius) {
 
 const Bitmap& RasterPicture::finish() {
   endPiece();
-  mask_.blendOnto(bitmap_, colour_);
+  if (mask_.blendOnto(bitmap_, colour_)) is_blank_ = false;
   return bitmap_;
 }
 
@@ -121,6 +122,7 @@ Bitmap RasterPicture::exchange(Bitmap reused) {
   if (reused.width != bitmap_.width || reused.height != bitmap_.height)
     reused = whiteBitmap(bitmap_.width, bitmap_.height);
   std::swap(bitmap_, reused);
+  is_blank_ = false;
   clear();
   return reused;
 }

@@ -36,7 +36,7 @@ class RasterPicture : public Picture {
   /// What has been drawn so far, while the drawing goes on.
   Bitmap soFar() const;
   /// Hands over what has been drawn, as finish() gives it, and is an empty picture on the pixels of
-  /// another bitmap. Of another size than the picture it is not used.
+  /// another bitmap, which is not used when it has another size.
   Bitmap exchange(Bitmap reused);
 
  private:
@@ -65,6 +65,7 @@ class RasterPicture : public Picture {
   int axis_width_;            // pixels
   CoverageMask mask_;         // of the graph that is being drawn
   std::uint32_t colour_ = 0;  // of that graph, 0xRRGGBB
+  bool is_blank_ = true;      // nothing but white in bitmap_
   std::optional<Piece> piece_;
 };
 
