@@ -82,6 +82,37 @@ TEST_F(Box, ShowsProgressOnceInAnInterval) {
   EXPECT_LT(middle(box.grab().toImage()).blue(), 128);
 }
 
+TEST_F(Box, ShowsTheOldPictureUntilTheNextOneIsShown) {
+  drawLine();
+  box.showDrawn();
+  for (int i = 0; i < 3; ++i) {
+    box.clear();
+    box.beginGraph('a', 0xFF0000);
+    box.startPiece({50 * 15, 0});
+    box.extendPiece({50 * 15, 80 * 15});
+    EXPECT_LT(box.grab().toImage().pixelColor(20, 40).blue(), 128);
+    EXPECT_EQ(box.grab().toImage().pixelColor(50, 20), QColor(Qt::white));
+    box.showDrawn();
+    EXPECT_EQ(box.grab().toImage().pixelColor(20, 40), QColor(Qt::white));
+    EXPECT_LT(box.grab().toImage().pixelColor(50, 20).red(), 128);
+    drawLine();
+    box.showDrawn();
+  }
+}
+
+TEST_F(Box, LookingAtItWhileItIsDrawnChangesNothing) {
+  drawLine();
+  box.extendPiece({50 * 15, 60 * 15});
+  const QImage expected = box.image();
+  drawLine();
+  QTest::qSleep(PictureBox::kProgressInterval + 5);
+  box.showProgress();
+  box.grab();
+  box.image();
+  box.extendPiece({50 * 15, 60 * 15});
+  EXPECT_EQ(box.image(), expected);
+}
+
 TEST_F(Box, TheImageMayBeReplacedInTheMiddleOfAPiece) {
   drawLine();
   box.resize(200, 160);
