@@ -9,13 +9,15 @@ import time
 
 WIDTH, HEIGHT, QUALITY = 1920, 1080, 100
 RENDER_RUNS = 15
+COMPILE_RUNS = 51
 
 
-def in_process(programs, row, threads=None):
+def in_process(programs, row, threads=None, scale=1):
     """What bench_rows prints of a row: what exactly, seconds, and the seconds beside it. muParser's
-    bulk mode uses so many threads, by itself as many as there are processors."""
+    bulk mode uses so many threads, by itself as many as there are processors. The scale is that of
+    the screen."""
     with tempfile.TemporaryDirectory() as folder:
-        environment = dict(os.environ, XDG_RUNTIME_DIR=folder)
+        environment = dict(os.environ, XDG_RUNTIME_DIR=folder, QT_SCALE_FACTOR=str(scale))
         if threads:
             environment["OMP_NUM_THREADS"] = str(threads)
         ran = subprocess.run([os.path.join(programs, "bench_rows"), row], env=environment,
@@ -57,6 +59,19 @@ def seconds_of(command, picture):
             sys.exit(f"{command[0]} made no picture.")
     os.remove(picture)
     return seconds
+
+
+def compile_times(programs):
+    """Median seconds of zel-cli compiling a formula and of a program that does nothing, in turn."""
+    commands = [[os.path.join(programs, "zel-cli"), "compile", "x"], ["true"]]
+    times = []
+    for _ in range(COMPILE_RUNS + 1):
+        times.append([])
+        for command in commands:
+            began = time.perf_counter()
+            subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
+            times[-1].append(time.perf_counter() - began)
+    return [statistics.median(seconds) for seconds in zip(*times[1:])]  # the first ones warm up
 
 
 def render_times(programs, document):

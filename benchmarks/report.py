@@ -18,14 +18,16 @@ ROWS = {
     "sweep": ("sweeps of 1,920 samples beside muParser's bulk mode", ["bench_rows"]),
     "single": ("one evaluation at a time beside muParser", ["bench_rows"]),
     "reference": ("both beside the evaluation by number text", ["bench_rows"]),
-    "redraw": ("a redraw of 26 graphs beside a frame, and beside its painting", ["bench_rows"]),
+    "painting": ("painting lines beside a QPainter", ["bench_rows"]),
+    "redraw": ("a redraw of 26 graphs beside a frame, on two screens", ["bench_rows"]),
     "render": ("zel-cli render beside gnuplot", ["zel-cli"]),
     "family": ("a family of 1,000 members beside one of 100", ["bench_rows"]),
     "open": ("opening a document of 26 graphs", ["bench_rows"]),
+    "compile": ("zel-cli compile beside a program that does nothing", ["zel-cli"]),
     "start": ("the first window of zel beside an empty one", ["zel", "empty_window"]),
 }
 
-OTHER_LINES = {"single": lines.single, "redraw": lines.redraw, "family": lines.family,
+OTHER_LINES = {"single": lines.single, "painting": lines.painting, "family": lines.family,
                "open": lines.opening}
 
 
@@ -62,11 +64,15 @@ def measure(row, programs):
     if row == "render":
         document = os.path.join(ROOT, "examples", "alphabet.zel")
         return lines.render(*processes.render_times(programs, document))
+    if row == "compile":
+        return lines.compile_start(*processes.compile_times(programs))
     if row == "start":
         return lines.start(*startup.first_window_times(programs))
     measured = processes.in_process(programs, row, threads=1)
     if row == "sweep":
         return lines.sweep(measured, processes.in_process(programs, row))
+    if row == "redraw":
+        return lines.redraw(measured, processes.in_process(programs, row, threads=1, scale=2))
     if row == "reference":
         return lines.reference(measured, processes.in_process(programs, "single-reference"))
     return OTHER_LINES[row](measured)

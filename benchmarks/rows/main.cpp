@@ -12,11 +12,12 @@ namespace {
 
 using Row = std::pair<std::string_view, void (*)()>;
 
-constexpr std::array<Row, 7> kRows = {{
+constexpr std::array<Row, 8> kRows = {{
     {"sweep", zel::bench::sweepRow},
     {"single", zel::bench::singleRow},
     {"reference", zel::bench::referenceRow},
     {"single-reference", zel::bench::singleReferenceRow},
+    {"painting", zel::bench::paintingRow},
     {"redraw", zel::bench::redrawRow},
     {"family", zel::bench::familyRow},
     {"open", zel::bench::openRow},

@@ -11,6 +11,7 @@ void sweepRow();
 void singleRow();
 void referenceRow();
 void singleReferenceRow();
+void paintingRow();
 void redrawRow();
 void familyRow();
 void openRow();
