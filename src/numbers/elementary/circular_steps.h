@@ -1,0 +1,169 @@
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+#include "numbers/rounding_steps.h"
+#include "numbers/elementary/double_double.h"
+
+/// The first stage of sine, cosine and tangent: the angle is a whole number of steps of pi/256 and
+/// a rest of at most half a step. The sine and cosine of the steps come from a table, those of the
+/// rest are polynomials (Gal and Bachelis 1991, with two doubles for an entry in place of accurate
+/// points).
+namespace zel {
+
+inline constexpr DoubleDouble kPiInTwo = {0x1.921fb54442d18p+1, 0x1.1a62633145c07p-53};
+
+inline constexpr std::size_t kStepsOfCircle = 512;
+inline constexpr std::size_t kStepsOfQuarter = kStepsOfCircle / 4;
+
+/// The sum of (-1)^k x^(n + 2k) / (n + 2k)!, for small x.
+constexpr DoubleDouble alternatingSeries(DoubleDouble x, double n) {
+  const DoubleDouble square = multiply(x, x);
+  DoubleDouble sum = {1, 0};
+  for (double k = n + 16; k > n; k -= 2)
+    sum = DoubleDouble{1, 0} - multiply(multiply(square, sum), reciprocal({k * (k - 1), 0}));
+  return n == 0 ? sum : multiply(x, sum);
+}
+
+/// The sines of i steps: high at 2i, low at 2i + 1.
+inline constexpr auto kSineTable = [] {
+  constexpr DoubleDouble kStep = {kPiInTwo.high / 256, kPiInTwo.low / 256};
+  constexpr DoubleDouble kSine = alternatingSeries(kStep, 1);
+  constexpr DoubleDouble kCosine = alternatingSeries(kStep, 0);
+  std::array<double, 2 * kStepsOfCircle> table{};
+  const auto put = [&table](std::size_t i, DoubleDouble sine) {
+    table[2 * (i % kStepsOfCircle)] = sine.high;
+    table[2 * (i % kStepsOfCircle) + 1] = sine.low;
+  };
+  DoubleDouble sine = {0, 0};
+  DoubleDouble cosine = {1, 0};
+  for (std::size_t i = 0; i <= kStepsOfQuarter / 2; ++i) {
+    for (const std::size_t j : {i, kStepsOfQuarter - i}) {
+      const DoubleDouble value = j == i ? sine : cosine;
+      put(j, value);
+      put(2 * kStepsOfQuarter - j, value);
+      if (j == 0) continue;  // zero has no sign
+      put(2 * kStepsOfQuarter + j, -value);
+      put(kStepsOfCircle - j, -value);
+    }
+    const DoubleDouble next = multiply(sine, kCosine) + multiply(cosine, kSine);
+    cosine = multiply(cosine, kCosine) - multiply(sine, kSine);
+    sine = next;
+  }
+  return table;
+}();
+
+/// An angle of so many steps, modulo a circle, and a rest.
+struct ReducedAngle {
+  std::size_t steps;
+  DoubleDouble rest;
+  double error;  // of the rest
+};
+
+/// Beyond, the steps are too many for the products below.
+inline constexpr double kLargestAngle = 12800;
+
+/// For |x| <= kLargestAngle.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE ReducedAngle reduceAngle(double x) {
+  // Pi as three numbers; the first two have so few bits that their products are exact.
+  constexpr double kFirst = 0x1.921fb544p+1 / 256;
+  constexpr double kSecond = 0x1.0b4611a6p-33 / 256;
+  constexpr double kThird = 0x1.3198a2e037073p-68 / 256;
+  const double shifted = x * (256 / kPiInTwo.high) + kWholeNumbers;
+  const double steps = shifted - kWholeNumbers;
+  const DoubleDouble start = exactSum(x - steps * kFirst, -steps * kSecond);
+  return {std::bit_cast<std::uint64_t>(shifted) % kStepsOfCircle,
+          exactSum(start.high, multiplyAdd<Arithmetic>(-steps, kThird, start.low)),
+          std::fabs(steps) * 0x1p-124};
+}
+
+/// How far the sum of sineOf may be from the exact sine, relative to it, beside the error of the
+/// rest.
+inline constexpr double kSineError = 0x1.6p-66;
+
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE DoubleDouble sineOf(std::size_t steps, DoubleDouble rest) {
+  const std::size_t i = 2 * (steps % kStepsOfCircle);
+  const std::size_t j = 2 * ((steps + kStepsOfQuarter) % kStepsOfCircle);
+  const double sine = kSineTable[i];
+  const double cosine = kSineTable[j];
+  const double r = rest.high;
+  const double square = r * r;
+  const double beyond_one =
+      square * polynomial<Arithmetic>(square, -1.0 / 2, 1.0 / 24, -1.0 / 720);
+  const double beyond_r = multiplyAdd<Arithmetic>(
+      r * square, polynomial<Arithmetic>(square, -1.0 / 6, 1.0 / 120, -1.0 / 5040), rest.low);
+  const DoubleDouble product = exactProduct<Arithmetic>(cosine, r);
+  const DoubleDouble sum = sumOfOrdered(sine, product.high);
+  const double tables = multiplyAdd<Arithmetic>(kSineTable[j + 1], r,
+                                                kSineTable[i + 1] + (product.low + sum.low));
+  const double of_sine = multiplyAdd<Arithmetic>(-r, rest.low, beyond_one);
+  const double low = multiplyAdd<Arithmetic>(
+      sine, of_sine, multiplyAdd<Arithmetic>(cosine, beyond_r, tables));
+  return {sum.high, low};
+}
+
+/// The sine of a reduced angle; its cosine is the sine a quarter further.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate sineCandidateOf(const ReducedAngle& angle) {
+  const DoubleDouble sine = sineOf<Arithmetic>(angle.steps, angle.rest);
+  return rounded(sine.high, sine.low,
+                 multiplyAdd<Arithmetic>(std::fabs(sine.high), kSineError, angle.error));
+}
+
+/// How far the quotient of tangentOf may be from the exact tangent, likewise.
+inline constexpr double kTangentError = 2.25 * kSineError;
+
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE DoubleDouble tangentOf(std::size_t steps, DoubleDouble rest) {
+  const DoubleDouble rough_sine = sineOf<Arithmetic>(steps, rest);
+  const DoubleDouble rough_cosine = sineOf<Arithmetic>(steps + kStepsOfQuarter, rest);
+  const DoubleDouble sine = sumOfOrdered(rough_sine.high, rough_sine.low);
+  const DoubleDouble cosine = sumOfOrdered(rough_cosine.high, rough_cosine.low);
+  const double quotient = sine.high / cosine.high;
+  const DoubleDouble back = exactProduct<Arithmetic>(quotient, cosine.high);
+  const double remainder = multiplyAdd<Arithmetic>(
+      -quotient, cosine.low, (sine.high - back.high) - back.low + sine.low);
+  return {quotient, remainder / cosine.high};
+}
+
+/// An error of the angle grows with the slope of the tangent, 1 + tan^2.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate tangentCandidateOf(const ReducedAngle& angle) {
+  const DoubleDouble tangent = tangentOf<Arithmetic>(angle.steps, angle.rest);
+  const double slope = multiplyAdd<Arithmetic>(tangent.high, tangent.high, 1);
+  return rounded(tangent.high, tangent.low,
+                 multiplyAdd<Arithmetic>(std::fabs(tangent.high), kTangentError,
+                                         2 * angle.error * slope));
+}
+
+ZEL_ALWAYS_INLINE bool isModerateAngle(double x) { return std::fabs(x) <= kLargestAngle; }
+
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate sineCandidate(double x) {
+  const Candidate candidate = sineCandidateOf<Arithmetic>(reduceAngle<Arithmetic>(x));
+  // A zero keeps its sign.
+  return {x == 0 ? x : candidate.value,
+          static_cast<bool>(candidate.is_sure & isModerateAngle(x))};
+}
+
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate cosineCandidate(double x) {
+  ReducedAngle angle = reduceAngle<Arithmetic>(x);
+  angle.steps += kStepsOfQuarter;
+  const Candidate candidate = sineCandidateOf<Arithmetic>(angle);
+  return {candidate.value, static_cast<bool>(candidate.is_sure & isModerateAngle(x))};
+}
+
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate tangentCandidate(double x) {
+  const Candidate candidate = tangentCandidateOf<Arithmetic>(reduceAngle<Arithmetic>(x));
+  return {x == 0 ? x : candidate.value,
+          static_cast<bool>(candidate.is_sure & isModerateAngle(x))};
+}
+
+}  // namespace zel

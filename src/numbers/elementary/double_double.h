@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cmath>
+
+#include "numbers/decades.h"
+#include "numbers/instruction_sets.h"
+
+/// Exact sums and products of doubles, and the rounding test that they are made for: the arithmetic
+/// of Dekker (1971) and Knuth. `Arithmetic` is PlainArithmetic or FusedArithmetic; the last bits of
+/// what lies between may differ, what is decided never does.
+namespace zel {
+
+/// a + b and what is missing from it; |a| >= |b|, or a is 0.
+constexpr ZEL_ALWAYS_INLINE DoubleDouble sumOfOrdered(double a, double b) {
+  const double sum = a + b;
+  return {sum, b - (sum - a)};
+}
+
+/// a + b and what is missing from it.
+constexpr ZEL_ALWAYS_INLINE DoubleDouble exactSum(double a, double b) {
+  const double sum = a + b;
+  const double part = sum - a;
+  return {sum, (a - (sum - part)) + (b - part)};
+}
+
+constexpr DoubleDouble operator-(DoubleDouble a) { return {-a.high, -a.low}; }
+
+constexpr DoubleDouble operator+(DoubleDouble a, DoubleDouble b) {
+  const DoubleDouble high = exactSum(a.high, b.high);
+  const DoubleDouble low = exactSum(a.low, b.low);
+  const DoubleDouble sum = sumOfOrdered(high.high, high.low + low.high);
+  return sumOfOrdered(sum.high, sum.low + low.low);
+}
+
+constexpr DoubleDouble operator-(DoubleDouble a, DoubleDouble b) { return a + -b; }
+
+/// a * b and what is missing from it.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE DoubleDouble exactProduct(double a, double b) {
+  if constexpr (Arithmetic::kIsFused) {
+    const double product = a * b;
+    return {product, std::fma(a, b, -product)};
+  } else {
+    return multiplyExactly(a, b);
+  }
+}
+
+/// a * b + c, rounded once or twice.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE double multiplyAdd(double a, double b, double c) {
+  if constexpr (Arithmetic::kIsFused)
+    return std::fma(a, b, c);
+  else
+    return a * b + c;
+}
+
+/// c0 + x (c1 + x (c2 + ...)).
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE double polynomial(double, double c0) {
+  return c0;
+}
+template <class Arithmetic, class... Rest>
+ZEL_ALWAYS_INLINE double polynomial(double x, double c0, Rest... rest) {
+  return multiplyAdd<Arithmetic>(x, polynomial<Arithmetic>(x, rest...), c0);
+}
+
+/// The value of a function as the first stage has it: the nearest double for sure, or in doubt.
+struct Candidate {
+  double value = 0;
+  bool is_sure = false;
+};
+
+/// The rounding test of Ziv (1991) for an exact value within `error` of high + low: it is decided
+/// where both ends of that interval round alike. A NaN on the way is in doubt.
+ZEL_ALWAYS_INLINE Candidate rounded(double high, double low, double error) {
+  const double value = high + (low - error);
+  return {value, value == high + (low + error)};
+}
+
+}  // namespace zel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+#include "numbers/elementary/logarithm_steps.h"
+
+/// The first stage of powers: e^(y ln|x|), with the sign of an odd power of a negative base.
+namespace zel {
+
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate powerCandidate(double x, double y) {
+  constexpr std::uint64_t kSign = std::uint64_t{1} << 63;
+  const double base = std::fabs(x);
+  const DoubleDouble logarithm = fineLogarithmOf<Arithmetic>(base);
+  const DoubleDouble product = exactProduct<Arithmetic>(y, logarithm.high);
+  const double low = multiplyAdd<Arithmetic>(y, logarithm.low, product.low);
+  const ScaledExponential result = exponentialOf<Arithmetic>(product.high, low);
+  const double magnitude = std::fabs(product.high);
+  const Candidate candidate =
+      rounded(result.high, result.low,
+              multiplyAdd<Arithmetic>(magnitude, 2 * kFineLogarithmError, kExponentialError));
+  const double shifted = y + kWholeNumbers;
+  const bool is_whole = (shifted - kWholeNumbers == y) & (std::fabs(y) < 0x1p51);
+  const auto shifted_bits = std::bit_cast<std::uint64_t>(shifted);
+  const std::uint64_t sign = std::bit_cast<std::uint64_t>(x) & (shifted_bits << 63) & kSign;
+  const double value = std::bit_cast<double>(
+      std::bit_cast<std::uint64_t>(candidate.value * result.scale) | sign);
+  const bool is_sure = candidate.is_sure & (magnitude <= kLargestExponent) &
+                       isPositiveNormal(base) & ((x > 0) | is_whole);
+  return {value, is_sure};
+}
+
+/// x^3. The square of a number needs no steps: x * x is the nearest double already.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate cubeCandidate(double x) {
+  const DoubleDouble square = exactProduct<Arithmetic>(x, x);
+  const DoubleDouble product = exactProduct<Arithmetic>(square.high, x);
+  const double low = multiplyAdd<Arithmetic>(square.low, x, product.low);
+  const Candidate candidate = rounded(product.high, low, std::fabs(product.high) * 0x1p-100);
+  const double magnitude = std::fabs(x);
+  const bool is_normal = (magnitude >= 0x1p-300) & (magnitude <= 0x1p300);
+  return {candidate.value, static_cast<bool>(candidate.is_sure & is_normal)};
+}
+
+}  // namespace zel

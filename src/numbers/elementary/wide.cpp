@@ -1,0 +1,170 @@
+#include "numbers/elementary/wide.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+
+namespace zel {
+namespace {
+
+constexpr int kDoubleBits = 53;
+constexpr int kLowestDoubleExponent = -1073;  // 0.1 * 2^-1073 is the smallest subnormal
+
+/// The limbs moved towards the lower end, 0 <= bits.
+Wide::Limbs moved(const Wide::Limbs& limbs, int bits) {
+  Wide::Limbs result{};
+  const auto whole = static_cast<std::size_t>(bits / Wide::kLimbBits);
+  const int part = bits % Wide::kLimbBits;
+  for (std::size_t i = whole; i < Wide::kLimbs; ++i) {
+    const std::uint64_t above = i > whole ? limbs[i - whole - 1] : 0;
+    const std::uint64_t both = (above << Wide::kLimbBits) | limbs[i - whole];
+    result[i] = static_cast<std::uint32_t>(both >> part);
+  }
+  return result;
+}
+
+}  // namespace
+
+Wide::Wide(double value) : is_negative_(std::signbit(value)) {
+  const auto whole =
+      static_cast<std::uint64_t>(std::ldexp(std::frexp(std::fabs(value), &exponent_), 64));
+  limbs_[0] = static_cast<std::uint32_t>(whole >> kLimbBits);
+  limbs_[1] = static_cast<std::uint32_t>(whole);
+}
+
+Wide::Wide(const Limbs& limbs, int exponent) : limbs_(limbs), exponent_(exponent) { normalise(); }
+
+void Wide::normalise() {
+  const auto* const first = std::ranges::find_if(limbs_, [](std::uint32_t limb) { return limb != 0; });
+  if (first == limbs_.end()) {
+    *this = {};
+    return;
+  }
+  const auto zeros = static_cast<std::size_t>(first - limbs_.begin());
+  const int part = std::countl_zero(*first);
+  for (std::size_t i = 0; i < kLimbs; ++i) {
+    const auto limb = [&](std::size_t j) -> std::uint64_t { return j < kLimbs ? limbs_[j] : 0; };
+    const std::uint64_t both = (limb(i + zeros) << kLimbBits) | limb(i + zeros + 1);
+    limbs_[i] = static_cast<std::uint32_t>((both << part) >> kLimbBits);
+  }
+  exponent_ -= static_cast<int>(zeros) * kLimbBits + part;
+}
+
+double Wide::nearest() const {
+  if (isZero()) return 0;
+  const double sign = is_negative_ ? -1 : 1;
+  const int bits = std::min(kDoubleBits, exponent_ - kLowestDoubleExponent + 1);
+  if (bits < 0) return sign * 0;
+  // The bits that are kept, then the bit after them, then whether there are more.
+  const Limbs kept = moved(limbs_, kBits - bits - 1);
+  std::uint64_t whole = (std::uint64_t{kept[kLimbs - 2]} << kLimbBits) | kept[kLimbs - 1];
+  const bool is_half_or_more = whole % 2 != 0;
+  whole /= 2;
+  Wide rest = *this;
+  rest.is_negative_ = false;
+  const Wide tie = (Wide(static_cast<double>(whole)) + Wide(0.5)).scaled(exponent_ - bits);
+  const bool is_tie = is_half_or_more && (rest - tie).isZero();
+  if (is_half_or_more && (!is_tie || whole % 2 != 0)) ++whole;
+  return sign * std::ldexp(static_cast<double>(whole), exponent_ - bits);
+}
+
+Wide Wide::operator-() const {
+  Wide result = *this;
+  result.is_negative_ = !is_negative_;
+  return result;
+}
+
+Wide Wide::scaled(int exponent) const {
+  Wide result = *this;
+  result.exponent_ += exponent;
+  return result;
+}
+
+bool Wide::isMagnitudeBelow(const Wide& other) const {
+  if (isZero() || other.isZero()) return !other.isZero();
+  if (exponent_ != other.exponent_) return exponent_ < other.exponent_;
+  return limbs_ < other.limbs_;
+}
+
+Wide Wide::shiftedRight(int bits) const {
+  Wide result = *this;
+  result.limbs_ = bits < kBits ? moved(limbs_, bits) : Limbs{};
+  result.exponent_ += bits;
+  return result;
+}
+
+Wide Wide::withMagnitudesAdded(const Wide& smaller) const {
+  // One bit is kept free for the carry.
+  Wide sum = shiftedRight(1);
+  const Wide aligned = smaller.shiftedRight(sum.exponent_ - smaller.exponent_);
+  std::uint64_t carry = 0;
+  for (std::size_t i = kLimbs; i-- > 0;) {
+    carry += std::uint64_t{sum.limbs_[i]} + aligned.limbs_[i];
+    sum.limbs_[i] = static_cast<std::uint32_t>(carry);
+    carry >>= kLimbBits;
+  }
+  sum.normalise();
+  return sum;
+}
+
+Wide Wide::withMagnitudesSubtracted(const Wide& smaller) const {
+  Wide difference = *this;
+  const Wide aligned = smaller.shiftedRight(exponent_ - smaller.exponent_);
+  std::uint64_t borrow = 0;
+  for (std::size_t i = kLimbs; i-- > 0;) {
+    const std::uint64_t limb = std::uint64_t{limbs_[i]} - aligned.limbs_[i] - borrow;
+    difference.limbs_[i] = static_cast<std::uint32_t>(limb);
+    borrow = (limb >> kLimbBits) & 1;
+  }
+  difference.normalise();
+  return difference;
+}
+
+Wide Wide::operator+(const Wide& other) const {
+  if (isMagnitudeBelow(other)) return other + *this;
+  if (other.isZero()) return *this;
+  return is_negative_ == other.is_negative_ ? withMagnitudesAdded(other)
+                                            : withMagnitudesSubtracted(other);
+}
+
+Wide Wide::operator*(const Wide& other) const {
+  if (isZero() || other.isZero()) return {};
+  std::array<std::uint32_t, 2 * kLimbs> product{};
+  for (std::size_t i = kLimbs; i-- > 0;) {
+    std::uint64_t carry = 0;
+    for (std::size_t j = kLimbs; j-- > 0;) {
+      carry += std::uint64_t{limbs_[i]} * other.limbs_[j] + product[i + j + 1];
+      product[i + j + 1] = static_cast<std::uint32_t>(carry);
+      carry >>= kLimbBits;
+    }
+    product[i] = static_cast<std::uint32_t>(carry);
+  }
+  Wide result;
+  std::copy_n(product.begin(), kLimbs, result.limbs_.begin());
+  result.exponent_ = exponent_ + other.exponent_;
+  result.is_negative_ = is_negative_ != other.is_negative_;
+  result.normalise();
+  return result;
+}
+
+Wide Wide::operator/(std::uint32_t divisor) const {
+  Wide quotient = *this;
+  std::uint64_t rest = 0;
+  for (std::uint32_t& limb : quotient.limbs_) {
+    rest = (rest << kLimbBits) | limb;
+    limb = static_cast<std::uint32_t>(rest / divisor);
+    rest %= divisor;
+  }
+  quotient.normalise();
+  return quotient;
+}
+
+Wide Wide::operator/(const Wide& other) const {
+  const Wide magnitude = other.scaled(-other.exponent_);  // from 1/2 to 1
+  Wide inverse(1 / magnitude.nearest());
+  for (int bits = kDoubleBits - 2; bits < kBits; bits *= 2)
+    inverse = inverse + inverse * (Wide(1) - magnitude * inverse);
+  return *this * inverse.scaled(-other.exponent_);
+}
+
+}  // namespace zel
