@@ -72,9 +72,9 @@ ZEL_ALWAYS_INLINE Candidate arcTangentCandidate(double x) {
   const double magnitude = std::fabs(x);
   const DoubleDouble arc = arcTangentOf<Arithmetic>(magnitude);
   const Candidate candidate = rounded(arc.high, arc.low, arc.high * kArcTangentError);
-  const double value = std::bit_cast<double>(std::bit_cast<std::uint64_t>(candidate.value) |
-                                             (std::bit_cast<std::uint64_t>(x) & kSign));
-  return {value, static_cast<bool>(candidate.is_sure & (magnitude <= kLargestTangent))};
+  const std::uint64_t sign = std::bit_cast<std::uint64_t>(x) & kSign;
+  return Candidate{withSign(candidate.value, sign), withSign(candidate.other, sign)}.sureOnlyIf(
+      magnitude <= kLargestTangent);
 }
 
 }  // namespace zel

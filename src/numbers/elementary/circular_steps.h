@@ -143,12 +143,15 @@ ZEL_ALWAYS_INLINE Candidate tangentCandidateOf(const ReducedAngle& angle) {
 
 ZEL_ALWAYS_INLINE bool isModerateAngle(double x) { return std::fabs(x) <= kLargestAngle; }
 
+/// A zero keeps its sign.
+ZEL_ALWAYS_INLINE Candidate withZero(double x, Candidate candidate) {
+  return {x == 0 ? x : candidate.value, candidate.other};
+}
+
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate sineCandidate(double x) {
   const Candidate candidate = sineCandidateOf<Arithmetic>(reduceAngle<Arithmetic>(x));
-  // A zero keeps its sign.
-  return {x == 0 ? x : candidate.value,
-          static_cast<bool>(candidate.is_sure & isModerateAngle(x))};
+  return withZero(x, candidate).sureOnlyIf(isModerateAngle(x));
 }
 
 template <class Arithmetic>
@@ -156,14 +159,13 @@ ZEL_ALWAYS_INLINE Candidate cosineCandidate(double x) {
   ReducedAngle angle = reduceAngle<Arithmetic>(x);
   angle.steps += kStepsOfQuarter;
   const Candidate candidate = sineCandidateOf<Arithmetic>(angle);
-  return {candidate.value, static_cast<bool>(candidate.is_sure & isModerateAngle(x))};
+  return candidate.sureOnlyIf(isModerateAngle(x));
 }
 
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate tangentCandidate(double x) {
   const Candidate candidate = tangentCandidateOf<Arithmetic>(reduceAngle<Arithmetic>(x));
-  return {x == 0 ? x : candidate.value,
-          static_cast<bool>(candidate.is_sure & isModerateAngle(x))};
+  return withZero(x, candidate).sureOnlyIf(isModerateAngle(x));
 }
 
 }  // namespace zel

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 
 #include "numbers/decades.h"
 #include "numbers/instruction_sets.h"
@@ -64,17 +67,27 @@ ZEL_ALWAYS_INLINE double polynomial(double x, double c0, Rest... rest) {
   return multiplyAdd<Arithmetic>(x, polynomial<Arithmetic>(x, rest...), c0);
 }
 
-/// The value of a function as the first stage has it: the nearest double for sure, or in doubt.
+/// The two ends of what the nearest double to a value can be, as the first stage has it: it is
+/// sure where they are the same, and in doubt where one is NaN.
 struct Candidate {
   double value = 0;
-  bool is_sure = false;
+  double other = 0;
+
+  ZEL_ALWAYS_INLINE bool isSure() const { return value == other; }
+  ZEL_ALWAYS_INLINE Candidate sureOnlyIf(bool condition) const {
+    return {value, condition ? other : std::numeric_limits<double>::quiet_NaN()};
+  }
 };
 
 /// The rounding test of Ziv (1991) for an exact value within `error` of high + low: it is decided
-/// where both ends of that interval round alike. A NaN on the way is in doubt.
+/// where both ends of that interval round alike.
 ZEL_ALWAYS_INLINE Candidate rounded(double high, double low, double error) {
-  const double value = high + (low - error);
-  return {value, value == high + (low + error)};
+  return {high + (low - error), high + (low + error)};
+}
+
+/// A magnitude with a sign bit.
+ZEL_ALWAYS_INLINE double withSign(double magnitude, std::uint64_t sign) {
+  return std::bit_cast<double>(std::bit_cast<std::uint64_t>(magnitude) | sign);
 }
 
 }  // namespace zel

@@ -8,7 +8,7 @@ namespace {
 template <Elementary function, class Arithmetic>
 ZEL_ALWAYS_INLINE double valueOf(double x) {
   const Candidate candidate = firstStage<function, Arithmetic>(x);
-  if (candidate.is_sure) [[likely]]
+  if (candidate.isSure()) [[likely]]
     return candidate.value;
   return settle(function, x);
 }
@@ -16,7 +16,7 @@ ZEL_ALWAYS_INLINE double valueOf(double x) {
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE double powerOf(double x, double y) {
   const Candidate candidate = powerCandidate<Arithmetic>(x, y);
-  if (candidate.is_sure) [[likely]]
+  if (candidate.isSure()) [[likely]]
     return candidate.value;
   return settlePower(x, y);
 }

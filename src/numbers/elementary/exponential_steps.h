@@ -42,8 +42,8 @@ struct ScaledExponential {
 
 /// Beyond, the power of two is none of a normal number.
 inline constexpr double kLargestExponent = 708;
-/// How far high + low may be from the exponential of the exact sum, which is between 1 and 2.
-inline constexpr double kExponentialError = 0x1p-67;
+/// How far high + low may be from the exact exponential, relative to it.
+inline constexpr double kExponentialError = 0x1p-68;
 
 /// e^(high + low), for |high| <= kLargestExponent and |low| <= 2^-43.
 template <class Arithmetic>
@@ -73,9 +73,9 @@ ZEL_ALWAYS_INLINE ScaledExponential exponentialOf(double high, double low) {
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate exponentialCandidate(double x) {
   const ScaledExponential result = exponentialOf<Arithmetic>(x, 0);
-  const Candidate unscaled = rounded(result.high, result.low, kExponentialError);
-  const bool is_normal = std::fabs(x) <= kLargestExponent;
-  return {unscaled.value * result.scale, static_cast<bool>(unscaled.is_sure & is_normal)};
+  const Candidate unscaled = rounded(result.high, result.low, result.high * kExponentialError);
+  return Candidate{unscaled.value * result.scale, unscaled.other * result.scale}.sureOnlyIf(
+      std::fabs(x) <= kLargestExponent);
 }
 
 }  // namespace zel

@@ -77,8 +77,8 @@ ZEL_ALWAYS_INLINE ReducedLogarithm reduceLogarithm(double x) {
 }
 
 /// How far the sums below may be from the exact logarithm, relative to it.
-inline constexpr double kLogarithmError = 0x1p-67;
-inline constexpr double kFineLogarithmError = 0x1p-76;
+inline constexpr double kLogarithmError = 0x1.2p-68;
+inline constexpr double kFineLogarithmError = 0x1.2p-77;
 
 /// ln(x) for a positive normal number.
 template <class Arithmetic>
@@ -127,9 +127,8 @@ ZEL_ALWAYS_INLINE bool isPositiveNormal(double x) { return (x >= DBL_MIN) & (x <
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate naturalLogarithmCandidate(double x) {
   const DoubleDouble result = logarithmOf<Arithmetic>(x);
-  const Candidate candidate =
-      rounded(result.high, result.low, std::fabs(result.high) * kLogarithmError);
-  return {candidate.value, static_cast<bool>(candidate.is_sure & isPositiveNormal(x))};
+  return rounded(result.high, result.low, std::fabs(result.high) * kLogarithmError)
+      .sureOnlyIf(isPositiveNormal(x));
 }
 
 template <class Arithmetic>
@@ -139,9 +138,8 @@ ZEL_ALWAYS_INLINE Candidate decimalLogarithmCandidate(double x) {
   const double low = multiplyAdd<Arithmetic>(
       natural.low, kDecimalPerNatural.high,
       multiplyAdd<Arithmetic>(natural.high, kDecimalPerNatural.low, product.low));
-  const Candidate candidate =
-      rounded(product.high, low, std::fabs(product.high) * (1.25 * kLogarithmError));
-  return {candidate.value, static_cast<bool>(candidate.is_sure & isPositiveNormal(x))};
+  return rounded(product.high, low, std::fabs(product.high) * (1.25 * kLogarithmError))
+      .sureOnlyIf(isPositiveNormal(x));
 }
 
 }  // namespace zel

@@ -19,16 +19,17 @@ ZEL_ALWAYS_INLINE Candidate powerCandidate(double x, double y) {
   const double magnitude = std::fabs(product.high);
   const Candidate candidate =
       rounded(result.high, result.low,
-              multiplyAdd<Arithmetic>(magnitude, 2 * kFineLogarithmError, kExponentialError));
+              result.high *
+                  multiplyAdd<Arithmetic>(magnitude, kFineLogarithmError, kExponentialError));
   const double shifted = y + kWholeNumbers;
   const bool is_whole = (shifted - kWholeNumbers == y) & (std::fabs(y) < 0x1p51);
   const auto shifted_bits = std::bit_cast<std::uint64_t>(shifted);
   const std::uint64_t sign = std::bit_cast<std::uint64_t>(x) & (shifted_bits << 63) & kSign;
-  const double value = std::bit_cast<double>(
-      std::bit_cast<std::uint64_t>(candidate.value * result.scale) | sign);
-  const bool is_sure = candidate.is_sure & (magnitude <= kLargestExponent) &
-                       isPositiveNormal(base) & ((x > 0) | is_whole);
-  return {value, is_sure};
+  const bool is_in_range = (magnitude <= kLargestExponent) & isPositiveNormal(base) &
+                           ((x > 0) | is_whole);
+  return Candidate{withSign(candidate.value * result.scale, sign),
+                   withSign(candidate.other * result.scale, sign)}
+      .sureOnlyIf(is_in_range);
 }
 
 /// x^3. The square of a number needs no steps: x * x is the nearest double already.
@@ -37,10 +38,9 @@ ZEL_ALWAYS_INLINE Candidate cubeCandidate(double x) {
   const DoubleDouble square = exactProduct<Arithmetic>(x, x);
   const DoubleDouble product = exactProduct<Arithmetic>(square.high, x);
   const double low = multiplyAdd<Arithmetic>(square.low, x, product.low);
-  const Candidate candidate = rounded(product.high, low, std::fabs(product.high) * 0x1p-100);
   const double magnitude = std::fabs(x);
-  const bool is_normal = (magnitude >= 0x1p-300) & (magnitude <= 0x1p300);
-  return {candidate.value, static_cast<bool>(candidate.is_sure & is_normal)};
+  return rounded(product.high, low, std::fabs(product.high) * 0x1p-100)
+      .sureOnlyIf((magnitude >= 0x1p-300) & (magnitude <= 0x1p300));
 }
 
 }  // namespace zel

@@ -1,5 +1,5 @@
 // What the first stage leaves: special values, arguments outside its range, and those few whose
-// value is too near to the middle of two doubles. Those are computed in 320 bits, which decides
+// value is too near to the middle of two doubles. Those are computed in 256 bits, which decides
 // every case that is known; a power that is exactly a double or such a middle is found as a whole
 // number first.
 #include "numbers/elementary/second_stage.h"
@@ -9,6 +9,7 @@
 #include <limits>
 #include <optional>
 
+#include "numbers/elementary/large_angles.h"
 #include "numbers/elementary/wide_functions.h"
 
 namespace zel {
@@ -37,19 +38,6 @@ double wideCircular(Elementary function, double x) {
   return sign * nearestCircular(function, turns.quarters, radiansOf(turns.rest));
 }
 
-/// The steps and the rest of an angle that is too large for the first stage to find them.
-ReducedAngle reduceLargeAngle(double magnitude) {
-  const QuarterTurns turns = quarterTurns(magnitude);
-  constexpr double kSteps = kStepsOfQuarter;
-  const double steps = std::nearbyint(turns.rest.nearest() * kSteps);
-  const Wide rest = turns.rest - Wide(steps / kSteps);
-  const double high = rest.nearest();
-  const double low = (rest - Wide(high)).nearest();
-  const auto whole = static_cast<int>(steps) + static_cast<int>(turns.quarters * kStepsOfQuarter);
-  return {static_cast<std::size_t>(whole + static_cast<int>(kStepsOfCircle)) % kStepsOfCircle,
-          multiply({high, low}, {kPiInTwo.high / 2, kPiInTwo.low / 2}), 0};
-}
-
 /// The first stage again, with an angle that is reduced for sure.
 Candidate largeAngleCandidate(Elementary function, double magnitude) {
   ReducedAngle angle = reduceLargeAngle(magnitude);
@@ -62,7 +50,7 @@ double settleCircular(Elementary function, double x) {
   if (!std::isfinite(x)) return kNoNumber;
   if (isModerateAngle(x)) return wideValue(function, x);
   const Candidate candidate = largeAngleCandidate(function, std::fabs(x));
-  if (!candidate.is_sure) return wideValue(function, x);
+  if (!candidate.isSure()) return wideValue(function, x);
   return x < 0 && function != Elementary::cosine ? -candidate.value : candidate.value;
 }
 
@@ -112,9 +100,7 @@ std::optional<Wide> exactPower(double x, double y) {
     if (y < 0 || power >= kLimit) return std::nullopt;
     if (odd > kLimit / power && i + 1 != y) return std::nullopt;
   }
-  const Wide::Limbs limbs = {static_cast<std::uint32_t>(power >> 32),
-                             static_cast<std::uint32_t>(power)};
-  return Wide(limbs, 64 + static_cast<int>(shift * y));
+  return Wide({power}, Wide::kLimbBits + static_cast<int>(shift * y));
 }
 
 /// y ln(x), nearly.

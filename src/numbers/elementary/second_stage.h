@@ -5,7 +5,7 @@
 /// The elementary functions where the first stage leaves them in doubt, and everywhere else.
 namespace zel {
 
-/// The nearest double to the exact value by the arithmetic of 320 bits alone, for finite arguments
+/// The nearest double to the exact value by the arithmetic of 256 bits alone, for finite arguments
 /// at which the function has a finite value other than 0.
 double wideValue(Elementary function, double x);
 /// |x|^y likewise, for a finite x other than 0 and a finite y.

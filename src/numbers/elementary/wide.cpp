@@ -10,6 +10,14 @@ namespace {
 constexpr int kDoubleBits = 53;
 constexpr int kLowestDoubleExponent = -1073;  // 0.1 * 2^-1073 is the smallest subnormal
 
+__extension__ using Uint128 = unsigned __int128;
+
+constexpr std::uint64_t upper(Uint128 value) { return static_cast<std::uint64_t>(value >> 64); }
+constexpr std::uint64_t lower(Uint128 value) { return static_cast<std::uint64_t>(value); }
+constexpr Uint128 joined(std::uint64_t high, std::uint64_t low) {
+  return (Uint128{high} << 64) | low;
+}
+
 /// The limbs moved towards the lower end, 0 <= bits.
 Wide::Limbs moved(const Wide::Limbs& limbs, int bits) {
   Wide::Limbs result{};
@@ -17,8 +25,7 @@ Wide::Limbs moved(const Wide::Limbs& limbs, int bits) {
   const int part = bits % Wide::kLimbBits;
   for (std::size_t i = whole; i < Wide::kLimbs; ++i) {
     const std::uint64_t above = i > whole ? limbs[i - whole - 1] : 0;
-    const std::uint64_t both = (above << Wide::kLimbBits) | limbs[i - whole];
-    result[i] = static_cast<std::uint32_t>(both >> part);
+    result[i] = lower(joined(above, limbs[i - whole]) >> part);
   }
   return result;
 }
@@ -26,16 +33,14 @@ Wide::Limbs moved(const Wide::Limbs& limbs, int bits) {
 }  // namespace
 
 Wide::Wide(double value) : is_negative_(std::signbit(value)) {
-  const auto whole =
-      static_cast<std::uint64_t>(std::ldexp(std::frexp(std::fabs(value), &exponent_), 64));
-  limbs_[0] = static_cast<std::uint32_t>(whole >> kLimbBits);
-  limbs_[1] = static_cast<std::uint32_t>(whole);
+  limbs_[0] = static_cast<std::uint64_t>(
+      std::ldexp(std::frexp(std::fabs(value), &exponent_), kLimbBits));
 }
 
 Wide::Wide(const Limbs& limbs, int exponent) : limbs_(limbs), exponent_(exponent) { normalise(); }
 
 void Wide::normalise() {
-  const auto* const first = std::ranges::find_if(limbs_, [](std::uint32_t limb) { return limb != 0; });
+  const auto* const first = std::ranges::find_if(limbs_, [](std::uint64_t limb) { return limb != 0; });
   if (first == limbs_.end()) {
     *this = {};
     return;
@@ -44,8 +49,7 @@ void Wide::normalise() {
   const int part = std::countl_zero(*first);
   for (std::size_t i = 0; i < kLimbs; ++i) {
     const auto limb = [&](std::size_t j) -> std::uint64_t { return j < kLimbs ? limbs_[j] : 0; };
-    const std::uint64_t both = (limb(i + zeros) << kLimbBits) | limb(i + zeros + 1);
-    limbs_[i] = static_cast<std::uint32_t>((both << part) >> kLimbBits);
+    limbs_[i] = upper(joined(limb(i + zeros), limb(i + zeros + 1)) << part);
   }
   exponent_ -= static_cast<int>(zeros) * kLimbBits + part;
 }
@@ -57,7 +61,7 @@ double Wide::nearest() const {
   if (bits < 0) return sign * 0;
   // The bits that are kept, then the bit after them, then whether there are more.
   const Limbs kept = moved(limbs_, kBits - bits - 1);
-  std::uint64_t whole = (std::uint64_t{kept[kLimbs - 2]} << kLimbBits) | kept[kLimbs - 1];
+  std::uint64_t whole = kept[kLimbs - 1];
   const bool is_half_or_more = whole % 2 != 0;
   whole /= 2;
   Wide rest = *this;
@@ -97,10 +101,10 @@ Wide Wide::withMagnitudesAdded(const Wide& smaller) const {
   // One bit is kept free for the carry.
   Wide sum = shiftedRight(1);
   const Wide aligned = smaller.shiftedRight(sum.exponent_ - smaller.exponent_);
-  std::uint64_t carry = 0;
+  Uint128 carry = 0;
   for (std::size_t i = kLimbs; i-- > 0;) {
-    carry += std::uint64_t{sum.limbs_[i]} + aligned.limbs_[i];
-    sum.limbs_[i] = static_cast<std::uint32_t>(carry);
+    carry += Uint128{sum.limbs_[i]} + aligned.limbs_[i];
+    sum.limbs_[i] = lower(carry);
     carry >>= kLimbBits;
   }
   sum.normalise();
@@ -112,9 +116,9 @@ Wide Wide::withMagnitudesSubtracted(const Wide& smaller) const {
   const Wide aligned = smaller.shiftedRight(exponent_ - smaller.exponent_);
   std::uint64_t borrow = 0;
   for (std::size_t i = kLimbs; i-- > 0;) {
-    const std::uint64_t limb = std::uint64_t{limbs_[i]} - aligned.limbs_[i] - borrow;
-    difference.limbs_[i] = static_cast<std::uint32_t>(limb);
-    borrow = (limb >> kLimbBits) & 1;
+    const Uint128 limb = Uint128{limbs_[i]} - aligned.limbs_[i] - borrow;
+    difference.limbs_[i] = lower(limb);
+    borrow = upper(limb) & 1;
   }
   difference.normalise();
   return difference;
@@ -129,15 +133,15 @@ Wide Wide::operator+(const Wide& other) const {
 
 Wide Wide::operator*(const Wide& other) const {
   if (isZero() || other.isZero()) return {};
-  std::array<std::uint32_t, 2 * kLimbs> product{};
+  std::array<std::uint64_t, 2 * kLimbs> product{};
   for (std::size_t i = kLimbs; i-- > 0;) {
-    std::uint64_t carry = 0;
+    Uint128 carry = 0;
     for (std::size_t j = kLimbs; j-- > 0;) {
-      carry += std::uint64_t{limbs_[i]} * other.limbs_[j] + product[i + j + 1];
-      product[i + j + 1] = static_cast<std::uint32_t>(carry);
+      carry += Uint128{limbs_[i]} * other.limbs_[j] + product[i + j + 1];
+      product[i + j + 1] = lower(carry);
       carry >>= kLimbBits;
     }
-    product[i] = static_cast<std::uint32_t>(carry);
+    product[i] = lower(carry);
   }
   Wide result;
   std::copy_n(product.begin(), kLimbs, result.limbs_.begin());
@@ -145,18 +149,6 @@ Wide Wide::operator*(const Wide& other) const {
   result.is_negative_ = is_negative_ != other.is_negative_;
   result.normalise();
   return result;
-}
-
-Wide Wide::operator/(std::uint32_t divisor) const {
-  Wide quotient = *this;
-  std::uint64_t rest = 0;
-  for (std::uint32_t& limb : quotient.limbs_) {
-    rest = (rest << kLimbBits) | limb;
-    limb = static_cast<std::uint32_t>(rest / divisor);
-    rest %= divisor;
-  }
-  quotient.normalise();
-  return quotient;
 }
 
 Wide Wide::operator/(const Wide& other) const {

@@ -6,16 +6,16 @@
 
 namespace zel {
 
-/// A binary floating-point number of 320 bits, for the few values that double-double arithmetic
+/// A binary floating-point number of 256 bits, for the few values that double-double arithmetic
 /// leaves in doubt: 0.limbs * 2^exponent with the first bit set, or zero. There is no infinity, and
 /// an exponent is never near the ends of int. The results of the operations below are cut off: they
-/// are within 2^-318 of the exact ones, relative to the larger operand.
+/// are within 2^-254 of the exact ones, relative to the larger operand.
 class Wide {
  public:
-  static constexpr std::size_t kLimbs = 10;
-  static constexpr int kLimbBits = 32;
+  static constexpr std::size_t kLimbs = 4;
+  static constexpr int kLimbBits = 64;
   static constexpr int kBits = kLimbs * kLimbBits;
-  using Limbs = std::array<std::uint32_t, kLimbs>;
+  using Limbs = std::array<std::uint64_t, kLimbs>;
 
   Wide() = default;
   /// Exact, for any finite value.
@@ -31,8 +31,6 @@ class Wide {
   Wide operator+(const Wide& other) const;
   Wide operator-(const Wide& other) const { return *this + -other; }
   Wide operator*(const Wide& other) const;
-  /// The divisor is not 0; as many bits as it has are lost at the lower end.
-  Wide operator/(std::uint32_t divisor) const;
   /// By way of the reciprocal; `other` is not zero.
   Wide operator/(const Wide& other) const;
   /// Times 2^exponent.

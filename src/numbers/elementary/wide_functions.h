@@ -2,7 +2,7 @@
 
 #include "numbers/elementary/wide.h"
 
-/// The elementary functions in 320 bits. All are within 2^-240 of the exact value, relative to it,
+/// The elementary functions in 256 bits. All are within 2^-240 of the exact value, relative to it,
 /// but for the logarithm of a number next to 1, which is within 2^-240 relative to 2^-10.
 namespace zel {
 
