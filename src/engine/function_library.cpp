@@ -11,6 +11,7 @@
 
 #include "base/language.h"
 #include "engine/compiler.h"
+#include "numbers/elementary/elementary.h"
 #include "numbers/number_text.h"
 
 namespace zel {
@@ -26,7 +27,7 @@ Computed finite(double value) {
 /// e^LnGamma(v) with the 15-digit e.
 Computed gamma(double v) {
   const auto logarithm = LnGamma(v);
-  return logarithm ? finite(std::pow(kEuler, *logarithm)) : failed(Failure::no_ln_gamma);
+  return logarithm ? finite(power(kEuler, *logarithm)) : failed(Failure::no_ln_gamma);
 }
 
 Computed lnGamma(double v) {
@@ -54,19 +55,19 @@ Computed computePrefixFunction(std::int32_t code, double v) {
     case 2: return finite(std::fabs(v));
     case 3:
     case 16: return sign(v);
-    case 4: return finite(std::log(v));
-    case 5: return finite(std::log10(v));
-    case 6: return finite(std::exp(v));
+    case 4: return finite(naturalLogarithm(v));
+    case 5: return finite(decimalLogarithm(v));
+    case 6: return finite(exponential(v));
     case 7:
     case 15: return finite(std::sqrt(v));
     case 8:
-    case 17: return finite(std::pow(v, 1.0 / 3.0));
+    case 17: return finite(power(v, 1.0 / 3.0));
     case 9: return v == 0 ? failed(Failure::fault) : finite(1 / v);
     case 10:
-    case 14: return ofDegrees(v, [](double radians) { return std::sin(radians); });
-    case 11: return ofDegrees(v, [](double radians) { return std::cos(radians); });
-    case 12: return ofDegrees(v, [](double radians) { return std::tan(radians); });
-    default: return ofDegrees(v, [](double radians) { return std::atan(radians); });
+    case 14: return ofDegrees(v, sine);
+    case 11: return ofDegrees(v, cosine);
+    case 12: return ofDegrees(v, tangent);
+    default: return ofDegrees(v, arcTangent);
   }
 }
 
@@ -130,7 +131,7 @@ std::optional<double> LnGamma(double v) {
                                                    0.00120865097386618, -5.395239384953E-06};
   double tmp = v + 5.5;
   if (!(tmp > 0)) return std::nullopt;
-  tmp -= (v + 0.5) * std::log(tmp);
+  tmp -= (v + 0.5) * naturalLogarithm(tmp);
   double ser = 1.00000000019001;
   double y = v;
   for (const double coefficient : kCoefficients) {
@@ -141,7 +142,7 @@ std::optional<double> LnGamma(double v) {
   if (v == 0) return std::nullopt;
   const double argument = 2.506628274631 * ser / v;
   if (!(argument > 0)) return std::nullopt;
-  const double result = std::log(argument) - tmp;
+  const double result = naturalLogarithm(argument) - tmp;
   if (!std::isfinite(result)) return std::nullopt;
   return result;
 }
@@ -153,7 +154,7 @@ Computed ComputeOperator(double left, double right, char op) {
     case '*': return finite(left * right);
     case '/': return right == 0 ? failed(Failure::zero_divisor) : finite(left / right);
     case '\\': return right == 0 ? failed(Failure::zero_divisor) : divideIntegers(left, right);
-    case '^': return finite(std::pow(left, right));
+    case '^': return finite(power(left, right));
     case '@': return applyPrefixFunction(left, right);
     default: return applyPostfixFunction(left, right);
   }

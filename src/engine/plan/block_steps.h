@@ -6,7 +6,7 @@
 
 #include "engine/plan/block_program.h"
 #include "engine/plan/operation_steps.h"
-#include "engine/plan/power_shortcuts.h"
+#include "numbers/elementary/lanes.h"
 #include "numbers/rounding_steps.h"
 
 /// The loops of BlockProgram, to be compiled for each instruction set.
@@ -35,48 +35,32 @@ inline bool isError(const Operation& operation, double left, double right) {
   }
 }
 
-/// One operation on all lanes, before the rounding.
-template <Kind kind>
-ZEL_ALWAYS_INLINE void computeBlock(const Block& block, char op) {
-  // These would make a number of what is none.
-  constexpr bool kHidesNone = kind == Kind::power || kind == Kind::sign || kind == Kind::other;
-  for (std::size_t c = 0; c < block.chunks; ++c) {
-    const double* const left = block.left[c].lanes.data();
-    const double* const right = block.right[c].lanes.data();
-    double* __restrict const result = block.result[c].lanes.data();
+/// One operation on the lanes of a chunk, before the rounding. A lane that has no value keeps none.
+template <Kind kind, class Arithmetic>
+ZEL_ALWAYS_INLINE void computeChunk(const double* left, const double* right,
+                                    double* __restrict result, char op) {
+  if constexpr (hasStages(kind)) {
+    computeLanes<kLanes>(
+        result,
+        [&](std::size_t i) ZEL_INLINE_LAMBDA {
+          return firstStageOf<kind, Arithmetic>(left[i], right[i]);
+        },
+        [&](std::size_t i) ZEL_INLINE_LAMBDA { return settledOf<kind>(left[i], right[i]); });
+  } else {
+    // These would make a number of what is none.
+    constexpr bool kHidesNone = kind == Kind::sign || kind == Kind::other;
     for (std::size_t i = 0; i < kLanes; ++i) {
       const bool is_none = kHidesNone && (std::isnan(left[i]) || std::isnan(right[i]));
-      result[i] = is_none ? kNone : compute<kind>(left[i], right[i], op);
+      result[i] = is_none ? kNone : compute<kind, Arithmetic>(left[i], right[i], op);
     }
   }
 }
 
-/// The same for a power that has a short cut; only what that leaves in doubt is computed.
-template <Kind kind>
-ZEL_ALWAYS_INLINE void shortcutBlock(const Block& block, const DecadeGuess& last) {
-  DecadeGuess guess = last;
-  for (std::size_t c = 0; c < block.chunks; ++c) {
-    const double* const left = block.left[c].lanes.data();
-    double* __restrict const result = block.result[c].lanes.data();
-    alignas(64) std::array<std::uint64_t, kLanes> doubts;
-    std::uint64_t doubt = 0;
-    for (std::size_t i = 0; i < kLanes; ++i) {
-      const DoubleDouble power = shortcut<kind>(left[i]);
-      const bool is_outside = !guess.holds(power.high);
-      const bool is_doubtful = isDoubtful(power, guess.scale);
-      result[i] = power.high;
-      doubts[i] = (is_outside | is_doubtful) ? 1 : 0;
-      doubt |= doubts[i];
-    }
-    if (doubt == 0) continue;
-    for (std::size_t i = 0; i < kLanes; ++i) {
-      if (doubts[i] == 0 || std::isnan(left[i])) continue;
-      guess.moveTo(result[i]);
-      const DoubleDouble power = shortcut<kind>(left[i]);
-      const bool is_sure = guess.holds(power.high) && !isDoubtful(power, guess.scale);
-      if (!is_sure) result[i] = compute<kind>(left[i], block.right[c].lanes[i], '^');
-    }
-  }
+template <Kind kind, class Arithmetic>
+ZEL_ALWAYS_INLINE void computeBlock(const Block& block, char op) {
+  for (std::size_t c = 0; c < block.chunks; ++c)
+    computeChunk<kind, Arithmetic>(block.left[c].lanes.data(), block.right[c].lanes.data(),
+                                   block.result[c].lanes.data(), op);
 }
 
 /// Rounds the lanes of a chunk one by one, and finds those that have just failed.
@@ -126,10 +110,7 @@ template <class Arithmetic>
 ZEL_ALWAYS_INLINE void runStep(BlockProgram::Step& step, const Block& block,
                                BlockProgram::Report& report) {
   withKind(step.operation.kind, [&]<Kind kind>() ZEL_INLINE_LAMBDA {
-    if constexpr (Arithmetic::kIsFused && hasShortcut(kind))
-      shortcutBlock<kind>(block, step.guess);
-    else
-      computeBlock<kind>(block, step.operation.op);
+    computeBlock<kind, Arithmetic>(block, step.operation.op);
   });
   roundBlock<Arithmetic>(step.operation, block, step.guess, report);
 }

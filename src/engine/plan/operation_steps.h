@@ -2,37 +2,81 @@
 
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "engine/function_library.h"
 #include "engine/plan/plan.h"
-#include "numbers/instruction_sets.h"
+#include "numbers/elementary/second_stage.h"
 
 namespace zel {
 
 /// Stands for a value that is not there.
 inline constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 
+/// The function of one number that an operation of this kind is; nothing for the others.
+constexpr std::optional<Elementary> elementaryOf(Kind kind) {
+  switch (kind) {
+    case Kind::logarithm: return Elementary::natural_logarithm;
+    case Kind::decimal_logarithm: return Elementary::decimal_logarithm;
+    case Kind::exponential: return Elementary::exponential;
+    case Kind::sine: return Elementary::sine;
+    case Kind::cosine: return Elementary::cosine;
+    case Kind::tangent: return Elementary::tangent;
+    default: return std::nullopt;
+  }
+}
+
+/// Whether the value comes in two stages, of which the first one is nearly always sure.
+constexpr bool hasStages(Kind kind) {
+  return kind == Kind::power || kind == Kind::cube || elementaryOf(kind).has_value();
+}
+
+/// What the function is applied to: radians, of an operand in degrees.
+template <Kind kind>
+ZEL_ALWAYS_INLINE double argumentOf(double operand) {
+  constexpr bool kTakesDegrees =
+      kind == Kind::sine || kind == Kind::cosine || kind == Kind::tangent;
+  return kTakesDegrees ? operand * kPi / 180 : operand;
+}
+
+template <Kind kind, class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate firstStageOf(double left, double right) {
+  if constexpr (kind == Kind::power)
+    return powerCandidate<Arithmetic>(left, right);
+  else if constexpr (kind == Kind::cube)
+    return cubeCandidate<Arithmetic>(left);
+  else
+    return firstStage<*elementaryOf(kind), Arithmetic>(argumentOf<kind>(right));
+}
+
+template <Kind kind>
+double settledOf(double left, double right) {
+  if (std::isnan(left) || std::isnan(right)) return kNone;
+  if constexpr (kind == Kind::power || kind == Kind::cube)
+    return settlePower(left, right);
+  else
+    return settle(*elementaryOf(kind), argumentOf<kind>(right));
+}
+
 /// What ComputeOperator gives for an operation of this kind, before the rounding; something that is
 /// no finite number where it fails. The operands are finite.
-template <Kind kind>
+template <Kind kind, class Arithmetic>
 ZEL_ALWAYS_INLINE double compute(double left, double right, char op) {
+  if constexpr (hasStages(kind)) {
+    const Candidate candidate = firstStageOf<kind, Arithmetic>(left, right);
+    if (candidate.isSure()) [[likely]]
+      return candidate.value;
+    return settledOf<kind>(left, right);
+  }
   if constexpr (kind == Kind::add) return left + right;
   if constexpr (kind == Kind::subtract) return left - right;
   if constexpr (kind == Kind::multiply) return left * right;
   if constexpr (kind == Kind::divide) return left / right;
-  // Not with a constant exponent: the compiler would make a product of it.
-  if constexpr (kind == Kind::power || kind == Kind::square || kind == Kind::cube)
-    return std::pow(left, right);
+  if constexpr (kind == Kind::square) return left * left;
   if constexpr (kind == Kind::absolute) return std::fabs(right);
   if constexpr (kind == Kind::sign) return right > 0 ? 1 : right < 0 ? -1 : 0;
-  if constexpr (kind == Kind::logarithm) return std::log(right);
-  if constexpr (kind == Kind::decimal_logarithm) return std::log10(right);
-  if constexpr (kind == Kind::exponential) return std::exp(right);
   if constexpr (kind == Kind::square_root) return std::sqrt(right);
   if constexpr (kind == Kind::reciprocal) return 1 / right;
-  if constexpr (kind == Kind::sine) return std::sin(right * kPi / 180);
-  if constexpr (kind == Kind::cosine) return std::cos(right * kPi / 180);
-  if constexpr (kind == Kind::tangent) return std::tan(right * kPi / 180);
   if constexpr (kind == Kind::other) {
     const Computed computed = ComputeOperator(left, right, op);
     return computed.failure == Failure::none ? computed.value : kNone;

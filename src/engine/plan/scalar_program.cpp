@@ -3,25 +3,22 @@
 #include <cmath>
 
 #include "engine/plan/operation_steps.h"
-#include "engine/plan/power_shortcuts.h"
 
 namespace zel {
 namespace {
 
 struct PlainSteps {
+  using Arithmetic = PlainArithmetic;
   static bool round(double& value, DecadeGuess&) {
     if (!std::isfinite(value)) return false;
     value = roundAny<PlainArithmetic>(value);
     return std::isfinite(value);
   }
-  template <Kind kind>
-  static double apply(double left, double right, char op, const DecadeGuess&) {
-    return compute<kind>(left, right, op);
-  }
 };
 
 #if ZEL_HAS_TARGETS
 struct FusedSteps {
+  using Arithmetic = FusedArithmetic;
   /// The rounding of a value that was not where it was guessed to be; not finite where it is none.
   [[gnu::noinline]] ZEL_TARGET_V3 static double roundElsewhere(double value, DecadeGuess& guess) {
     if (!std::isfinite(value)) return kNone;
@@ -35,15 +32,6 @@ struct FusedSteps {
     }
     value = roundElsewhere(value, guess);
     return std::isfinite(value);
-  }
-  template <Kind kind>
-  static ZEL_ALWAYS_INLINE double apply(double left, double right, char op,
-                                        const DecadeGuess& guess) {
-    if constexpr (hasShortcut(kind)) {
-      const DoubleDouble power = shortcut<kind>(left);
-      if (guess.holds(power.high) && !isDoubtful(power, guess.scale)) return power.high;
-    }
-    return compute<kind>(left, right, op);
   }
 };
 #endif
@@ -66,7 +54,7 @@ ZEL_ALWAYS_INLINE double ScalarProgram::run(ScalarProgram& program, double x, do
     const double left = operation.left == last ? value : values[operation.left];
     const double right = operation.right == last ? value : values[operation.right];
     value = withKind(operation.kind, [&]<Kind kind>() ZEL_INLINE_LAMBDA {
-      return Steps::template apply<kind>(left, right, operation.op, guess);
+      return compute<kind, typename Steps::Arithmetic>(left, right, operation.op);
     });
     if (!Steps::round(value, guess)) return kNone;
     last = operation.result;
