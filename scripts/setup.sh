@@ -5,10 +5,12 @@ set -euo pipefail
 
 declare -A groups=(
   [build]="cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-translations-l10n
-    libisal-dev pkg-config zlib1g-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev"
+    libgmock-dev libgtest-dev libisal-dev libmpfr-dev libcli11-dev nlohmann-json3-dev pkg-config
+    zlib1g-dev"
   [test]="acl appstream cups-daemon desktop-file-utils dpkg-dev fish g++-mingw-w64-x86-64-posix git
-    imagemagick libglib2.0-bin libxml2-utils libz-mingw-w64-dev lintian locales mandoc openbox poppler-utils python3
-    qpdf shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool xvfb zsh"
+    imagemagick libglib2.0-bin libxml2-utils libz-mingw-w64-dev lintian locales mandoc openbox
+    poppler-utils python3 qpdf shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool
+    xvfb zsh"
   [package]="dpkg-dev gzip"
   [chroot]="debootstrap"
   [pictures]="librsvg2-bin"

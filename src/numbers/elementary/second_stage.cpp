@@ -103,13 +103,6 @@ std::optional<Wide> exactPower(double x, double y) {
   return Wide({power}, Wide::kLimbBits + static_cast<int>(shift * y));
 }
 
-/// y ln(x), nearly.
-double roughExponent(double x, double y) {
-  int twos = 0;
-  const double fraction = std::frexp(x, &twos);
-  return y * (logarithmOf<PlainArithmetic>(fraction).high + twos * kLn2.high);
-}
-
 double powerOfZeroOrInfinity(double x, double y) {
   const double magnitude = (x == 0) == (y > 0) ? 0 : kInfinity;
   return std::signbit(x) && isOdd(y) ? -magnitude : magnitude;
@@ -137,7 +130,7 @@ double widePower(double x, double y) {
   constexpr double kFarOut = 800;
   constexpr double kAllButOne = 0x1p-64;
   const double magnitude = std::fabs(x);
-  const double exponent = roughExponent(magnitude, y);
+  const double exponent = y * roughLogarithm(magnitude);
   if (exponent > kFarOut) return kInfinity;
   if (exponent < -kFarOut) return 0;
   if (std::fabs(exponent) < kAllButOne) return 1;

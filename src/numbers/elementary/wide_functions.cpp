@@ -90,13 +90,15 @@ Wide wideExponential(const Wide& x) {
   return result.scaled(static_cast<int>(twos));
 }
 
+double roughLogarithm(double x) {
+  if (isPositiveNormal(x)) return logarithmOf<PlainArithmetic>(x).high;
+  return logarithmOf<PlainArithmetic>(x * 0x1p54).high - 54 * kLn2.high;
+}
+
 Wide wideLogarithm(double x) {
-  int exponent = 0;
-  const double fraction = std::frexp(x, &exponent);
-  const DoubleDouble part = logarithmOf<PlainArithmetic>(fraction);
   // Next to 1 the series alone loses nothing.
   const bool is_next_to_one = std::fabs(x - 1) < 0x1p-40;
-  const Wide near(is_next_to_one ? 0 : part.high + exponent * kLn2.high);
+  const Wide near(is_next_to_one ? 0 : roughLogarithm(x));
   const Wide excess = Wide(x) * wideExponential(-near) - Wide(1);
   return near + logarithmSeries(excess);
 }

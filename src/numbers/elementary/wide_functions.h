@@ -8,6 +8,8 @@ namespace zel {
 
 /// For |x| < 2^20.
 Wide wideExponential(const Wide& x);
+/// ln(x) to about 50 bits, for any positive finite value.
+double roughLogarithm(double x);
 /// For any positive finite value.
 Wide wideLogarithm(double x);
 /// The logarithm to the base 10, likewise.

@@ -1,0 +1,152 @@
+// The bounds of the first stage as docs/numbers.md derives them, beside MPFR, and the tables.
+
+#include <cmath>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "numbers/elementary/large_angles.h"
+#include "numbers/elementary/mpfr_oracle.h"
+
+namespace zel::test {
+namespace {
+
+constexpr int kArguments = 40'000;
+
+template <class Arithmetic>
+class FirstStage : public ::testing::Test {
+ protected:
+  double between(double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+  }
+  std::mt19937_64 random{12};
+};
+
+// The fused arithmetic gives the same here, slowly, where the processor has no instruction for it.
+using Arithmetics = ::testing::Types<PlainArithmetic, FusedArithmetic>;
+TYPED_TEST_SUITE(FirstStage, Arithmetics, );
+
+TYPED_TEST(FirstStage, KeepsTheBoundOfTheExponential) {
+  for (int i = 0; i < kArguments; ++i) {
+    const double x = i % 2 == 0 ? this->between(-10, 10) : this->between(-600, 600);
+    const ScaledExponential value = exponentialOf<TypeParam>(x, 0);
+    ASSERT_LE(relativeErrorByMpfr(Elementary::exponential, x,
+                                  {value.high * value.scale, value.low * value.scale}),
+              kExponentialError)
+        << x;
+  }
+}
+
+TYPED_TEST(FirstStage, KeepsTheBoundsOfTheLogarithms) {
+  for (int i = 0; i < kArguments; ++i) {
+    const double x = i % 3 == 0   ? this->between(0.98, 1.02)
+                     : i % 3 == 1 ? this->between(0, 100)
+                                  : std::exp(this->between(-700, 700));
+    ASSERT_LE(relativeErrorByMpfr(Elementary::natural_logarithm, x, logarithmOf<TypeParam>(x)),
+              kLogarithmError)
+        << x;
+    ASSERT_LE(relativeErrorByMpfr(Elementary::natural_logarithm, x, fineLogarithmOf<TypeParam>(x)),
+              kFineLogarithmError)
+        << x;
+  }
+}
+
+TYPED_TEST(FirstStage, KeepsTheBoundsOfSineAndTangent) {
+  for (int i = 0; i < kArguments; ++i) {
+    const double x = i % 3 == 0   ? this->between(-0.02, 0.02)
+                     : i % 3 == 1 ? this->between(-10, 10)
+                                  : this->between(-kLargestAngle, kLargestAngle);
+    const ReducedAngle angle = reduceAngle<TypeParam>(x);
+    const DoubleDouble sine = sineOf<TypeParam>(angle.steps, angle.rest);
+    ASSERT_LE(relativeErrorByMpfr(Elementary::sine, x, sine),
+              kSineError + angle.error / std::fabs(sine.high))
+        << x;
+    const DoubleDouble tangent = tangentOf<TypeParam>(angle.steps, angle.rest);
+    const double slope = 1 + tangent.high * tangent.high;
+    ASSERT_LE(relativeErrorByMpfr(Elementary::tangent, x, tangent),
+              kTangentError + 2 * angle.error * slope / std::fabs(tangent.high))
+        << x;
+  }
+}
+
+TYPED_TEST(FirstStage, KeepsItsBoundNearTheZerosOfTheSine) {
+  for (int i = 1; i < 4000; ++i) {
+    const double x = i * 3.14159265358979;
+    const ReducedAngle angle = reduceAngle<TypeParam>(x);
+    const DoubleDouble sine = sineOf<TypeParam>(angle.steps, angle.rest);
+    ASSERT_LE(relativeErrorByMpfr(Elementary::sine, x, sine),
+              kSineError + angle.error / std::fabs(sine.high))
+        << x;
+  }
+}
+
+TYPED_TEST(FirstStage, KeepsTheBoundOfTheSineAtLargeAngles) {
+  for (int i = 0; i < kArguments; ++i) {
+    const double x = std::ldexp(this->between(1, 2), i % 1024);
+    const ReducedAngle angle = reduceLargeAngle(x);
+    ASSERT_LE(relativeErrorByMpfr(Elementary::sine, x, sineOf<TypeParam>(angle.steps, angle.rest)),
+              kSineError)
+        << x;
+  }
+}
+
+TYPED_TEST(FirstStage, KeepsTheBoundOfTheArcTangent) {
+  for (int i = 0; i < kArguments; ++i) {
+    const double x = i % 3 == 0   ? this->between(0, 0.05)
+                     : i % 3 == 1 ? this->between(0, 10)
+                                  : std::exp(this->between(-30, 600));
+    ASSERT_LE(relativeErrorByMpfr(Elementary::arc_tangent, x, arcTangentOf<TypeParam>(x)),
+              kArcTangentError)
+        << x;
+  }
+}
+
+TEST(FirstStageInDoubt, IsRare) {
+  std::mt19937_64 random(3);
+  std::uniform_real_distribution<double> size(0.01, 10);
+  int doubts = 0;
+  for (int i = 0; i < kArguments; ++i) {
+    const double x = size(random);
+    for (const Candidate& candidate :
+         {sineCandidate<PlainArithmetic>(x), cosineCandidate<PlainArithmetic>(x),
+          tangentCandidate<PlainArithmetic>(x), arcTangentCandidate<PlainArithmetic>(x),
+          exponentialCandidate<PlainArithmetic>(x), naturalLogarithmCandidate<PlainArithmetic>(x),
+          decimalLogarithmCandidate<PlainArithmetic>(x), powerCandidate<PlainArithmetic>(x, 2.5)})
+      doubts += candidate.isSure() ? 0 : 1;
+  }
+  EXPECT_GT(doubts, 0);
+  EXPECT_LT(doubts, 8 * kArguments / 2000);
+}
+
+TEST(Tables, AreExactAtTheQuarters) {
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(kSineTable[2 * i * kStepsOfQuarter], i % 2 == 0 ? 0 : 2 - static_cast<double>(i));
+    EXPECT_EQ(kSineTable[2 * i * kStepsOfQuarter + 1], 0);
+  }
+}
+
+constexpr double kTableError = 0x1p-90;
+
+TEST(Tables, HoldTheirValuesToNinetyBits) {
+  for (std::size_t i = 0; i < kPowersOfTwo; ++i)
+    EXPECT_LE(relativeErrorOfPowerOfTwo(i, kPowersOfTwo,
+                                        {kPowersOfTwoTable[2 * i], kPowersOfTwoTable[2 * i + 1]}),
+              kTableError);
+  for (std::size_t i = 1; i < kStepsOfCircle; ++i)
+    if (i != kStepsOfCircle / 2) {
+      EXPECT_LE(relativeErrorOfSineOfSteps(i, kStepsOfCircle,
+                                           {kSineTable[2 * i], kSineTable[2 * i + 1]}),
+                kTableError);
+    }
+  for (std::size_t i = 1; i < kArcs; ++i)
+    EXPECT_LE(relativeErrorByMpfr(Elementary::arc_tangent, static_cast<double>(i) / 64,
+                                  {kArcTable[2 * i], kArcTable[2 * i + 1]}),
+              kTableError);
+  for (std::size_t j = 1; j < kLogarithms; ++j)
+    EXPECT_LE(relativeErrorByMpfr(Elementary::natural_logarithm, kLogarithmTable[3 * j],
+                                  {-kLogarithmTable[3 * j + 1], -kLogarithmTable[3 * j + 2]}),
+              kTableError);
+}
+
+}  // namespace
+}  // namespace zel::test

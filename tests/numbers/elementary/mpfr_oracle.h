@@ -1,0 +1,18 @@
+#pragma once
+
+#include "numbers/elementary/functions.h"
+
+namespace zel::test {
+
+/// What MPFR says is the nearest double, subnormals and overflow included.
+double nearestByMpfr(Elementary function, double x);
+double nearestPowerByMpfr(double x, double y);
+
+/// How far high + low is from the exact value, relative to it, in a precision of 400 bits.
+double relativeErrorByMpfr(Elementary function, double x, DoubleDouble value);
+
+/// The same for 2^(i/n) and for the sine of i steps of a circle of n.
+double relativeErrorOfPowerOfTwo(std::size_t i, std::size_t n, DoubleDouble value);
+double relativeErrorOfSineOfSteps(std::size_t i, std::size_t n, DoubleDouble value);
+
+}  // namespace zel::test
