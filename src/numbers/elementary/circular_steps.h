@@ -28,26 +28,20 @@ constexpr DoubleDouble alternatingSeries(DoubleDouble x, double n) {
   return n == 0 ? sum : multiply(x, sum);
 }
 
-/// The sines of i steps: high at 2i, low at 2i + 1.
-inline constexpr auto kSineTable = [] {
+/// The sines of i steps.
+inline constexpr auto kExactSines = [] {
   constexpr DoubleDouble kStep = {kPiInTwo.high / 256, kPiInTwo.low / 256};
   constexpr DoubleDouble kSine = alternatingSeries(kStep, 1);
   constexpr DoubleDouble kCosine = alternatingSeries(kStep, 0);
-  std::array<double, 2 * kStepsOfCircle> table{};
-  const auto put = [&table](std::size_t i, DoubleDouble sine) {
-    table[2 * (i % kStepsOfCircle)] = sine.high;
-    table[2 * (i % kStepsOfCircle) + 1] = sine.low;
-  };
+  std::array<DoubleDouble, kStepsOfCircle> table{};
   DoubleDouble sine = {0, 0};
   DoubleDouble cosine = {1, 0};
   for (std::size_t i = 0; i <= kStepsOfQuarter / 2; ++i) {
     for (const std::size_t j : {i, kStepsOfQuarter - i}) {
       const DoubleDouble value = j == i ? sine : cosine;
-      put(j, value);
-      put(2 * kStepsOfQuarter - j, value);
+      table[j] = table[2 * kStepsOfQuarter - j] = value;
       if (j == 0) continue;  // zero has no sign
-      put(2 * kStepsOfQuarter + j, -value);
-      put(kStepsOfCircle - j, -value);
+      table[2 * kStepsOfQuarter + j] = table[kStepsOfCircle - j] = -value;
     }
     const DoubleDouble next = multiply(sine, kCosine) + multiply(cosine, kSine);
     cosine = multiply(cosine, kCosine) - multiply(sine, kSine);
@@ -55,6 +49,38 @@ inline constexpr auto kSineTable = [] {
   }
   return table;
 }();
+
+/// A loop over lanes fetches each number for itself, so there should be few: the high parts of the
+/// sines, and in one word the upper halves, twenty good bits, of the low parts of sine and cosine.
+struct SineTable {
+  std::array<double, kStepsOfCircle> high{};
+  std::array<std::uint64_t, kStepsOfCircle> lows{};
+};
+
+inline constexpr auto kSineTable = [] {
+  SineTable table;
+  for (std::size_t i = 0; i < kStepsOfCircle; ++i) {
+    const DoubleDouble& cosine = kExactSines[(i + kStepsOfQuarter) % kStepsOfCircle];
+    table.high[i] = kExactSines[i].high;
+    table.lows[i] = (std::bit_cast<std::uint64_t>(kExactSines[i].low) & kUpperBits) |
+                    (std::bit_cast<std::uint64_t>(cosine.low) >> 32);
+  }
+  return table;
+}();
+
+struct SineCosine {
+  DoubleDouble sine;
+  DoubleDouble cosine;
+};
+
+/// Of so many steps.
+ZEL_ALWAYS_INLINE SineCosine sineCosineOf(std::size_t steps) {
+  const std::size_t i = steps % kStepsOfCircle;
+  const std::uint64_t lows = kSineTable.lows[i];
+  return {{kSineTable.high[i], std::bit_cast<double>(lows & kUpperBits)},
+          {kSineTable.high[(i + kStepsOfQuarter) % kStepsOfCircle],
+           std::bit_cast<double>(lows << 32)}};
+}
 
 /// An angle of so many steps, modulo a circle, and a rest.
 struct ReducedAngle {
@@ -81,16 +107,14 @@ ZEL_ALWAYS_INLINE ReducedAngle reduceAngle(double x) {
           std::fabs(steps) * 0x1p-124};
 }
 
-/// How far the sum of sineOf may be from the exact sine, relative to it, beside the error of the
+/// How far sineOfSum may be from the exact sine, relative to it, beside the error of the
 /// rest.
 inline constexpr double kSineError = 0x1.6p-66;
 
 template <class Arithmetic>
-ZEL_ALWAYS_INLINE DoubleDouble sineOf(std::size_t steps, DoubleDouble rest) {
-  const std::size_t i = 2 * (steps % kStepsOfCircle);
-  const std::size_t j = 2 * ((steps + kStepsOfQuarter) % kStepsOfCircle);
-  const double sine = kSineTable[i];
-  const double cosine = kSineTable[j];
+ZEL_ALWAYS_INLINE DoubleDouble sineOfSum(const SineCosine& start, DoubleDouble rest) {
+  const double sine = start.sine.high;
+  const double cosine = start.cosine.high;
   const double r = rest.high;
   const double square = r * r;
   const double beyond_one =
@@ -99,12 +123,17 @@ ZEL_ALWAYS_INLINE DoubleDouble sineOf(std::size_t steps, DoubleDouble rest) {
       r * square, polynomial<Arithmetic>(square, -1.0 / 6, 1.0 / 120, -1.0 / 5040), rest.low);
   const DoubleDouble product = exactProduct<Arithmetic>(cosine, r);
   const DoubleDouble sum = sumOfOrdered(sine, product.high);
-  const double tables = multiplyAdd<Arithmetic>(kSineTable[j + 1], r,
-                                                kSineTable[i + 1] + (product.low + sum.low));
+  const double tables = multiplyAdd<Arithmetic>(start.cosine.low, r,
+                                                start.sine.low + (product.low + sum.low));
   const double of_sine = multiplyAdd<Arithmetic>(-r, rest.low, beyond_one);
   const double low = multiplyAdd<Arithmetic>(
       sine, of_sine, multiplyAdd<Arithmetic>(cosine, beyond_r, tables));
   return {sum.high, low};
+}
+
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE DoubleDouble sineOf(std::size_t steps, DoubleDouble rest) {
+  return sineOfSum<Arithmetic>(sineCosineOf(steps), rest);
 }
 
 /// The sine of a reduced angle; its cosine is the sine a quarter further.
@@ -120,8 +149,9 @@ inline constexpr double kTangentError = 2.25 * kSineError;
 
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE DoubleDouble tangentOf(std::size_t steps, DoubleDouble rest) {
-  const DoubleDouble rough_sine = sineOf<Arithmetic>(steps, rest);
-  const DoubleDouble rough_cosine = sineOf<Arithmetic>(steps + kStepsOfQuarter, rest);
+  const SineCosine start = sineCosineOf(steps);
+  const DoubleDouble rough_sine = sineOfSum<Arithmetic>(start, rest);
+  const DoubleDouble rough_cosine = sineOfSum<Arithmetic>({start.cosine, -start.sine}, rest);
   const DoubleDouble sine = sumOfOrdered(rough_sine.high, rough_sine.low);
   const DoubleDouble cosine = sumOfOrdered(rough_cosine.high, rough_cosine.low);
   const double quotient = sine.high / cosine.high;

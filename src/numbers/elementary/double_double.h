@@ -57,14 +57,26 @@ ZEL_ALWAYS_INLINE double multiplyAdd(double a, double b, double c) {
     return a * b + c;
 }
 
-/// c0 + x (c1 + x (c2 + ...)).
+/// c0 + c1 x + c2 x^2 + ..., where x^2 is `square`: pair by pair, which is sooner done than one
+/// coefficient after the other.
 template <class Arithmetic>
-ZEL_ALWAYS_INLINE double polynomial(double, double c0) {
+ZEL_ALWAYS_INLINE double polynomialInPairs(double, double, double c0) {
   return c0;
 }
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE double polynomialInPairs(double x, double, double c0, double c1) {
+  return multiplyAdd<Arithmetic>(x, c1, c0);
+}
 template <class Arithmetic, class... Rest>
-ZEL_ALWAYS_INLINE double polynomial(double x, double c0, Rest... rest) {
-  return multiplyAdd<Arithmetic>(x, polynomial<Arithmetic>(x, rest...), c0);
+ZEL_ALWAYS_INLINE double polynomialInPairs(double x, double square, double c0, double c1,
+                                           double c2, Rest... rest) {
+  return multiplyAdd<Arithmetic>(square, polynomialInPairs<Arithmetic>(x, square, c2, rest...),
+                                 multiplyAdd<Arithmetic>(x, c1, c0));
+}
+
+template <class Arithmetic, class... Coefficients>
+ZEL_ALWAYS_INLINE double polynomial(double x, Coefficients... coefficients) {
+  return polynomialInPairs<Arithmetic>(x, x * x, coefficients...);
 }
 
 /// The two ends of what the nearest double to a value can be, as the first stage has it: it is
@@ -84,6 +96,9 @@ struct Candidate {
 ZEL_ALWAYS_INLINE Candidate rounded(double high, double low, double error) {
   return {high + (low - error), high + (low + error)};
 }
+
+/// The sign, the exponent and twenty more bits of a double.
+inline constexpr std::uint64_t kUpperBits = 0xFFFFFFFF00000000;
 
 /// A magnitude with a sign bit.
 ZEL_ALWAYS_INLINE double withSign(double magnitude, std::uint64_t sign) {

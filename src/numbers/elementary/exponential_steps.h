@@ -55,7 +55,8 @@ ZEL_ALWAYS_INLINE ScaledExponential exponentialOf(double high, double low) {
   const double steps = shifted - kWholeNumbers;
   const auto bits = std::bit_cast<std::uint64_t>(shifted);
   const std::size_t i = 2 * (bits % kPowersOfTwo);
-  const DoubleDouble rest = exactSum(high - steps * kStepHigh, low - steps * kStepLow);
+  // Where the second is the larger one it is so small that what is lost does not matter.
+  const DoubleDouble rest = sumOfOrdered(high - steps * kStepHigh, low - steps * kStepLow);
   const double r = rest.high;
   const double beyond_r =
       multiplyAdd<Arithmetic>(r * r,

@@ -16,8 +16,7 @@ inline constexpr DoubleDouble kDecimalPerNatural = {0x1.bcb7b1526e50ep-2, 0x1.95
 
 inline constexpr std::size_t kLogarithms = 128;
 
-/// Added and taken away again, it leaves whole multiples of 2^-42.
-inline constexpr double kLogarithmGrid = kWholeNumbers * 0x1p-42;
+/// The logarithm of 2 as a multiple of 2^-42, and what is beyond.
 inline constexpr double kLn2OnGrid = 0x1.62e42fefa3800p-1;
 inline constexpr double kLn2BeyondGrid = 0x1.ef35793c76730p-45;
 
@@ -31,21 +30,32 @@ constexpr DoubleDouble logarithmOfNextOver(double n) {
   return {2 * half.high, 2 * half.low};
 }
 
-/// The double nearest to 1 / (1 + j/128) at 3j, then minus its logarithm, as a multiple of 2^-42 and
-/// what is beyond.
+/// An inverse of 1 + j/128 to twenty bits, the upper half of `word`, and minus its logarithm as a
+/// multiple of 2^-32, which is the lower half, and what is beyond: few numbers, since a loop over
+/// lanes fetches each for itself.
+struct LogarithmTable {
+  std::array<std::uint64_t, kLogarithms> word{};
+  std::array<double, kLogarithms> beyond_grid{};
+};
+
 inline constexpr auto kLogarithmTable = [] {
-  std::array<double, 3 * kLogarithms> table{};
+  LogarithmTable table;
   DoubleDouble logarithm = {0, 0};
   for (std::size_t j = 0; j < kLogarithms; ++j) {
     const double n = static_cast<double>(kLogarithms + j);
-    const double inverse = kLogarithms / n;
-    const DoubleDouble one = multiplyExactly(inverse, n / kLogarithms);
-    const double excess = (one.high - 1) + one.low;  // of the rounded inverse
-    const DoubleDouble exact = logarithm - DoubleDouble{excess, 0};
-    const double on_grid = (exact.high + kLogarithmGrid) - kLogarithmGrid;
-    table[3 * j] = inverse;
-    table[3 * j + 1] = on_grid;
-    table[3 * j + 2] = (exact.high - on_grid) + exact.low;
+    const double inverse = std::bit_cast<double>(
+        std::bit_cast<std::uint64_t>(kLogarithms / n) & kUpperBits);
+    // ln(n/128) = -ln(inverse) + ln(1 + excess)
+    const double excess = inverse * (n / kLogarithms) - 1;  // exact
+    const DoubleDouble square = multiplyExactly(excess, excess);
+    const DoubleDouble of_excess =
+        DoubleDouble{excess, 0} - DoubleDouble{square.high / 2, square.low / 2} +
+        multiply(multiply(square, {excess, 0}), reciprocal({3, 0})) -
+        DoubleDouble{square.high * square.high / 4, 0};
+    const DoubleDouble exact = logarithm - of_excess;
+    const auto on_grid = static_cast<std::uint64_t>(exact.high * 0x1p32);
+    table.word[j] = std::bit_cast<std::uint64_t>(inverse) | on_grid;
+    table.beyond_grid[j] = (exact.high - static_cast<double>(on_grid) * 0x1p-32) + exact.low;
     logarithm = logarithm + logarithmOfNextOver(n);
   }
   return table;
@@ -58,27 +68,34 @@ struct ReducedLogarithm {
   DoubleDouble rest;
 };
 
+/// A whole number below 2^51, by way of its bits.
+ZEL_ALWAYS_INLINE double doubleOf(std::uint64_t whole) {
+  return std::bit_cast<double>(whole + std::bit_cast<std::uint64_t>(kWholeNumbers)) -
+         kWholeNumbers;
+}
+
 /// For a positive normal number.
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE ReducedLogarithm reduceLogarithm(double x) {
   constexpr std::uint64_t kOne = 0x3FF0000000000000;
   const auto bits = std::bit_cast<std::uint64_t>(x);
   const std::uint64_t to_nearest = bits + (std::uint64_t{1} << 44);
-  const std::size_t j = 3 * ((to_nearest >> 45) % kLogarithms);
+  const std::size_t j = (to_nearest >> 45) % kLogarithms;
   const std::uint64_t exponent = to_nearest >> 52;
   const double m = std::bit_cast<double>(bits - (exponent << 52) + kOne);
-  const double k =
-      std::bit_cast<double>(exponent + std::bit_cast<std::uint64_t>(kWholeNumbers)) -
-      (kWholeNumbers + 1023);
-  const DoubleDouble product = exactProduct<Arithmetic>(m, kLogarithmTable[j]);
-  return {k * kLn2OnGrid + kLogarithmTable[j + 1],
-          multiplyAdd<Arithmetic>(k, kLn2BeyondGrid, kLogarithmTable[j + 2]),
+  const double k = doubleOf(exponent) - 1023;
+  const std::uint64_t word = kLogarithmTable.word[j];
+  const double inverse = std::bit_cast<double>(word & kUpperBits);
+  const double on_grid = doubleOf(word & ~kUpperBits);
+  const DoubleDouble product = exactProduct<Arithmetic>(m, inverse);
+  return {multiplyAdd<Arithmetic>(k, kLn2OnGrid, on_grid * 0x1p-32),
+          multiplyAdd<Arithmetic>(k, kLn2BeyondGrid, kLogarithmTable.beyond_grid[j]),
           sumOfOrdered(product.high - 1, product.low)};
 }
 
 /// How far the sums below may be from the exact logarithm, relative to it.
 inline constexpr double kLogarithmError = 0x1.2p-68;
-inline constexpr double kFineLogarithmError = 0x1.2p-77;
+inline constexpr double kFineLogarithmError = 0x1p-75;
 
 /// ln(x) for a positive normal number.
 template <class Arithmetic>

@@ -40,18 +40,22 @@ Wide::Wide(double value) : is_negative_(std::signbit(value)) {
 Wide::Wide(const Limbs& limbs, int exponent) : limbs_(limbs), exponent_(exponent) { normalise(); }
 
 void Wide::normalise() {
-  const auto* const first = std::ranges::find_if(limbs_, [](std::uint64_t limb) { return limb != 0; });
-  if (first == limbs_.end()) {
-    *this = {};
-    return;
+  if (limbs_[0] >> (kLimbBits - 1) != 0) return;
+  for (std::size_t zeros = 1; limbs_[0] == 0; ++zeros) {
+    if (zeros == kLimbs) {
+      *this = {};
+      return;
+    }
+    std::shift_left(limbs_.begin(), limbs_.end(), 1);
+    limbs_.back() = 0;
+    exponent_ -= kLimbBits;
   }
-  const auto zeros = static_cast<std::size_t>(first - limbs_.begin());
-  const int part = std::countl_zero(*first);
-  for (std::size_t i = 0; i < kLimbs; ++i) {
-    const auto limb = [&](std::size_t j) -> std::uint64_t { return j < kLimbs ? limbs_[j] : 0; };
-    limbs_[i] = upper(joined(limb(i + zeros), limb(i + zeros + 1)) << part);
-  }
-  exponent_ -= static_cast<int>(zeros) * kLimbBits + part;
+  const int part = std::countl_zero(limbs_[0]);
+  if (part == 0) return;
+  for (std::size_t i = 0; i + 1 < kLimbs; ++i)
+    limbs_[i] = upper(joined(limbs_[i], limbs_[i + 1]) << part);
+  limbs_.back() <<= part;
+  exponent_ -= part;
 }
 
 double Wide::nearest() const {
@@ -98,16 +102,18 @@ Wide Wide::shiftedRight(int bits) const {
 }
 
 Wide Wide::withMagnitudesAdded(const Wide& smaller) const {
-  // One bit is kept free for the carry.
-  Wide sum = shiftedRight(1);
-  const Wide aligned = smaller.shiftedRight(sum.exponent_ - smaller.exponent_);
+  Wide sum = *this;
+  const Wide aligned = smaller.shiftedRight(exponent_ - smaller.exponent_);
   Uint128 carry = 0;
   for (std::size_t i = kLimbs; i-- > 0;) {
-    carry += Uint128{sum.limbs_[i]} + aligned.limbs_[i];
+    carry += Uint128{limbs_[i]} + aligned.limbs_[i];
     sum.limbs_[i] = lower(carry);
     carry >>= kLimbBits;
   }
-  sum.normalise();
+  if (carry != 0) {
+    sum = sum.shiftedRight(1);
+    sum.limbs_[0] |= std::uint64_t{1} << (kLimbBits - 1);
+  }
   return sum;
 }
 
@@ -133,10 +139,13 @@ Wide Wide::operator+(const Wide& other) const {
 
 Wide Wide::operator*(const Wide& other) const {
   if (isZero() || other.isZero()) return {};
-  std::array<std::uint64_t, 2 * kLimbs> product{};
+  // What lies wholly beyond the last limb is left out.
+  std::array<std::uint64_t, kLimbs + 1> product{};
+#pragma GCC unroll 4
   for (std::size_t i = kLimbs; i-- > 0;) {
     Uint128 carry = 0;
-    for (std::size_t j = kLimbs; j-- > 0;) {
+#pragma GCC unroll 4
+    for (std::size_t j = kLimbs - i; j-- > 0;) {
       carry += Uint128{limbs_[i]} * other.limbs_[j] + product[i + j + 1];
       product[i + j + 1] = lower(carry);
       carry >>= kLimbBits;

@@ -9,7 +9,7 @@ namespace zel {
 /// A binary floating-point number of 256 bits, for the few values that double-double arithmetic
 /// leaves in doubt: 0.limbs * 2^exponent with the first bit set, or zero. There is no infinity, and
 /// an exponent is never near the ends of int. The results of the operations below are cut off: they
-/// are within 2^-254 of the exact ones, relative to the larger operand.
+/// are within 2^-252 of the exact ones, relative to the larger operand.
 class Wide {
  public:
   static constexpr std::size_t kLimbs = 4;

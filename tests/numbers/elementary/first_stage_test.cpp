@@ -1,5 +1,6 @@
 // The bounds of the first stage as docs/numbers.md derives them, beside MPFR, and the tables.
 
+#include <bit>
 #include <cmath>
 #include <random>
 
@@ -120,32 +121,46 @@ TEST(FirstStageInDoubt, IsRare) {
 
 TEST(Tables, AreExactAtTheQuarters) {
   for (std::size_t i = 0; i < 4; ++i) {
-    EXPECT_EQ(kSineTable[2 * i * kStepsOfQuarter], i % 2 == 0 ? 0 : 2 - static_cast<double>(i));
-    EXPECT_EQ(kSineTable[2 * i * kStepsOfQuarter + 1], 0);
+    EXPECT_EQ(kExactSines[i * kStepsOfQuarter].high, i % 2 == 0 ? 0 : 2 - static_cast<double>(i));
+    EXPECT_EQ(kExactSines[i * kStepsOfQuarter].low, 0);
   }
 }
 
 constexpr double kTableError = 0x1p-90;
 
-TEST(Tables, HoldTheirValuesToNinetyBits) {
+TEST(Tables, HoldPowersOfTwoToNinetyBits) {
   for (std::size_t i = 0; i < kPowersOfTwo; ++i)
     EXPECT_LE(relativeErrorOfPowerOfTwo(i, kPowersOfTwo,
                                         {kPowersOfTwoTable[2 * i], kPowersOfTwoTable[2 * i + 1]}),
               kTableError);
-  for (std::size_t i = 1; i < kStepsOfCircle; ++i)
-    if (i != kStepsOfCircle / 2) {
-      EXPECT_LE(relativeErrorOfSineOfSteps(i, kStepsOfCircle,
-                                           {kSineTable[2 * i], kSineTable[2 * i + 1]}),
-                kTableError);
-    }
+}
+
+TEST(Tables, HoldArcTangentsToNinetyBits) {
   for (std::size_t i = 1; i < kArcs; ++i)
     EXPECT_LE(relativeErrorByMpfr(Elementary::arc_tangent, static_cast<double>(i) / 64,
                                   {kArcTable[2 * i], kArcTable[2 * i + 1]}),
               kTableError);
-  for (std::size_t j = 1; j < kLogarithms; ++j)
-    EXPECT_LE(relativeErrorByMpfr(Elementary::natural_logarithm, kLogarithmTable[3 * j],
-                                  {-kLogarithmTable[3 * j + 1], -kLogarithmTable[3 * j + 2]}),
-              kTableError);
+}
+
+TEST(Tables, HoldSinesToNinetyBitsAndTheirLowPartsToTwenty) {
+  for (std::size_t i = 1; i < kStepsOfCircle; ++i) {
+    if (i == kStepsOfCircle / 2) continue;
+    EXPECT_LE(relativeErrorOfSineOfSteps(i, kStepsOfCircle, kExactSines[i]), kTableError);
+    EXPECT_LE(relativeErrorOfSineOfSteps(i, kStepsOfCircle, sineCosineOf(i).sine), 0x1p-73);
+    const DoubleDouble cosine = sineCosineOf(i + 3 * kStepsOfQuarter).cosine;
+    EXPECT_LE(relativeErrorOfSineOfSteps(i, kStepsOfCircle, cosine), 0x1p-73);
+  }
+}
+
+TEST(Tables, HoldTheLogarithmsOfTheirInverses) {
+  for (std::size_t j = 1; j < kLogarithms; ++j) {
+    const double inverse = std::bit_cast<double>(kLogarithmTable.word[j] & kUpperBits);
+    const double on_grid = static_cast<double>(kLogarithmTable.word[j] & ~kUpperBits) * 0x1p-32;
+    EXPECT_LE(relativeErrorByMpfr(Elementary::natural_logarithm, inverse,
+                                  {-on_grid, -kLogarithmTable.beyond_grid[j]}),
+              0x1p-78);
+    EXPECT_NEAR(inverse * (1 + static_cast<double>(j) / kLogarithms), 1, 0x1p-20);
+  }
 }
 
 }  // namespace
