@@ -75,16 +75,16 @@ def sweep(measured, with_threads):
     worst = min(measured, key=lambda times: times[2] / times[1])
     return Measured([
         mean_line("sweeps of 1,920 samples, mean of twelve formulas", "muParser, bulk mode",
-                  measured, at_least(1)),
+                  measured, at_least(3.5)),
         rate_line(f"sweeps, the worst of them: `{worst[0]}`", "muParser, bulk mode", *worst[1:],
-                  at_least(0.5)),
+                  at_least(1.5)),
         mean_line("sweeps, mean again", "muParser, bulk mode, all processors", with_threads),
     ], formula_details(measured))
 
 
 def single(measured):
     return Measured([mean_line("one `Evaluate` at a time, mean", "muParser, one `Eval` at a time",
-                               measured, at_least(0.5))], formula_details(measured))
+                               measured, at_least(0.75))], formula_details(measured))
 
 
 def reference(swept, single_values):
@@ -92,6 +92,15 @@ def reference(swept, single_values):
         mean_line("sweeps, mean", "evaluation by number text", swept, at_least(50)),
         mean_line("one `Evaluate` at a time, mean", "evaluation by number text", single_values),
     ], formula_details(swept))
+
+
+def functions(single_values, swept):
+    return Measured([
+        *(rate_line(f"{name}, one value at a time", "C library", ours, theirs, at_least(0.5))
+          for name, ours, theirs in single_values),
+        *(rate_line(f"{name}, sweeps", "C library, one value at a time", ours, theirs, at_least(2))
+          for name, ours, theirs in swept),
+    ])
 
 
 def time_line(what, name, measured, beside, goal):

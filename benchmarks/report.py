@@ -18,6 +18,7 @@ ROWS = {
     "sweep": ("sweeps of 1,920 samples beside muParser's bulk mode", ["bench_rows"]),
     "single": ("one evaluation at a time beside muParser", ["bench_rows"]),
     "reference": ("both beside the evaluation by number text", ["bench_rows"]),
+    "functions": ("each elementary function beside the C library's", ["bench_rows"]),
     "painting": ("painting lines beside a QPainter", ["bench_rows"]),
     "redraw": ("a redraw of 26 graphs beside a frame, on two screens", ["bench_rows"]),
     "render": ("zel-cli render beside gnuplot", ["zel-cli"]),
@@ -75,6 +76,8 @@ def measure(row, programs):
         return lines.redraw(measured, processes.in_process(programs, row, threads=1, scale=2))
     if row == "reference":
         return lines.reference(measured, processes.in_process(programs, "single-reference"))
+    if row == "functions":
+        return lines.functions(measured, processes.in_process(programs, "function-sweeps"))
     return OTHER_LINES[row](measured)
 
 

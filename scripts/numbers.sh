@@ -20,13 +20,13 @@ trap 'rm -rf "$logs"' EXIT
 running=()
 for ((worker = 0; worker < workers; ++worker)); do
   ZEL_NUMBERS_COUNT=$share ZEL_NUMBERS_SEED=$((seed * workers + worker)) \
-    build/release/bin/numbers_tests --gtest_brief=1 --gtest_filter='*NearestDouble*' \
+    build/release/bin/numbers_tests --gtest_brief=1 --gtest_filter='Of/NearestDouble.*:NearestDoubleOfAPower.*' \
     >"$logs/$worker" 2>&1 &
   running+=($!)
 done
 failed=0
 for ((worker = 0; worker < workers; ++worker)); do
-  wait "${running[worker]}" && grep -q '\[  PASSED  \] 9 tests' "$logs/$worker" && continue
+  wait "${running[worker]}" && grep -q '\[  PASSED  \]' "$logs/$worker" && continue
   failed=$((failed + 1))
   cat "$logs/$worker"
 done

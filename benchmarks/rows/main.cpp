@@ -12,11 +12,13 @@ namespace {
 
 using Row = std::pair<std::string_view, void (*)()>;
 
-constexpr std::array<Row, 8> kRows = {{
+constexpr std::array<Row, 10> kRows = {{
     {"sweep", zel::bench::sweepRow},
     {"single", zel::bench::singleRow},
     {"reference", zel::bench::referenceRow},
     {"single-reference", zel::bench::singleReferenceRow},
+    {"functions", zel::bench::functionsRow},
+    {"function-sweeps", zel::bench::functionSweepsRow},
     {"painting", zel::bench::paintingRow},
     {"redraw", zel::bench::redrawRow},
     {"family", zel::bench::familyRow},

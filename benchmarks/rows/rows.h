@@ -11,6 +11,8 @@ void sweepRow();
 void singleRow();
 void referenceRow();
 void singleReferenceRow();
+void functionsRow();
+void functionSweepsRow();
 void paintingRow();
 void redrawRow();
 void familyRow();

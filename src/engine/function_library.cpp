@@ -11,6 +11,7 @@
 
 #include "base/language.h"
 #include "engine/compiler.h"
+#include "engine/gamma_steps.h"
 #include "numbers/elementary/elementary.h"
 #include "numbers/number_text.h"
 
@@ -126,23 +127,9 @@ std::string_view detail(Failure failure) {
 }  // namespace
 
 std::optional<double> LnGamma(double v) {
-  constexpr std::array<double, 6> kCoefficients = {76.1800917294715,    -86.5053203294168,
-                                                   24.0140982408309,    -1.23173957245015,
-                                                   0.00120865097386618, -5.395239384953E-06};
-  double tmp = v + 5.5;
-  if (!(tmp > 0)) return std::nullopt;
-  tmp -= (v + 0.5) * naturalLogarithm(tmp);
-  double ser = 1.00000000019001;
-  double y = v;
-  for (const double coefficient : kCoefficients) {
-    y += 1;
-    if (y == 0) return std::nullopt;
-    ser += coefficient / y;
-  }
-  if (v == 0) return std::nullopt;
-  const double argument = 2.506628274631 * ser / v;
-  if (!(argument > 0)) return std::nullopt;
-  const double result = naturalLogarithm(argument) - tmp;
+  const GammaSeries series = gammaSeries(v, naturalLogarithm);
+  if (!(series.argument > 0)) return std::nullopt;
+  const double result = naturalLogarithm(series.argument) - series.rest;
   if (!std::isfinite(result)) return std::nullopt;
   return result;
 }

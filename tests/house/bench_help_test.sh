@@ -5,7 +5,7 @@ root=$2
 command -v python3 >/dev/null || exit 77
 
 help=$("$root/bench" --help)
-for row in sweep single reference painting redraw render family open compile start micro; do
+for row in sweep single reference functions painting redraw render family open compile start micro; do
   grep -qw -- "$row" <<<"$help" || {
     echo "The help does not name $row:"
     echo "$help"

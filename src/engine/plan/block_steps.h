@@ -28,8 +28,10 @@ inline bool isError(const Operation& operation, double left, double right) {
   switch (operation.kind) {
     case Kind::logarithm:
     case Kind::decimal_logarithm:
-    case Kind::square_root: return true;
+    case Kind::square_root:
+    case Kind::cube_root: return true;
     case Kind::divide: return right == 0;
+    case Kind::factorial:
     case Kind::other: return ComputeOperator(left, right, operation.op).failure != Failure::fault;
     default: return false;
   }

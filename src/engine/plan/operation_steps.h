@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "engine/function_library.h"
+#include "engine/gamma_steps.h"
 #include "engine/plan/plan.h"
 #include "numbers/elementary/second_stage.h"
 
@@ -22,22 +23,27 @@ constexpr std::optional<Elementary> elementaryOf(Kind kind) {
     case Kind::sine: return Elementary::sine;
     case Kind::cosine: return Elementary::cosine;
     case Kind::tangent: return Elementary::tangent;
+    case Kind::arc_tangent: return Elementary::arc_tangent;
     default: return std::nullopt;
   }
 }
 
 /// Whether the value comes in two stages, of which the first one is nearly always sure.
 constexpr bool hasStages(Kind kind) {
-  return kind == Kind::power || kind == Kind::cube || elementaryOf(kind).has_value();
+  return kind == Kind::power || kind == Kind::cube || kind == Kind::cube_root ||
+         kind == Kind::factorial || elementaryOf(kind).has_value();
 }
 
-/// What the function is applied to: radians, of an operand in degrees.
+/// What the function is applied to: radians, of an operand in degrees. That of the arc tangent is
+/// scaled likewise.
 template <Kind kind>
 ZEL_ALWAYS_INLINE double argumentOf(double operand) {
-  constexpr bool kTakesDegrees =
-      kind == Kind::sine || kind == Kind::cosine || kind == Kind::tangent;
+  constexpr bool kTakesDegrees = kind == Kind::sine || kind == Kind::cosine ||
+                                 kind == Kind::tangent || kind == Kind::arc_tangent;
   return kTakesDegrees ? operand * kPi / 180 : operand;
 }
+
+inline constexpr double kThird = 1.0 / 3.0;
 
 template <Kind kind, class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate firstStageOf(double left, double right) {
@@ -45,6 +51,10 @@ ZEL_ALWAYS_INLINE Candidate firstStageOf(double left, double right) {
     return powerCandidate<Arithmetic>(left, right);
   else if constexpr (kind == Kind::cube)
     return cubeCandidate<Arithmetic>(left);
+  else if constexpr (kind == Kind::cube_root)
+    return powerCandidate<Arithmetic>(right, kThird);
+  else if constexpr (kind == Kind::factorial)
+    return factorialCandidate<Arithmetic>(left);
   else
     return firstStage<*elementaryOf(kind), Arithmetic>(argumentOf<kind>(right));
 }
@@ -52,10 +62,16 @@ ZEL_ALWAYS_INLINE Candidate firstStageOf(double left, double right) {
 template <Kind kind>
 double settledOf(double left, double right) {
   if (std::isnan(left) || std::isnan(right)) return kNone;
-  if constexpr (kind == Kind::power || kind == Kind::cube)
-    return settlePower(left, right);
-  else
-    return settle(*elementaryOf(kind), argumentOf<kind>(right));
+  if constexpr (kind == Kind::power || kind == Kind::cube) return settlePower(left, right);
+  if constexpr (kind == Kind::cube_root) return settlePower(right, kThird);
+  if constexpr (kind == Kind::factorial) {
+    const Computed computed = ComputeOperator(left, right, '#');
+    return computed.failure == Failure::none ? computed.value : kNone;
+  }
+  if constexpr (elementaryOf(kind).has_value()) {
+    const double argument = argumentOf<kind>(right);
+    return std::isfinite(argument) ? settle(*elementaryOf(kind), argument) : kNone;
+  }
 }
 
 /// What ComputeOperator gives for an operation of this kind, before the rounding; something that is
@@ -103,10 +119,13 @@ ZEL_ALWAYS_INLINE auto withKind(Kind kind, const Visit& visit) {
     ZEL_CASE(decimal_logarithm);
     ZEL_CASE(exponential);
     ZEL_CASE(square_root);
+    ZEL_CASE(cube_root);
     ZEL_CASE(reciprocal);
     ZEL_CASE(sine);
     ZEL_CASE(cosine);
     ZEL_CASE(tangent);
+    ZEL_CASE(arc_tangent);
+    ZEL_CASE(factorial);
     default: return visit.template operator()<other>();
   }
 #undef ZEL_CASE

@@ -41,10 +41,13 @@ enum class Kind : std::uint8_t {
   decimal_logarithm,
   exponential,
   square_root,
+  cube_root,
   reciprocal,
   sine,
   cosine,
   tangent,
+  arc_tangent,
+  factorial,
 };
 
 struct Operation {

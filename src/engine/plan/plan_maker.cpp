@@ -25,11 +25,14 @@ Kind kindOfPrefixFunction(double function) {
     case 6: return Kind::exponential;
     case 7:
     case 15: return Kind::square_root;
+    case 8:
+    case 17: return Kind::cube_root;
     case 9: return Kind::reciprocal;
     case 10:
     case 14: return Kind::sine;
     case 11: return Kind::cosine;
     case 12: return Kind::tangent;
+    case 13: return Kind::arc_tangent;
     default: return Kind::other;
   }
 }
@@ -42,6 +45,7 @@ Kind kindOf(char op, std::optional<double> left, std::optional<double> right) {
     case '/': return Kind::divide;
     case '^': return right == 2 ? Kind::square : right == 3 ? Kind::cube : Kind::power;
     case '@': return left ? kindOfPrefixFunction(*left) : Kind::other;
+    case '#': return right == 0 ? Kind::factorial : Kind::other;
     default: return Kind::other;
   }
 }
