@@ -127,7 +127,7 @@ std::string_view detail(Failure failure) {
 }  // namespace
 
 std::optional<double> LnGamma(double v) {
-  const GammaSeries series = gammaSeries(v, naturalLogarithm);
+  const GammaSeries series = gammaSeries(v, naturalLogarithm(v + 5.5));
   if (!(series.argument > 0)) return std::nullopt;
   const double result = naturalLogarithm(series.argument) - series.rest;
   if (!std::isfinite(result)) return std::nullopt;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "engine/function_library.h"
 #include "numbers/elementary/logarithm_steps.h"
 #include "numbers/elementary/power_steps.h"
@@ -15,36 +13,34 @@ struct GammaSeries {
   double rest;
 };
 
-/// `logarithm` is called once, with v + 5.5. Where v is a pole, the argument is not finite.
-template <class Logarithm>
-ZEL_ALWAYS_INLINE GammaSeries gammaSeries(double v, const Logarithm& logarithm) {
-  constexpr std::array<double, 6> kCoefficients = {76.1800917294715,    -86.5053203294168,
-                                                   24.0140982408309,    -1.23173957245015,
-                                                   0.00120865097386618, -5.395239384953E-06};
-  double ser = 1.00000000019001;
+/// `logarithm` is that of v + 5.5. Where v is a pole, the argument is not finite.
+ZEL_ALWAYS_INLINE GammaSeries gammaSeries(double v, double logarithm) {
   double y = v;
-  for (const double coefficient : kCoefficients) {
-    y += 1;
-    ser += coefficient / y;
-  }
-  const double tmp = v + 5.5;
-  return {2.506628274631 * ser / v, tmp - (v + 0.5) * logarithm(tmp)};
+  double ser = 1.00000000019001;
+  // Not a loop: it would keep the loop over the lanes from becoming vectors.
+  ser += 76.1800917294715 / (y += 1);
+  ser += -86.5053203294168 / (y += 1);
+  ser += 24.0140982408309 / (y += 1);
+  ser += -1.23173957245015 / (y += 1);
+  ser += 0.00120865097386618 / (y += 1);
+  ser += -5.395239384953E-06 / (y += 1);
+  return {2.506628274631 * ser / v, v + 5.5 - (v + 0.5) * logarithm};
 }
 
 /// The factorial of a number that is not whole, e^LnGamma(v + 1) as the function library has it; in
 /// doubt for all other numbers, and where one of its steps is.
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate factorialCandidate(double v) {
-  bool is_sure = (v > 0) & (v <= kLargestFactorial) &
-                 ((v + kWholeNumbers) - kWholeNumbers != v);
-  const auto logarithm = [&is_sure](double x) ZEL_INLINE_LAMBDA {
-    const Candidate candidate = naturalLogarithmCandidate<Arithmetic>(x);
-    is_sure = is_sure & candidate.isSure();
-    return candidate.value;
-  };
-  const GammaSeries series = gammaSeries(v + 1, logarithm);
-  const double exponent = logarithm(series.argument) - series.rest;
-  return powerCandidate<Arithmetic>(kEuler, exponent).sureOnlyIf(is_sure);
+  const Candidate first = naturalLogarithmCandidate<Arithmetic>(v + 1 + 5.5);
+  const GammaSeries series = gammaSeries(v + 1, first.value);
+  const Candidate second = naturalLogarithmCandidate<Arithmetic>(series.argument);
+  const double whole = (v + kWholeNumbers) - kWholeNumbers;
+  return powerCandidate<Arithmetic>(kEuler, second.value - series.rest)
+      .sureOnlyIf(first.isSure())
+      .sureOnlyIf(second.isSure())
+      .sureOnlyIf(v != whole)
+      .sureOnlyIf(v > 0)
+      .sureOnlyIf(v <= kLargestFactorial);
 }
 
 }  // namespace zel

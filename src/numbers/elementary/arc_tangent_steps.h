@@ -35,7 +35,7 @@ inline constexpr auto kArcTable = [] {
 }();
 
 /// How far the sum may be from the exact arc tangent, relative to it.
-inline constexpr double kArcTangentError = 0x1p-66;
+inline constexpr double kArcTangentError = 0x1.6p-66;
 /// Beyond, an inverse is too small for exact products.
 inline constexpr double kLargestTangent = 0x1p900;
 

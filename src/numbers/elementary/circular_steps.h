@@ -109,7 +109,7 @@ ZEL_ALWAYS_INLINE ReducedAngle reduceAngle(double x) {
 
 /// How far sineOfSum may be from the exact sine, relative to it, beside the error of the
 /// rest.
-inline constexpr double kSineError = 0x1.6p-66;
+inline constexpr double kSineError = 0x1p-65;
 
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE DoubleDouble sineOfSum(const SineCosine& start, DoubleDouble rest) {
