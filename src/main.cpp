@@ -5,6 +5,7 @@
 
 #include "app/installation.h"
 #include "app/program.h"
+#include "files/absolute_path.h"
 #include "forms/application.h"
 #include "forms/forms.h"
 #include "platform/command_line.h"
@@ -18,7 +19,7 @@ namespace {
 std::string settle(const std::string& program_folder, std::string document) {
   if (!zel::isInstalledProgram(program_folder)) return document;
   std::erase(document, '"');
-  const std::string path = zel::fromCurrentFolder(document);
+  const std::string path = zel::absolutePath(document);
   zel::enterFolder(zel::userFolder());
   return path;
 }

@@ -94,15 +94,17 @@ void functionSweepsRow() {
   const InstructionSet set = bestInstructionSet();
   for (const FunctionRow& row : kFunctionRows) {
     const std::vector<double> xs = arguments(row.low, row.high);
-    hold("function-sweeps", row.name,
-         [&](std::vector<double>& values) { test::sweep(set, row.function, xs, values); },
-         oneByOne(row.library, xs));
+    hold(
+        "function-sweeps", row.name,
+        [&](std::vector<double>& values) { test::sweep(set, row.function, xs, values); },
+        oneByOne(row.library, xs));
   }
   const std::vector<double> xs = arguments(0, 10);
   const std::vector<double> ys(kArguments, kExponent);
-  hold("function-sweeps", "power",
-       [&](std::vector<double>& values) { test::sweepPower(set, xs, ys, values); },
-       powersOneByOne(kLibraryPower, xs));
+  hold(
+      "function-sweeps", "power",
+      [&](std::vector<double>& values) { test::sweepPower(set, xs, ys, values); },
+      powersOneByOne(kLibraryPower, xs));
 }
 
 }  // namespace zel::bench

@@ -10,11 +10,6 @@ namespace fs = std::filesystem;
 
 fs::path pathOf(const std::string& text) { return {std::u8string(text.begin(), text.end())}; }
 
-std::string textOf(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
 }  // namespace
 
 bool isInstalledProgram(const std::string& program_folder) {
@@ -30,13 +25,6 @@ bool enterFolder(const std::string& folder) {
   if (error) return false;
   fs::current_path(pathOf(folder), error);
   return !error;
-}
-
-std::string fromCurrentFolder(const std::string& path) {
-  if (path.empty()) return {};
-  std::error_code error;
-  const fs::path absolute = fs::absolute(pathOf(path), error);
-  return error ? path : textOf(absolute);
 }
 
 }  // namespace zel

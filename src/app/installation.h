@@ -17,8 +17,4 @@ bool isInstalledProgram(const std::string& program_folder);
 /// then the current folder stays as it was.
 bool enterFolder(const std::string& folder);
 
-/// The path as it reads from any current folder: a relative one is taken from the current one of
-/// now. An empty path stays empty.
-std::string fromCurrentFolder(const std::string& path);
-
 }  // namespace zel

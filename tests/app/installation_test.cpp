@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "files/absolute_path.h"
 #include "support/temporary_folder.h"
 
 namespace zel::test {
@@ -60,13 +61,13 @@ TEST_F(Installation, StaysWhereItIsWhenAFolderCannotBeMade) {
 
 TEST_F(Installation, TakesARelativePathFromWhereItWasSaid) {
   putBytes(folder_ / "año.zel", "text");
-  const std::string path = fromCurrentFolder("año.zel");
+  const std::string path = absolutePath("año.zel");
   ASSERT_TRUE(enterFolder(bin));
   EXPECT_EQ(bytesOf(path), "text");
-  EXPECT_EQ(fromCurrentFolder(path), path);
+  EXPECT_EQ(absolutePath(path), path);
 }
 
-TEST_F(Installation, KeepsAnEmptyPathEmpty) { EXPECT_EQ(fromCurrentFolder(""), ""); }
+TEST_F(Installation, KeepsAnEmptyPathEmpty) { EXPECT_EQ(absolutePath(""), ""); }
 
 }  // namespace
 }  // namespace zel::test

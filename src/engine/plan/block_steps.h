@@ -44,9 +44,8 @@ ZEL_ALWAYS_INLINE void computeChunk(const double* left, const double* right,
   if constexpr (hasStages(kind)) {
     computeLanes<kLanes>(
         result,
-        [&](std::size_t i) ZEL_INLINE_LAMBDA {
-          return firstStageOf<kind, Arithmetic>(left[i], right[i]);
-        },
+        [&](std::size_t i)
+            ZEL_INLINE_LAMBDA { return firstStageOf<kind, Arithmetic>(left[i], right[i]); },
         [&](std::size_t i) ZEL_INLINE_LAMBDA { return settledOf<kind>(left[i], right[i]); });
   } else {
     // These would make a number of what is none.

@@ -56,8 +56,8 @@ ZEL_ALWAYS_INLINE DoubleDouble arcTangentOf(double magnitude) {
   const DoubleDouble below = sumOfOrdered(divisor, added.high);
   const double quotient = above / below.high;
   const DoubleDouble back = exactProduct<Arithmetic>(quotient, below.high);
-  const double remainder = multiplyAdd<Arithmetic>(
-      -quotient, below.low + added.low, (above - back.high) - back.low - taken.low);
+  const double remainder = multiplyAdd<Arithmetic>(-quotient, below.low + added.low,
+                                                   (above - back.high) - back.low - taken.low);
   const double square = quotient * quotient;
   const double beyond = multiplyAdd<Arithmetic>(
       quotient * square, polynomial<Arithmetic>(square, -1.0 / 3, 1.0 / 5, -1.0 / 7, 1.0 / 9),

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "numbers/rounding_steps.h"
 #include "numbers/elementary/double_double.h"
+#include "numbers/rounding_steps.h"
 
 /// The first stage of sine, cosine and tangent: the angle is a whole number of steps of pi/256 and
 /// a rest of at most half a step. The sine and cosine of the steps come from a table, those of the
@@ -77,9 +77,9 @@ struct SineCosine {
 ZEL_ALWAYS_INLINE SineCosine sineCosineOf(std::size_t steps) {
   const std::size_t i = steps % kStepsOfCircle;
   const std::uint64_t lows = kSineTable.lows[i];
-  return {{kSineTable.high[i], std::bit_cast<double>(lows & kUpperBits)},
-          {kSineTable.high[(i + kStepsOfQuarter) % kStepsOfCircle],
-           std::bit_cast<double>(lows << 32)}};
+  return {
+      {kSineTable.high[i], std::bit_cast<double>(lows & kUpperBits)},
+      {kSineTable.high[(i + kStepsOfQuarter) % kStepsOfCircle], std::bit_cast<double>(lows << 32)}};
 }
 
 /// An angle of so many steps, modulo a circle, and a rest.
@@ -117,17 +117,16 @@ ZEL_ALWAYS_INLINE DoubleDouble sineOfSum(const SineCosine& start, DoubleDouble r
   const double cosine = start.cosine.high;
   const double r = rest.high;
   const double square = r * r;
-  const double beyond_one =
-      square * polynomial<Arithmetic>(square, -1.0 / 2, 1.0 / 24, -1.0 / 720);
+  const double beyond_one = square * polynomial<Arithmetic>(square, -1.0 / 2, 1.0 / 24, -1.0 / 720);
   const double beyond_r = multiplyAdd<Arithmetic>(
       r * square, polynomial<Arithmetic>(square, -1.0 / 6, 1.0 / 120, -1.0 / 5040), rest.low);
   const DoubleDouble product = exactProduct<Arithmetic>(cosine, r);
   const DoubleDouble sum = sumOfOrdered(sine, product.high);
-  const double tables = multiplyAdd<Arithmetic>(start.cosine.low, r,
-                                                start.sine.low + (product.low + sum.low));
+  const double tables =
+      multiplyAdd<Arithmetic>(start.cosine.low, r, start.sine.low + (product.low + sum.low));
   const double of_sine = multiplyAdd<Arithmetic>(-r, rest.low, beyond_one);
-  const double low = multiplyAdd<Arithmetic>(
-      sine, of_sine, multiplyAdd<Arithmetic>(cosine, beyond_r, tables));
+  const double low =
+      multiplyAdd<Arithmetic>(sine, of_sine, multiplyAdd<Arithmetic>(cosine, beyond_r, tables));
   return {sum.high, low};
 }
 
@@ -156,8 +155,8 @@ ZEL_ALWAYS_INLINE DoubleDouble tangentOf(std::size_t steps, DoubleDouble rest) {
   const DoubleDouble cosine = sumOfOrdered(rough_cosine.high, rough_cosine.low);
   const double quotient = sine.high / cosine.high;
   const DoubleDouble back = exactProduct<Arithmetic>(quotient, cosine.high);
-  const double remainder = multiplyAdd<Arithmetic>(
-      -quotient, cosine.low, (sine.high - back.high) - back.low + sine.low);
+  const double remainder =
+      multiplyAdd<Arithmetic>(-quotient, cosine.low, (sine.high - back.high) - back.low + sine.low);
   return {quotient, remainder / cosine.high};
 }
 
@@ -166,9 +165,9 @@ template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate tangentCandidateOf(const ReducedAngle& angle) {
   const DoubleDouble tangent = tangentOf<Arithmetic>(angle.steps, angle.rest);
   const double slope = multiplyAdd<Arithmetic>(tangent.high, tangent.high, 1);
-  return rounded(tangent.high, tangent.low,
-                 multiplyAdd<Arithmetic>(std::fabs(tangent.high), kTangentError,
-                                         2 * angle.error * slope));
+  return rounded(
+      tangent.high, tangent.low,
+      multiplyAdd<Arithmetic>(std::fabs(tangent.high), kTangentError, 2 * angle.error * slope));
 }
 
 ZEL_ALWAYS_INLINE bool isModerateAngle(double x) { return std::fabs(x) <= kLargestAngle; }

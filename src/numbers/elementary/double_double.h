@@ -68,8 +68,8 @@ ZEL_ALWAYS_INLINE double polynomialInPairs(double x, double, double c0, double c
   return multiplyAdd<Arithmetic>(x, c1, c0);
 }
 template <class Arithmetic, class... Rest>
-ZEL_ALWAYS_INLINE double polynomialInPairs(double x, double square, double c0, double c1,
-                                           double c2, Rest... rest) {
+ZEL_ALWAYS_INLINE double polynomialInPairs(double x, double square, double c0, double c1, double c2,
+                                           Rest... rest) {
   return multiplyAdd<Arithmetic>(square, polynomialInPairs<Arithmetic>(x, square, c2, rest...),
                                  multiplyAdd<Arithmetic>(x, c1, c0));
 }

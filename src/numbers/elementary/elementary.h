@@ -1,8 +1,8 @@
 #pragma once
 
 /// The elementary functions, each the double nearest to the exact value (half to even): the same
-/// bits on every machine. Special values are those of the C library: NaN where there is no value, an
-/// infinity at a pole and beyond the largest number, 0 or a subnormal below the smallest.
+/// bits on every machine. Special values are those of the C library: NaN where there is no value,
+/// an infinity at a pole and beyond the largest number, 0 or a subnormal below the smallest.
 /// docs/numbers.md tells how they are computed and why they are right; functions.h has the first
 /// stage for loops.
 namespace zel {

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "numbers/rounding_steps.h"
 #include "numbers/elementary/double_double.h"
+#include "numbers/rounding_steps.h"
 
 /// The first stage of e^x, which power takes too: x is a whole number of steps of ln(2)/128 and a
 /// rest of at most half a step; 2^(i/128) comes from a table and the rest goes into a polynomial
@@ -58,11 +58,9 @@ ZEL_ALWAYS_INLINE ScaledExponential exponentialOf(double high, double low) {
   // Where the second is the larger one it is so small that what is lost does not matter.
   const DoubleDouble rest = sumOfOrdered(high - steps * kStepHigh, low - steps * kStepLow);
   const double r = rest.high;
-  const double beyond_r =
-      multiplyAdd<Arithmetic>(r * r,
-                              polynomial<Arithmetic>(r, 1.0 / 2, 1.0 / 6, 1.0 / 24, 1.0 / 120,
-                                                     1.0 / 720),
-                              multiplyAdd<Arithmetic>(rest.low, r, rest.low));
+  const double beyond_r = multiplyAdd<Arithmetic>(
+      r * r, polynomial<Arithmetic>(r, 1.0 / 2, 1.0 / 6, 1.0 / 24, 1.0 / 120, 1.0 / 720),
+      multiplyAdd<Arithmetic>(rest.low, r, rest.low));
   const double power = kPowersOfTwoTable[i];
   const DoubleDouble product = exactProduct<Arithmetic>(power, r);
   const DoubleDouble sum = sumOfOrdered(power, product.high);

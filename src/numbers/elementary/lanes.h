@@ -8,9 +8,9 @@
 
 namespace zel {
 
-/// A function on many lanes: `first(i)` is the Candidate of lane i, and `settled(i)` its value where
-/// the candidate leaves it in doubt. The loop over the first stage has no branch, so that it is
-/// compiled to vectors; the lanes in doubt, one in some thousands, are settled one by one.
+/// A function on many lanes: `first(i)` is the Candidate of lane i, and `settled(i)` its value
+/// where the candidate leaves it in doubt. The loop over the first stage has no branch, so that it
+/// is compiled to vectors; the lanes in doubt, one in some thousands, are settled one by one.
 template <std::size_t count, class First, class Settled>
 ZEL_ALWAYS_INLINE void computeLanes(double* __restrict result, const First& first,
                                     const Settled& settled) {

@@ -43,15 +43,15 @@ inline constexpr auto kLogarithmTable = [] {
   DoubleDouble logarithm = {0, 0};
   for (std::size_t j = 0; j < kLogarithms; ++j) {
     const double n = static_cast<double>(kLogarithms + j);
-    const double inverse = std::bit_cast<double>(
-        std::bit_cast<std::uint64_t>(kLogarithms / n) & kUpperBits);
+    const double inverse =
+        std::bit_cast<double>(std::bit_cast<std::uint64_t>(kLogarithms / n) & kUpperBits);
     // ln(n/128) = -ln(inverse) + ln(1 + excess)
     const double excess = inverse * (n / kLogarithms) - 1;  // exact
     const DoubleDouble square = multiplyExactly(excess, excess);
-    const DoubleDouble of_excess =
-        DoubleDouble{excess, 0} - DoubleDouble{square.high / 2, square.low / 2} +
-        multiply(multiply(square, {excess, 0}), reciprocal({3, 0})) -
-        DoubleDouble{square.high * square.high / 4, 0};
+    const DoubleDouble of_excess = DoubleDouble{excess, 0} -
+                                   DoubleDouble{square.high / 2, square.low / 2} +
+                                   multiply(multiply(square, {excess, 0}), reciprocal({3, 0})) -
+                                   DoubleDouble{square.high * square.high / 4, 0};
     const DoubleDouble exact = logarithm - of_excess;
     const auto on_grid = static_cast<std::uint64_t>(exact.high * 0x1p32);
     table.word[j] = std::bit_cast<std::uint64_t>(inverse) | on_grid;
@@ -70,8 +70,7 @@ struct ReducedLogarithm {
 
 /// A whole number below 2^51, by way of its bits.
 ZEL_ALWAYS_INLINE double doubleOf(std::uint64_t whole) {
-  return std::bit_cast<double>(whole + std::bit_cast<std::uint64_t>(kWholeNumbers)) -
-         kWholeNumbers;
+  return std::bit_cast<double>(whole + std::bit_cast<std::uint64_t>(kWholeNumbers)) - kWholeNumbers;
 }
 
 /// For a positive normal number.
@@ -104,8 +103,7 @@ ZEL_ALWAYS_INLINE DoubleDouble logarithmOf(double x) {
   const double r = reduced.rest.high;
   const DoubleDouble square = exactProduct<Arithmetic>(r, r);
   const double beyond_square =
-      polynomial<Arithmetic>(
-      r, 1.0 / 3, -1.0 / 4, 1.0 / 5, -1.0 / 6, 1.0 / 7, -1.0 / 8, 1.0 / 9);
+      polynomial<Arithmetic>(r, 1.0 / 3, -1.0 / 4, 1.0 / 5, -1.0 / 6, 1.0 / 7, -1.0 / 8, 1.0 / 9);
   const DoubleDouble first = sumOfOrdered(reduced.on_grid, r);
   const DoubleDouble second = sumOfOrdered(first.high, -0.5 * square.high);
   const double small = reduced.beyond_grid + (first.low + second.low) +
@@ -127,15 +125,14 @@ ZEL_ALWAYS_INLINE DoubleDouble fineLogarithmOf(double x) {
   const DoubleDouble factor = sumOfOrdered(1.0 / 3, beyond_cube);
   const DoubleDouble cube = exactProduct<Arithmetic>(r, square.high);
   const DoubleDouble third = exactProduct<Arithmetic>(cube.high, factor.high);
-  const double third_low =
-      third.low + cube.high * (factor.low + kThirdLow) +
-      multiplyAdd<Arithmetic>(r, square.low, cube.low) * factor.high;
+  const double third_low = third.low + cube.high * (factor.low + kThirdLow) +
+                           multiplyAdd<Arithmetic>(r, square.low, cube.low) * factor.high;
   const DoubleDouble first = sumOfOrdered(reduced.on_grid, r);
   const DoubleDouble second = sumOfOrdered(first.high, -0.5 * square.high);
   const DoubleDouble last = sumOfOrdered(second.high, third.high);
   const double small = reduced.beyond_grid + (first.low + second.low) +
-                       multiplyAdd<Arithmetic>(r_low, square.high - r, r_low) -
-                       0.5 * square.low + third_low;
+                       multiplyAdd<Arithmetic>(r_low, square.high - r, r_low) - 0.5 * square.low +
+                       third_low;
   return sumOfOrdered(last.high, last.low + small);
 }
 

@@ -17,16 +17,15 @@ ZEL_ALWAYS_INLINE Candidate powerCandidate(double x, double y) {
   const double low = multiplyAdd<Arithmetic>(y, logarithm.low, product.low);
   const ScaledExponential result = exponentialOf<Arithmetic>(product.high, low);
   const double magnitude = std::fabs(product.high);
-  const Candidate candidate =
-      rounded(result.high, result.low,
-              result.high *
-                  multiplyAdd<Arithmetic>(magnitude, kFineLogarithmError, kExponentialError));
+  const Candidate candidate = rounded(
+      result.high, result.low,
+      result.high * multiplyAdd<Arithmetic>(magnitude, kFineLogarithmError, kExponentialError));
   const double shifted = y + kWholeNumbers;
   const bool is_whole = (shifted - kWholeNumbers == y) & (std::fabs(y) < 0x1p51);
   const auto shifted_bits = std::bit_cast<std::uint64_t>(shifted);
   const std::uint64_t sign = std::bit_cast<std::uint64_t>(x) & (shifted_bits << 63) & kSign;
-  const bool is_in_range = (magnitude <= kLargestExponent) & isPositiveNormal(base) &
-                           ((x > 0) | is_whole);
+  const bool is_in_range =
+      (magnitude <= kLargestExponent) & isPositiveNormal(base) & ((x > 0) | is_whole);
   return Candidate{withSign(candidate.value * result.scale, sign),
                    withSign(candidate.other * result.scale, sign)}
       .sureOnlyIf(is_in_range);

@@ -117,8 +117,7 @@ double powerToInfinity(double x, double y) {
 
 double wideValue(Elementary function, double x) {
   switch (function) {
-    case Elementary::arc_tangent:
-      return std::copysign(wideArcTangent(std::fabs(x)).nearest(), x);
+    case Elementary::arc_tangent: return std::copysign(wideArcTangent(std::fabs(x)).nearest(), x);
     case Elementary::exponential: return wideExponential(Wide(x)).nearest();
     case Elementary::natural_logarithm: return wideLogarithm(x).nearest();
     case Elementary::decimal_logarithm: return wideDecimalLogarithm(x).nearest();

@@ -33,8 +33,8 @@ Wide::Limbs moved(const Wide::Limbs& limbs, int bits) {
 }  // namespace
 
 Wide::Wide(double value) : is_negative_(std::signbit(value)) {
-  limbs_[0] = static_cast<std::uint64_t>(
-      std::ldexp(std::frexp(std::fabs(value), &exponent_), kLimbBits));
+  limbs_[0] =
+      static_cast<std::uint64_t>(std::ldexp(std::frexp(std::fabs(value), &exponent_), kLimbBits));
 }
 
 Wide::Wide(const Limbs& limbs, int exponent) : limbs_(limbs), exponent_(exponent) { normalise(); }

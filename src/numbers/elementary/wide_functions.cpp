@@ -14,23 +14,20 @@ namespace zel {
 namespace {
 
 const Wide& ln2() {
-  static const Wide value({0xB17217F7D1CF79AB, 0xC9E3B39803F2F6AF,
-                           0x40F343267298B62D, 0x8A0D175B8BAAFA2B},
-                          0);
+  static const Wide value(
+      {0xB17217F7D1CF79AB, 0xC9E3B39803F2F6AF, 0x40F343267298B62D, 0x8A0D175B8BAAFA2B}, 0);
   return value;
 }
 
 const Wide& halfPi() {
-  static const Wide value({0xC90FDAA22168C234, 0xC4C6628B80DC1CD1,
-                           0x29024E088A67CC74, 0x020BBEA63B139B22},
-                          1);
+  static const Wide value(
+      {0xC90FDAA22168C234, 0xC4C6628B80DC1CD1, 0x29024E088A67CC74, 0x020BBEA63B139B22}, 1);
   return value;
 }
 
 const Wide& decimalPerNatural() {
-  static const Wide value({0x6F2DEC549B9438CA, 0x9AADD557D699EE19,
-                           0x1F71A30122E4D101, 0x1D1F96A27BC7529E},
-                          0);
+  static const Wide value(
+      {0x6F2DEC549B9438CA, 0x9AADD557D699EE19, 0x1F71A30122E4D101, 0x1D1F96A27BC7529E}, 0);
   return value;
 }
 
@@ -41,7 +38,8 @@ using Coefficients = std::array<Wide, kCoefficients>;
 const Coefficients& inverses() {
   static const auto values = [] {
     Coefficients result;
-    for (std::size_t n = 1; n < kCoefficients; ++n) result[n] = Wide(1) / Wide(static_cast<double>(n));
+    for (std::size_t n = 1; n < kCoefficients; ++n)
+      result[n] = Wide(1) / Wide(static_cast<double>(n));
     return result;
   }();
   return values;

@@ -139,9 +139,10 @@ TEST(ExactCases, OfPowersNextToOneAreNotMissed) {
 }
 
 TEST(SpecialValues, OfPowersAreThoseOfTheStandard) {
-  const double values[] = {0.0,  -0.0, 0.5,  -0.5, 1,         -1,         2,         -2,     3,
-                           -3,   2.5,  -2.5, 1e300, -1e300,   0x1p52 + 1, -0x1p52 - 1, 0x1p53,
-                           0x1p60, kInfinity, -kInfinity, kNoNumber};
+  const double values[] = {0.0,       -0.0,       0.5,        -0.5,        1,      -1,
+                           2,         -2,         3,          -3,          2.5,    -2.5,
+                           1e300,     -1e300,     0x1p52 + 1, -0x1p52 - 1, 0x1p53, 0x1p60,
+                           kInfinity, -kInfinity, kNoNumber};
   for (const double x : values)
     for (const double y : values) {
       SCOPED_TRACE(std::to_string(x) + " ^ " + std::to_string(y));

@@ -12,8 +12,7 @@ ZEL_ALWAYS_INLINE void sweepChunks(std::span<const double> xs, std::span<double>
     const double* const x = xs.data() + start;
     computeLanes<kLanesUnderTest>(
         values.data() + start,
-        [&](std::size_t i)
-            ZEL_INLINE_LAMBDA { return firstStage<function, Arithmetic>(x[i]); },
+        [&](std::size_t i) ZEL_INLINE_LAMBDA { return firstStage<function, Arithmetic>(x[i]); },
         [&](std::size_t i) { return settle(function, x[i]); });
   }
 }
@@ -41,8 +40,7 @@ ZEL_ALWAYS_INLINE void sweepPowers(std::span<const double> xs, std::span<const d
     const double* const y = ys.data() + start;
     computeLanes<kLanesUnderTest>(
         values.data() + start,
-        [&](std::size_t i)
-            ZEL_INLINE_LAMBDA { return powerCandidate<Arithmetic>(x[i], y[i]); },
+        [&](std::size_t i) ZEL_INLINE_LAMBDA { return powerCandidate<Arithmetic>(x[i], y[i]); },
         [&](std::size_t i) { return settlePower(x[i], y[i]); });
   }
 }

@@ -56,10 +56,9 @@ double valueOf(Elementary function, double x) {
 
 /// Where the second stage takes an argument: a finite value that is neither 0 nor next to it.
 bool hasWideValue(Elementary function, double x, double exact) {
-  const bool is_in_range =
-      function == Elementary::arc_tangent ? std::fabs(x) < 0x1p64
-      : function == Elementary::exponential ? std::fabs(x) < 746
-                                            : true;
+  const bool is_in_range = function == Elementary::arc_tangent   ? std::fabs(x) < 0x1p64
+                           : function == Elementary::exponential ? std::fabs(x) < 746
+                                                                 : true;
   return is_in_range && x != 0 && std::isfinite(exact) && exact != 0;
 }
 
@@ -121,9 +120,8 @@ TEST(NearestDoubleOfAPower, IsWhatPowerGives) {
       Values values;
       sweepPower(set, xs, ys, values);
       for (std::size_t i = 0; i < xs.size(); ++i)
-        ASSERT_TRUE(isSame(values[i], exact[i]))
-            << std::hexfloat << xs[i] << " ^ " << ys[i] << " in the lanes of "
-            << static_cast<int>(set);
+        ASSERT_TRUE(isSame(values[i], exact[i])) << std::hexfloat << xs[i] << " ^ " << ys[i]
+                                                 << " in the lanes of " << static_cast<int>(set);
     }
     for (std::size_t i = 0; i < xs.size(); i += kForced) {
       if (xs[i] == 0 || std::isnan(exact[i])) continue;

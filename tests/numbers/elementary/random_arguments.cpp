@@ -28,7 +28,9 @@ double RandomArguments::between(double low, double high) {
   return std::uniform_real_distribution<double>(low, high)(random_);
 }
 
-double RandomArguments::whole(double low, double high) { return std::nearbyint(between(low, high)); }
+double RandomArguments::whole(double low, double high) {
+  return std::nearbyint(between(low, high));
+}
 
 double RandomArguments::ofAnyBinade() {
   for (;;) {
