@@ -3,7 +3,7 @@
 #include "numbers/elementary/wide.h"
 
 /// The elementary functions in 256 bits. All are within 2^-240 of the exact value, relative to it,
-/// but for the logarithm of a number next to 1, which is within 2^-240 relative to 2^-10.
+/// but for the logarithm of a number near 1, which loses up to 40 bits more.
 namespace zel {
 
 /// For |x| < 2^20.
