@@ -2,16 +2,25 @@
 # A long work shows how far it is on a terminal, and on nothing else.
 set -uo pipefail
 cli=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
 command -v python3 >/dev/null || exit 77
 
-timeout 120 python3 - "$cli" <<'PYTHON'
+# A graph of the largest size: few words on the command line then make a long work.
+{
+  printf '%s\r\n' '[PRINCIPAL]' '01.versiones_compatibles=2.0' ' ' '[VISTA PRINCIPAL]' ' ' \
+    '[GRAFICOS PRINCIPAL]' '[PROPIEDADES]' 'nombre=a' 'color=255'
+  printf 'ecuacion=%s\r\n' "$(printf 'x+%.0s' {1..3000})x"
+  printf '%s\r\n' 'tipo=F' ' ' '[PARAMETROS]' ' ' ' '
+} >"$work/slow.zel"
+
+timeout 300 python3 - "$cli" "$work/slow.zel" <<'PYTHON'
 import os
 import pty
 import subprocess
 import sys
 
-cli = sys.argv[1]
-slow = "+".join(["x"] * 7000)
+cli, document = sys.argv[1:]
 
 
 def shows_progress(arguments, lines=b""):
@@ -32,6 +41,8 @@ def shows_progress(arguments, lines=b""):
     return shown.startswith(b"\r")
 
 
-assert shows_progress(["evaluate", slow] + ["%d" % x for x in range(30000)])
-assert shows_progress(["check-formula"] + ["%s+%d" % (slow, n) for n in range(100)] * 1)
+assert shows_progress(["evaluate", "--document", document, "a(x)"] +
+                      ["%d" % x for x in range(100000)])
+assert shows_progress(["check-formula", "--document", document] +
+                      ["a(x)+%d" % n for n in range(100000)])
 PYTHON

@@ -5,9 +5,12 @@ set -uo pipefail
 zel=$(dirname "$1")/zel
 source_folder=$2
 [[ -x $zel ]] || { echo "no desktop program in this build"; exit 77; }
-for tool in Xvfb xdotool; do
+for tool in Xvfb openbox xdotool xprop import; do
   command -v "$tool" >/dev/null || { echo "no $tool"; exit 77; }
 done
+. "$source_folder/tests/support/screen.sh"
+SCREEN_PICTURE=$(dirname "$(dirname "$1")")/command_line_failed.png
+rm -f "$SCREEN_PICTURE"
 
 work=$(mktemp -d)
 export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
@@ -15,40 +18,28 @@ export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none
 unset WAYLAND_DISPLAY
 mkdir -m 700 "$work/run"
 cd "$work/run" || exit 1
-exec 8>"$work/display"
-Xvfb -displayfd 8 -screen 0 1280x1024x24 >"$work/xvfb.log" 2>&1 &
-server=$!
-exec 8>&-
 program=
-trap 'kill $program $server 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
-for _ in $(seq 100); do [[ -s $work/display ]] && break; sleep 0.1; done
-DISPLAY=:$(<"$work/display")
-export DISPLAY
+trap 'kill $program 2>/dev/null; close_screen; wait 2>/dev/null; rm -rf "$work"' EXIT
+open_screen "$work"
 
-# opens TITLE NAME...: starts the program with these arguments; whether a window comes up with this
-# title (a regular expression), and the folder holds what it held before.
-opens() {
-  local title=$1 before after found=
+# shows TITLE NAME...: started with these arguments the program comes to a window with this title (a
+# regular expression), and the folder holds what it held before.
+shows() {
+  local title=$1 before
   shift
-  before=$(ls -A | sort)
+  before=$(find . | sort)
   "$zel" "$@" >"$work/zel.log" 2>&1 &
   program=$!
-  for _ in $(seq 150); do
-    xdotool search --name '^ZEL$' key Return 2>/dev/null
-    xdotool search --onlyvisible --name "$title" >/dev/null 2>&1 && found=yes && break
-    sleep 0.1
-  done
+  window 'ZEL'
+  opens "$title" Return
   kill "$program"
   wait "$program" 2>/dev/null
-  after=$(ls -A | sort)
-  [[ -n $found ]] || { echo "no window '$title' for $(printf '%q ' "$@")"; cat "$work/zel.log"; return 1; }
-  [[ $before == "$after" ]] || { echo "other files than before: $after"; return 1; }
+  [[ $(find . | sort) == "$before" ]] || fail "other files than before: $(find .)"
 }
 
-status=0
 printf 'ES\r\nFalso' >config.ini
 cp "$source_folder/examples/waves.zel" $'n\xff.zel'
 cp "$source_folder/examples/waves.zel" 'two words.zel'
-opens '^ZEL - n.*\.zel$' $'n\xff.zel' || status=1
-opens '^ZEL - two words\.zel$' two words.zel || status=1
-exit $status
+shows 'ZEL - n.*\.zel' $'n\xff.zel'
+shows 'ZEL - two words\.zel' two words.zel
+exit 0
