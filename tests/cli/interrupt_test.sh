@@ -13,7 +13,7 @@ printf '%s\r\n' '[PRINCIPAL]' '01.versiones_compatibles=2.0' ' ' '[VISTA PRINCIP
 
 # interrupted NAME COMMAND...: the command must still run after a second, and end with 130.
 interrupted() {
-  local name=$1 pid watchdog status
+  local name=$1 pid status
   shift
   # A shell's background jobs ignore Ctrl-C; setting the trap to its default undoes that.
   (
@@ -21,6 +21,7 @@ interrupted() {
     exec env -i LC_ALL=es_ES.UTF-8 python3 -c '
 import os, signal, sys
 signal.signal(signal.SIGINT, signal.SIG_DFL)
+signal.alarm(60)  # what cannot be interrupted fails, and ends too
 os.execv(sys.argv[1], sys.argv[1:])' "$@"
   ) >"$work/out" 2>"$work/err" <"$work/pipe" &
   pid=$!
@@ -30,11 +31,8 @@ os.execv(sys.argv[1], sys.argv[1:])' "$@"
     echo "$name ended by itself"
     failures=$((failures + 1))
   fi
-  (sleep 60 && kill -KILL "$pid") >/dev/null 2>&1 & # what cannot be interrupted fails, and ends too
-  watchdog=$!
   wait "$pid"
   status=$?
-  kill "$watchdog" 2>/dev/null
   exec 9>&-
   if [[ $status -ne 130 ]]; then
     echo "$name ended with $status"

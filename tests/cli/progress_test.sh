@@ -2,25 +2,17 @@
 # A long work shows how far it is on a terminal, and on nothing else.
 set -uo pipefail
 cli=$1
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 command -v python3 >/dev/null || exit 77
 
-# A graph of the largest size: few words on the command line then make a long work.
-{
-  printf '%s\r\n' '[PRINCIPAL]' '01.versiones_compatibles=2.0' ' ' '[VISTA PRINCIPAL]' ' ' \
-    '[GRAFICOS PRINCIPAL]' '[PROPIEDADES]' 'nombre=a' 'color=255'
-  printf 'ecuacion=%s\r\n' "$(printf 'x+%.0s' {1..3000})x"
-  printf '%s\r\n' 'tipo=F' ' ' '[PARAMETROS]' ' ' ' '
-} >"$work/slow.zel"
-
-timeout 300 python3 - "$cli" "$work/slow.zel" <<'PYTHON'
+timeout 120 python3 - "$cli" <<'PYTHON'
 import os
 import pty
 import subprocess
 import sys
+import tempfile
 
-cli, document = sys.argv[1:]
+cli = sys.argv[1]
+slow = "+".join(["x"] * 7000)
 
 
 def shows_progress(arguments, lines=b""):
@@ -41,8 +33,17 @@ def shows_progress(arguments, lines=b""):
     return shown.startswith(b"\r")
 
 
-assert shows_progress(["evaluate", "--document", document, "a(x)"] +
-                      ["%d" % x for x in range(100000)])
-assert shows_progress(["check-formula", "--document", document] +
-                      ["a(x)+%d" % n for n in range(100000)])
+def write_document(path, formula, kind, *parameters):
+    with open(path, "w", newline="") as document:
+        document.write("\r\n".join([
+            "[PRINCIPAL]", "01.versiones_compatibles=2.0", " ", "[VISTA PRINCIPAL]", " ",
+            "[GRAFICOS PRINCIPAL]", "[PROPIEDADES]", "nombre=a", "color=255", "codigo=" + formula,
+            "ecuacion=" + formula, "tipo=" + kind, " ", "[PARAMETROS]", *parameters, " ", " "]))
+
+
+assert shows_progress(["evaluate", slow] + ["%d" % x for x in range(30000)])
+with tempfile.TemporaryDirectory() as work:
+    write_document(work + "/long.zel", "+".join(["x"] * 4000), "F")
+    assert shows_progress(["check-formula", "--document", work + "/long.zel"]
+                          + ["a(x)+%d" % n for n in range(10_000)])
 PYTHON
