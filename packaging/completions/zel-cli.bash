@@ -7,7 +7,7 @@ _zel_cli_options() {
     '') echo "$everywhere --version --lang --point" ;;
     evaluate) echo "$everywhere --document --t --p --code --batch" ;;
     check-formula) echo "$everywhere --document" ;;
-    table) echo "$everywhere --graph --from --to --step --p" ;;
+    table) echo "$everywhere --graph --from --to --step --p --json" ;;
     render) echo "$everywhere -o $view" ;;
     drive) echo "$everywhere --active $view" ;;
     *) echo "$everywhere" ;;

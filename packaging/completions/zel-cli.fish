@@ -37,6 +37,7 @@ complete -c zel-cli -n $of_table -l from -x -d 'First x or t'
 complete -c zel-cli -n $of_table -l to -x -d 'Last x or t'
 complete -c zel-cli -n $of_table -l step -x -d 'Step'
 complete -c zel-cli -n $of_table -l p -x -d 'Value of p'
+complete -c zel-cli -n $of_table -l json -d 'Print JSON'
 
 complete -c zel-cli -n '__fish_seen_subcommand_from render' -s o -r -F -d 'Picture: .png, .svg or .pdf'
 complete -c zel-cli -n '__fish_seen_subcommand_from drive' -l active -x -d 'Letter of the active graph'

@@ -35,7 +35,8 @@ _zel_cli_options() {
     check) options+=($file) ;;
     resave) options+=($file '2:document to write:_files -g "*.zel"') ;;
     table) options+=('--graph=[letter of the graph]:letter:({a..z})' '--from=[first x or t]:number'
-      '--to=[last x or t]:number' '--step=[step]:number' '--p=[value of p]:number' $file) ;;
+      '--to=[last x or t]:number' '--step=[step]:number' '--p=[value of p]:number'
+      '--json[print JSON]' $file) ;;
     render) options+=('-o[picture to write]:picture:_files -g "*.(png|svg|pdf)"' $view $file) ;;
     drive) options+=('--active=[letter of the active graph]:letter:({a..z})' $view $file) ;;
   esac

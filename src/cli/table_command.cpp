@@ -1,11 +1,14 @@
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/progress.h"
 #include "cli/session.h"
+#include "cli/table_rows.h"
 #include "plot/curves/parameter_range.h"
 
 namespace zel {
@@ -18,40 +21,58 @@ struct Options {
   std::string to;
   std::string step;
   std::string p = "0";
-};
-
-/// One row; a value that is undefined is empty.
-class Rows {
- public:
-  Rows(const Console& console, Engine& engine) : console_(console), engine_(engine) {}
-
-  void writeFunction(const GraphDef& def, double x) {
-    console_.out << console_.number(x) << ';' << valueAt(x, def.codigo) << '\n';
-  }
-
-  void writeParametric(const GraphDef& def, double t) {
-    engine_.SetT(t);
-    const std::string x = valueAt(t, parameter(def, "codigo_xt"));
-    const std::string y = valueAt(t, parameter(def, "codigo_yt"));
-    console_.out << console_.number(t) << ';' << x << ';' << y << '\n';
-  }
-
- private:
-  std::string valueAt(double x, std::string_view code) {
-    double value = 0;
-    return engine_.Evaluate(x, value, code, message_) ? console_.number(value) : std::string();
-  }
-
-  const Console& console_;
-  Engine& engine_;
-  std::string message_;
+  bool json = false;
 };
 
 /// A step below 0 leads from the first value down to the last.
 template <class Visit>
 void countDown(const ParameterRange& range, const Visit& visit) {
   const ParameterRange mirrored = {-range.inicio, -range.fin, -range.variacion};
-  forEachParameter(mirrored, [&](double value) { return visit(-value); });
+  forEachParameter(mirrored, [&](double value) { return visit(0 - value); });  // not -value: no -0
+}
+
+/// The values of a graph at each of its x, or t where it is parametric.
+class Values {
+ public:
+  Values(Engine& engine, const GraphDef& def) : engine_(engine), is_curve_(def.tipo == 'T') {
+    if (is_curve_)
+      codes_ = {parameter(def, "codigo_xt"), parameter(def, "codigo_yt")};
+    else
+      codes_ = {def.codigo};
+  }
+
+  const std::vector<std::optional<double>>& at(double value) {
+    if (is_curve_) engine_.SetT(value);
+    values_.clear();
+    for (const std::string& code : codes_) {
+      double result = 0;
+      const bool is_defined = engine_.Evaluate(value, result, code, message_);
+      values_.push_back(is_defined ? std::optional(result) : std::nullopt);
+    }
+    return values_;
+  }
+
+ private:
+  Engine& engine_;
+  bool is_curve_;
+  std::vector<std::string> codes_;
+  std::vector<std::optional<double>> values_;
+  std::string message_;
+};
+
+void writeRows(const ParameterRange& range, Values& values, TableRows& rows,
+               const Console& console) {
+  Progress progress(console.err);
+  const auto write_row = [&](double value) {
+    rows.write(value, values.at(value));
+    progress.show([&] { return console.number(value); });
+    return console.out.good();
+  };
+  if (range.variacion < 0)
+    countDown(range, write_row);
+  else
+    forEachParameter(range, write_row);
+  rows.end();
 }
 
 int table(const Options& options, const Console& console) {
@@ -66,20 +87,10 @@ int table(const Options& options, const Console& console) {
   if (!def) return kExitFailed;
 
   session.engine.SetP(p);
-  Rows rows(console, session.engine);
-  Progress progress(console.err);
-  const auto write_row = [&](double x) {
-    if (def->tipo == 'T')
-      rows.writeParametric(*def, x);
-    else
-      rows.writeFunction(*def, x);
-    progress.show([&] { return console.number(x); });
-    return console.out.good();
-  };
-  if (range.variacion < 0)
-    countDown(range, write_row);
-  else
-    forEachParameter(range, write_row);
+  Values values(session.engine, *def);
+  const auto rows =
+      options.json ? makeJsonRows(console.out, def->tipo == 'T') : makeTextRows(console);
+  writeRows(range, values, *rows, console);
   return kExitDone;
 }
 
@@ -96,6 +107,7 @@ void addTable(CLI::App& app, Console& console, Command& command) {
   subcommand->add_option("--to", options->to, "Last x (or t)")->type_name("B")->required();
   subcommand->add_option("--step", options->step, "Step")->type_name("S")->required();
   subcommand->add_option("--p", options->p, "Value of p (0)")->type_name("NUMBER");
+  subcommand->add_flag("--json", options->json, "Print an array of objects in the place of lines");
   subcommand->callback([&command, &console, options] {
     command = [&console, options] { return table(*options, console); };
   });

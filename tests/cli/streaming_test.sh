@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# A batch answers line by line, and a million lines need no more memory than ten.
+# A batch answers line by line, and a million lines need no more memory than ten. Nor do a million rows
+# of a table.
 set -uo pipefail
 cli=$1
 
-python3 - "$cli" <<'PYTHON'
+python3 - "$cli" "$2" <<'PYTHON'
 import resource
 import subprocess
 import sys
@@ -34,6 +35,26 @@ def peak_after(lines):
 few, many = peak_after(10), peak_after(1_000_000)
 print(f"peak memory: {few} KiB for ten lines, {many} KiB for a million")
 assert many < few + 4096, "memory grows with the lines"
+
+def peak_of_table(rows):
+    """The peak memory in KiB of a table of so many rows in JSON, all of which must be there."""
+    code = ("import resource, subprocess, sys\n"
+            "n = int(sys.argv[3])\n"
+            "p = subprocess.Popen([sys.argv[1], 'table', sys.argv[2], '--graph', 'a', '--from', '1',"
+            " '--to', str(n), '--step', '1', '--json'], stdout=subprocess.PIPE)\n"
+            "rows = sum(1 for line in p.stdout if line.startswith(b'{'))\n"
+            "assert p.wait() == 0\n"
+            "assert rows == n, rows\n"
+            "print(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss)\n")
+    document = sys.argv[2] + "/examples/waves.zel"
+    out = subprocess.run([sys.executable, "-c", code, cli, document, str(rows)], check=True,
+                         capture_output=True)
+    return int(out.stdout)
+
+
+few, many = peak_of_table(10), peak_of_table(1_000_000)
+print(f"peak memory: {few} KiB for ten rows, {many} KiB for a million")
+assert many < few + 4096, "memory grows with the rows"
 
 batch = subprocess.Popen([cli, "evaluate", "--batch"], stdin=subprocess.PIPE,
                          stdout=subprocess.PIPE)
