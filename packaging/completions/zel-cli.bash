@@ -8,7 +8,7 @@ _zel_cli_options() {
     evaluate) echo "$everywhere --document --t --p --code --batch" ;;
     check-formula) echo "$everywhere --document" ;;
     table) echo "$everywhere --graph --from --to --step --p --json" ;;
-    render) echo "$everywhere -o $view" ;;
+    render) echo "$everywhere -o --format $view" ;;
     drive) echo "$everywhere --active $view" ;;
     *) echo "$everywhere" ;;
   esac
@@ -24,6 +24,7 @@ _zel_cli() {
   case $before in
     --lang) words='ES EN' ;;
     --proportional) words='yes no' ;;
+    --format) words='png svg pdf' ;;
     --graph | --active) words=$(printf '%s ' {a..z}) ;;
     --document) files='*.zel' ;;
     -o) files='*' ;;

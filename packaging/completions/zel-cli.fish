@@ -14,7 +14,7 @@ complete -c zel-cli -n $no_command -a check-formula -d 'Say whether each formula
 complete -c zel-cli -n $no_command -a check -d 'Load a document and list its graphs'
 complete -c zel-cli -n $no_command -a resave -d 'Load a document and write it anew'
 complete -c zel-cli -n $no_command -a table -d 'Print the values of a graph'
-complete -c zel-cli -n $no_command -a render -d 'Draw a document into a picture file'
+complete -c zel-cli -n $no_command -a render -d 'Draw documents into picture files'
 complete -c zel-cli -n $no_command -a drive -d 'Plot a document and carry out commands'
 complete -c zel-cli -n $no_command -a self-test -d 'Run the self-test of the start-up'
 
@@ -39,7 +39,9 @@ complete -c zel-cli -n $of_table -l step -x -d 'Step'
 complete -c zel-cli -n $of_table -l p -x -d 'Value of p'
 complete -c zel-cli -n $of_table -l json -d 'Print JSON'
 
-complete -c zel-cli -n '__fish_seen_subcommand_from render' -s o -r -F -d 'Picture: .png, .svg or .pdf'
+set -l of_render '__fish_seen_subcommand_from render'
+complete -c zel-cli -n $of_render -s o -r -F -d 'Picture: .png, .svg or .pdf, or a folder'
+complete -c zel-cli -n $of_render -l format -x -a 'png svg pdf' -d 'Of the pictures in a folder'
 complete -c zel-cli -n '__fish_seen_subcommand_from drive' -l active -x -d 'Letter of the active graph'
 
 set -l of_view '__fish_seen_subcommand_from render drive'

@@ -8,7 +8,7 @@ _zel_cli_commands() {
     'check:load a document and list its graphs'
     'resave:load a document and write it anew'
     'table:print the values of a graph'
-    'render:draw a document into a picture file'
+    'render:draw documents into picture files'
     'drive:plot a document and carry out commands'
     'self-test:run the self-test of the start-up'
   )
@@ -37,7 +37,9 @@ _zel_cli_options() {
     table) options+=('--graph=[letter of the graph]:letter:({a..z})' '--from=[first x or t]:number'
       '--to=[last x or t]:number' '--step=[step]:number' '--p=[value of p]:number'
       '--json[print JSON]' $file) ;;
-    render) options+=('-o[picture to write]:picture:_files -g "*.(png|svg|pdf)"' $view $file) ;;
+    render) options+=('-o[picture to write, or a folder]:picture:_files -g "*.(png|svg|pdf)"'
+      '--format=[of the pictures in a folder]:format:(png svg pdf)' $view
+      '*:document:_files -g "*.zel"') ;;
     drive) options+=('--active=[letter of the active graph]:letter:({a..z})' $view $file) ;;
   esac
   _arguments $options

@@ -1,7 +1,6 @@
 #include "cli/input_output.h"
 
 #include <array>
-#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <ostream>
@@ -14,10 +13,6 @@
 
 namespace zel {
 namespace {
-
-std::filesystem::path pathOf(const std::string& utf8) {
-  return std::u8string(utf8.begin(), utf8.end());
-}
 
 /// Whether something is at the path that no other file may replace.
 bool isDeviceOrPipe(const std::string& path) {
@@ -35,6 +30,10 @@ bool writeInPlace(const std::string& path, std::string_view bytes) {
 }
 
 }  // namespace
+
+std::filesystem::path pathOf(const std::string& utf8) {
+  return std::u8string(utf8.begin(), utf8.end());
+}
 
 bool isStandardStream(std::string_view path) { return path == "-"; }
 

@@ -16,8 +16,9 @@ constexpr auto kPause = std::chrono::milliseconds(100);
 Progress::Progress(std::ostream& err)
     : err_(err), shows_(errorIsTerminal()), next_(Clock::now() + kSilence) {}
 
-Progress::~Progress() {
+void Progress::clear() {
   if (width_ > 0) err_ << '\r' << std::string(width_, ' ') << '\r' << std::flush;
+  width_ = 0;
 }
 
 bool Progress::isDue() {

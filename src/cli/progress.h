@@ -11,8 +11,7 @@ namespace zel {
 class Progress {
  public:
   explicit Progress(std::ostream& err);
-  /// Takes the line away again.
-  ~Progress();
+  ~Progress() { clear(); }
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
@@ -21,6 +20,9 @@ class Progress {
   void show(const Text& text) {
     if (shows_ && isDue()) write(text());
   }
+
+  /// Takes the line away until the next look.
+  void clear();
 
  private:
   using Clock = std::chrono::steady_clock;

@@ -45,6 +45,13 @@ interrupted "a table with a step of 0" \
   "$cli" table "$work/endless.zel" --graph a --from 0 --to 1 --step 0
 interrupted "a family with a step of 0" \
   "$cli" render "$work/endless.zel" -o "$work/picture.svg" --quality 1
+interrupted "endless pictures in a folder, with some that are done" \
+  "$cli" render "$work/endless.zel" "$source_dir"/examples/*.zel -o "$work/pictures/" --quality 1
+for example in "$source_dir"/examples/*.zel; do
+  picture=$work/pictures/$(basename "$example" .zel).png
+  [[ ! -e $picture ]] || identify "$picture" >"$work/said" 2>&1 ||
+    { echo "half a picture: $(cat "$work/said")"; failures=$((failures + 1)); }
+done
 interrupted "a plot with a family with a step of 0" "$cli" drive "$work/endless.zel" --quality 1
 interrupted "a plot that waits for commands" \
   "$cli" drive "$source_dir/examples/waves.zel" --quality 1
@@ -73,6 +80,34 @@ for x in b"1\tx\n", b"2\tx\n":
     batch.send_signal(signal.SIGINT)
 batch.stdin.close()
 assert batch.wait() == 0, batch.returncode
+PYTHON
+
+# While many pictures are put in their places, from all threads, Ctrl-C leaves whole ones only.
+python3 - "$cli" "$source_dir" "$work" <<'PYTHON' || failures=$((failures + 1))
+import os, pathlib, shutil, signal, subprocess, sys
+cli, work = sys.argv[1], pathlib.Path(sys.argv[3])
+document = pathlib.Path(sys.argv[2]) / "examples" / "waves.zel"
+names = [work / f"{i}.zel" for i in range(300)]
+for name in names:
+    shutil.copy(document, name)
+default = lambda: signal.signal(signal.SIGINT, signal.SIG_DFL)
+whole = None
+for wanted in (1, 2, 5, 20, 60):
+    out = work / f"many{wanted}"
+    out.mkdir()
+    render = subprocess.Popen([cli, "render", *names, "-o", out, "--format", "svg", "--width", "100",
+                               "--height", "100"], preexec_fn=default)
+    while len(list(out.glob("*.svg"))) < wanted and render.poll() is None:
+        pass
+    render.send_signal(signal.SIGINT)
+    assert render.wait() == 130, render.returncode
+    files = [one for one in out.iterdir() if not one.name.startswith(".zel-")]
+    assert len(files) < len(names), "it was done before"
+    for one in files:
+        whole = whole or one.read_bytes()
+        assert one.read_bytes() == whole and whole.endswith(b"</svg>\n"), one
+    assert not list(out.glob(".zel-*")), "a temporary file is left"
+    shutil.rmtree(out)
 PYTHON
 
 left=$(find "$work" -name '*.svg*' -o -name '.zel-*')

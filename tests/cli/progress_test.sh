@@ -33,6 +33,23 @@ def shows_progress(arguments, lines=b""):
     return shown.startswith(b"\r")
 
 
+def shows_bar(arguments, bar, complaint):
+    """Waits for the bar, which the complaint of another document does not break."""
+    terminal, end = pty.openpty()
+    command = subprocess.Popen([cli] + arguments, stderr=end)
+    os.close(end)
+    shown = b""
+    try:
+        while bar not in shown or complaint not in shown:
+            shown += os.read(terminal, 1000)
+    except OSError:  # the command has ended
+        pass
+    command.kill()
+    command.wait()
+    os.close(terminal)
+    return bar in shown and complaint in shown
+
+
 def write_document(path, formula, kind, *parameters):
     with open(path, "w", newline="") as document:
         document.write("\r\n".join([
@@ -43,6 +60,10 @@ def write_document(path, formula, kind, *parameters):
 
 assert shows_progress(["evaluate", slow] + ["%d" % x for x in range(30000)])
 with tempfile.TemporaryDirectory() as work:
+    write_document(work + "/endless.zel", "p*x", "Z", "inicio=0", "fin=1", "variacion=0")
+    assert shows_bar(["render", work + "/missing.zel", work + "/endless.zel", "-o", work + "/out/",
+                      "--quality", "1"], b"\r[" + b"=" * 20 + b" " * 20 + b"] 1/2", b"missing.zel: ")
+
     write_document(work + "/long.zel", "+".join(["x"] * 4000), "F")
     assert shows_progress(["check-formula", "--document", work + "/long.zel"]
                           + ["a(x)+%d" % n for n in range(10_000)])
