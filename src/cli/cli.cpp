@@ -10,6 +10,7 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/console.h"
+#include "cli/examples.h"
 #include "files/system_language.h"
 
 namespace zel {
@@ -32,9 +33,11 @@ void addCommands(CLI::App& app, Console& console, Command& command) {
   for (CLI::App* subcommand : app.get_subcommands({})) {
     subcommand->fallthrough();
     subcommand->group("Commands");
+    subcommand->footer(std::string(examplesOf(subcommand->get_name())));
     unprotectOptions(*subcommand);
   }
   app.require_subcommand(1);
+  app.footer("zel-cli COMMAND --help tells the options of a command, with examples.");
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
 }
 

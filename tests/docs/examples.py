@@ -1,9 +1,10 @@
-"""Tries every example of the manual pages, the help and the docs.
+"""Tries every example of the manual pages, the help, the docs and the help of each command.
 
   examples.py ZEL_CLI SOURCE_FOLDER
 
 Commands: in a code block a line that begins with "$ " is run in a copy of examples/, and the lines
 behind it are what it must print; "..." at the end of a line or instead of lines stands for anything.
+So are those below "Examples:" in what each command tells with --help, two spaces further in.
 
 Formulas: in a table a column whose heading begins with "it gives", "gives", "da" or "vale" says what
 the formulas in backticks in the column before it give: a number, no value, or that they are refused.
@@ -42,7 +43,8 @@ def cli(*arguments):
 
 
 def plain_manual(text):
-    for mark, plain in ((r"\(aq", "'"), (r"\(ha", "^"), (r"\(ti", "~"), (r"\-", "-"), (r"\e", "\\")):
+    for mark, plain in ((r"\(aq", "'"), (r"\(ha", "^"), (r"\(ti", "~"), (r"\-", "-"), (r"\e", "\\"),
+                        (r"\&", "")):
         text = text.replace(mark, plain)
     return text
 
@@ -70,17 +72,31 @@ def pattern(lines):
     return re.sub(r"\.\.\.$", "*", escaped, flags=re.M)
 
 
-def try_commands(path, folder):
+def try_commands(where, texts, folder):
     count = 0
-    for block in blocks(path):
-        for command, wanted in commands(block):
+    for text in texts:
+        for command, wanted in commands(text):
             if re.match(r"(sudo|cd|\./|zel )", command):
                 continue
             count += 1
             status, said = run(command, folder)
             if status != 0 or not fnmatch.fnmatchcase(said.rstrip("\n"), pattern(wanted)):
-                complaints.append(f"{path}: $ {command}\n  (status {status}) {said}")
+                complaints.append(f"{where}: $ {command}\n  (status {status}) {said}")
     return count
+
+
+def try_help(folder):
+    """Tries the examples in the help of each command; each must have one."""
+    listed = re.search(r"^Commands:\n((?:  .*\n)+)", cli("--help") + "\n", re.M)
+    names = re.findall(r"^  ([a-z-]+)", listed[1] if listed else "", re.M)
+    if len(names) < 9:
+        complaints.append(f"zel-cli --help tells of no commands but {names}")
+    for name in names:
+        examples = cli(name, "--help").partition("\nExamples:\n")[2]
+        count = try_commands(f"zel-cli {name} --help", [re.sub("^  ", "", examples, flags=re.M)], folder)
+        print(f"zel-cli {name} --help: {count} commands")
+        if count == 0:
+            complaints.append(f"zel-cli {name} --help: no examples")
 
 
 def document_with(letter, formula, folder):
@@ -145,9 +161,10 @@ def main():
         pages = sorted([*SOURCE.glob("packaging/man/**/*.1"), *SOURCE.glob("*.md"),
                         *SOURCE.glob("docs/*.md"), *SOURCE.glob("help/*.hlp")])
         for path in pages:
-            tried = (try_commands(path, folder), try_tables(path, folder))
+            tried = (try_commands(path, blocks(path), folder), try_tables(path, folder))
             if any(tried):
                 print(f"{path.relative_to(SOURCE)}: {tried[0]} commands, {tried[1]} formulas")
+        try_help(folder)
     print("\n".join(complaints))
     sys.exit(1 if complaints else 0)
 
