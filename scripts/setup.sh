@@ -4,7 +4,7 @@
 set -euo pipefail
 
 declare -A groups=(
-  [build]="cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-translations-l10n
+  [build]="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n
     libgmock-dev libgtest-dev libisal-dev libmpfr-dev libcli11-dev nlohmann-json3-dev pkg-config
     zlib1g-dev"
   [test]="acl appstream cups-daemon desktop-file-utils dpkg-dev fish g++-mingw-w64-x86-64-posix git

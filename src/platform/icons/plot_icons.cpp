@@ -5,27 +5,34 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QSvgRenderer>
 
+#include "platform/icons/icon_drawing.h"
 #include "platform/icons/icons.h"
 
 namespace zel {
 namespace {
 
 // The colours in the files, which are those of a light palette.
-constexpr const char* kInk = "#202428";
-constexpr const char* kAccent = "#1a6fc4";
+constexpr QRgb kInk = 0xff202428;
+constexpr QRgb kAccent = 0xff1a6fc4;
 
-constexpr const char* kAccentOnDark = "#6cb8ff";
+constexpr QRgb kAccentOnDark = 0xff6cb8ff;
 constexpr qreal kDisabledOpacity = 0.35;
 
-/// An SVG file whose colours follow the palette.
+/// The colours of the files in the application's palette.
+QColor inPalette(const QColor& colour) {
+  const QColor ink = QGuiApplication::palette().color(QPalette::Active, QPalette::ButtonText);
+  if (colour == QColor(kInk)) return ink;
+  return colour == QColor(kAccent) && ink.lightnessF() > 0.5F ? QColor(kAccentOnDark) : colour;
+}
+
+/// A drawing whose colours follow the palette.
 class PaletteIcon : public QIconEngine {
  public:
-  explicit PaletteIcon(QByteArray svg) : svg_(std::move(svg)) {}
+  explicit PaletteIcon(IconDrawing drawing) : drawing_(std::move(drawing)) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-    if (mode != QIcon::Disabled) return QSvgRenderer(coloured()).render(painter, rect);
+    if (mode != QIcon::Disabled) return drawing_.paint(*painter, rect, inPalette);
     // Faded as a whole: lines that cross are not darker there.
     const qreal ratio = painter->device()->devicePixelRatioF();
     const qreal opacity = painter->opacity();
@@ -45,15 +52,7 @@ class PaletteIcon : public QIconEngine {
   QIconEngine* clone() const override { return new PaletteIcon(*this); }
 
  private:
-  QByteArray coloured() const {
-    const QColor ink = QGuiApplication::palette().color(QPalette::Active, QPalette::ButtonText);
-    QByteArray svg = svg_;
-    svg.replace(kInk, ink.name().toLatin1());
-    if (ink.lightnessF() > 0.5F) svg.replace(kAccent, kAccentOnDark);
-    return svg;
-  }
-
-  QByteArray svg_;
+  IconDrawing drawing_;
 };
 
 }  // namespace
@@ -63,7 +62,8 @@ QIcon plotIcon(std::string_view key) {
   QFile file(":/plot/" + QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size())) +
              ".svg");
   if (!file.open(QIODevice::ReadOnly)) return {};
-  return QIcon(new PaletteIcon(file.readAll()));
+  auto drawing = IconDrawing::read(file.readAll());
+  return drawing ? QIcon(new PaletteIcon(*std::move(drawing))) : QIcon();
 }
 
 }  // namespace zel
