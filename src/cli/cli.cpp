@@ -63,6 +63,7 @@ int runArguments(const std::vector<std::string>& arguments, Console& console) {
   Command command;
   std::string language;
   CLI::App app("The headless companion of zel, a grapher of mathematical functions.", "zel-cli");
+  app.allow_windows_style_options(false);  // "/x" is a path everywhere
   app.set_version_flag("--version", "zel-cli 2.8");
   app.add_option("--lang", language, "Language of messages")
       ->check(CLI::IsMember({"ES", "EN"}))

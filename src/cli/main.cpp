@@ -3,12 +3,11 @@
 #include <exception>
 #include <iostream>
 #include <new>
-#include <string>
-#include <vector>
 
 #include "cli/cli.h"
 #include "cli/console.h"
 #include "cli/interrupt.h"
+#include "cli/process.h"
 
 namespace {
 
@@ -41,10 +40,9 @@ void watchTermination() {
 int main(int argc, char** argv) {
   try {
     watchTermination();
-    std::ios::sync_with_stdio(false);
+    zel::useByteStreams();
     zel::endOnInterrupt();
-    return zel::runCli(std::vector<std::string>(argv + 1, argv + argc), std::cin, std::cout,
-                       std::cerr);
+    return zel::runCli(zel::processArguments(argc, argv), std::cin, std::cout, std::cerr);
   } catch (const std::bad_alloc&) {
     tellWantOfMemory();
   } catch (...) {

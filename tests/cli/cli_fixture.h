@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -9,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/cli.h"
+#include "support/environment_guard.h"
 #include "support/language_guard.h"
 #include "support/temporary_folder.h"
 
@@ -22,8 +22,6 @@ class CliTest : public ::testing::Test {
     std::string out;
     std::string err;
   };
-
-  CliTest() { setenv("LC_ALL", "es_ES.UTF-8", 1); }
 
   Run run(const std::vector<std::string>& arguments, const std::string& input = "") {
     std::istringstream in(input);
@@ -60,6 +58,7 @@ class CliTest : public ::testing::Test {
   }
 
  private:
+  EnvironmentGuard locale_{"LC_ALL", "es_ES.UTF-8"};
   LanguageGuard language_{"ES"};
   TemporaryFolder folder_;
 };

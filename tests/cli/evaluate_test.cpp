@@ -59,16 +59,19 @@ TEST_F(EvaluateCommand, SpeaksTheLanguageThatIsAskedFor) {
 }
 
 TEST_F(EvaluateCommand, TakesTheLanguageFromTheFirstVariableThatIsSet) {
-  setenv("LC_ALL", "en_GB.UTF-8", 1);
-  EXPECT_EQ(run({"evaluate", "x)", "1"}).out, "error\tCannot find operator.\n");
-  unsetenv("LC_ALL");
-  setenv("LC_MESSAGES", "es_AR", 1);
-  setenv("LANG", "en_US", 1);
-  EXPECT_EQ(run({"evaluate", "x)", "1"}).out, "error\tNo se encuentra el operador.\n");
-  unsetenv("LC_MESSAGES");
-  EXPECT_EQ(run({"evaluate", "x)", "1"}).out, "error\tCannot find operator.\n");
-  setenv("LANG", "fr_FR", 1);
-  EXPECT_EQ(run({"evaluate", "x)", "1"}).out, "error\tNo se encuentra el operador.\n");
+  const auto complaint = [this] { return run({"evaluate", "x)", "1"}).out; };
+  const std::string spanish = "error\tNo se encuentra el operador.\n";
+  const std::string english = "error\tCannot find operator.\n";
+  const EnvironmentGuard all("LC_ALL", "en_GB.UTF-8");
+  EXPECT_EQ(complaint(), english);
+  const EnvironmentGuard not_all("LC_ALL", nullptr);
+  const EnvironmentGuard messages("LC_MESSAGES", "es_AR");
+  const EnvironmentGuard lang("LANG", "en_US");
+  EXPECT_EQ(complaint(), spanish);
+  const EnvironmentGuard no_messages("LC_MESSAGES", nullptr);
+  EXPECT_EQ(complaint(), english);
+  const EnvironmentGuard french("LANG", "fr_FR");
+  EXPECT_EQ(complaint(), spanish);
 }
 
 TEST_F(EvaluateCommand, PrintsAPointWhenAsked) {

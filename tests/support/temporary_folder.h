@@ -10,6 +10,16 @@
 
 namespace zel::test {
 
+/// A path from UTF-8; some systems take a plain text for another encoding.
+inline std::filesystem::path pathOf(std::string_view utf8) {
+  return std::u8string(utf8.begin(), utf8.end());
+}
+
+inline std::string utf8Of(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
 /// An empty folder that goes away with all it holds. Paths are UTF-8.
 class TemporaryFolder {
  public:
@@ -29,12 +39,12 @@ class TemporaryFolder {
   const std::filesystem::path& path() const { return path_; }
 
   /// The path of a name inside.
-  std::string operator/(std::string_view name) const { return (path_ / name).string(); }
+  std::string operator/(std::string_view name) const { return utf8Of(path_ / pathOf(name)); }
 
   std::set<std::string> names() const {
     std::set<std::string> result;
     for (const auto& entry : std::filesystem::directory_iterator(path_))
-      result.insert(entry.path().filename().string());
+      result.insert(utf8Of(entry.path().filename()));
     return result;
   }
 
@@ -43,12 +53,12 @@ class TemporaryFolder {
 };
 
 inline std::string bytesOf(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
+  std::ifstream stream(pathOf(path), std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 inline void putBytes(const std::string& path, std::string_view bytes) {
-  std::ofstream stream(path, std::ios::binary);
+  std::ofstream stream(pathOf(path), std::ios::binary);
   stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
