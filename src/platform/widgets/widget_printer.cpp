@@ -20,7 +20,7 @@ constexpr double kTwipsPerInch = 1440;
 bool askInDialog(QPrinter& printer) {
   // The dialog goes away with the window below it, wherever that may be taken down.
   const QPointer<QPrintDialog> dialog = new QPrintDialog(&printer, QApplication::activeWindow());
-  dialog->setOptions(QAbstractPrintDialog::PrintToFile);
+  dialog->setOptions(printDialogOptions());
   const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
   delete dialog;
   return accepted;
@@ -52,6 +52,14 @@ void paint(QPainter& painter, const PrintJob& job) {
 }
 
 }  // namespace
+
+QAbstractPrintDialog::PrintDialogOptions printDialogOptions() {
+#ifdef _WIN32
+  return {};
+#else
+  return QAbstractPrintDialog::PrintToFile;
+#endif
+}
 
 WidgetPrinter::WidgetPrinter() : WidgetPrinter(askInDialog) {}
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractPrintDialog>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -9,6 +10,10 @@
 class QPrinter;
 
 namespace zel {
+
+/// What the print dialog offers beside printers: a file, where it would get a document. On Windows
+/// it would get the printer's own language, under a name that nobody is asked for.
+QAbstractPrintDialog::PrintDialogOptions printDialogOptions();
 
 /// The desktop's printers, of which the user chooses one in the desktop's dialog. What was chosen
 /// last stays chosen while that printer is there.
