@@ -5,7 +5,9 @@
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QWindow>
+#include <algorithm>
 
 #include "base/language.h"
 
@@ -54,6 +56,18 @@ void Form::layOverCaller() {
   if (!caller || !caller->windowHandle()) return;
   winId();  // makes the window handle
   windowHandle()->setTransientParent(caller->windowHandle());
+  if (!isVisible()) moveOver(*caller);
+}
+
+void Form::moveOver(const QWidget& caller) {
+  if (!testAttribute(Qt::WA_Resized)) adjustSize();
+  const QRect screen = caller.screen()->availableGeometry();
+  QRect place(QPoint(), size());
+  place.moveCenter(caller.frameGeometry().center());
+  // Where it does not fit, its title and its left edge are seen.
+  place.moveRight(std::min(place.right(), screen.right()));
+  place.moveBottom(std::min(place.bottom(), screen.bottom()));
+  move(std::max(place.left(), screen.left()), std::max(place.top(), screen.top()));
 }
 
 void Form::returnToCaller() {

@@ -49,8 +49,8 @@ class Form : public QMainWindow, public FormWindow, public FormControls {
   /// Called by showForm before the window is shown: reads FormParams.
   virtual void takeArguments() {}
 
-  /// Keeps a window that is modal over its caller, where that one has been shown. For
-  /// takeArguments.
+  /// Keeps a window that is modal over its caller, where that one has been shown, and lets it appear
+  /// in the middle of it. For takeArguments.
   void layOverCaller();
 
   /// Hides this window and shows the one under "llamador", as it was when this one was shown.
@@ -61,6 +61,8 @@ class Form : public QMainWindow, public FormWindow, public FormControls {
   void setCaller(FormWindow* caller) { caller_ = caller; }
 
  private:
+  void moveOver(const QWidget& caller);
+
   Program& program_;
   FormWindow* caller_ = nullptr;
 };

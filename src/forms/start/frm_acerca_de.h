@@ -17,6 +17,7 @@ class frmAcercaDe : public Form {
   void assignCaptions() override;
 
  protected:
+  void takeArguments() override { layOverCaller(); }
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 

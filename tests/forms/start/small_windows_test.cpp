@@ -1,5 +1,6 @@
 // The presentation, the language choice and the about box.
 #include <QRadioButton>
+#include <QScreen>
 
 #include "forms/start/frm_acerca_de.h"
 #include "forms/start/frm_idioma.h"
@@ -190,6 +191,53 @@ TEST_F(AboutBox, ClosesWithEscapeAndEnterAndInItsLanguage) {
   expectAccessibleNames(window);
   QTest::keyClick(&window, Qt::Key_Escape);
   EXPECT_EQ(caller.shown, 1);
+}
+
+/// A caller with a place on the screen.
+class PlacedWindow : public QWidget, public FormWindow {
+ public:
+  void showForm() override { show(); }
+};
+
+class AboutBoxOverAWindow : public WindowTest {
+ protected:
+  /// Where the box appears over a window with this place.
+  QRect shownOver(const QRect& place) {
+    caller.setGeometry(place);
+    caller.showForm();
+    program.params.removeAll();
+    program.params.Add("llamador", static_cast<FormWindow*>(&caller));
+    window.showForm();
+    return window.geometry();
+  }
+
+  PlacedWindow caller;
+  frmAcercaDe window{program};
+};
+
+TEST_F(AboutBoxOverAWindow, AppearsInItsMiddle) {
+  const QRect first(100, 150, 600, 400);
+  EXPECT_LE((shownOver(first).center() - first.center()).manhattanLength(), 2);
+  window.close();
+  const QRect second(120, 200, 610, 380);
+  EXPECT_LE((shownOver(second).center() - second.center()).manhattanLength(), 2);
+}
+
+TEST_F(AboutBoxOverAWindow, StaysOnTheScreen) {
+  const QRect screen = window.screen()->availableGeometry();
+  const QRect corner(screen.bottomRight() - QPoint(50, 50), QSize(40, 40));
+  EXPECT_TRUE(screen.contains(shownOver(corner)));
+  window.close();
+  EXPECT_TRUE(
+      screen.contains(shownOver(QRect(screen.topLeft() - QPoint(200, 200), QSize(40, 40)))));
+}
+
+TEST_F(AboutBoxOverAWindow, StaysWhereItIsWhileItIsShown) {
+  const QRect place(100, 150, 600, 400);
+  shownOver(place);
+  window.move(10, 20);
+  window.showForm();
+  EXPECT_EQ(window.pos(), QPoint(10, 20));
 }
 
 }  // namespace
