@@ -2,10 +2,15 @@
 # Each *_test.sh below tests/, called with the path of zel-cli and the source folder; a script that
 # ends with 77 was skipped. Those of tests/cli and tests/docs need zel-cli; those of tests/house look
 # at the sources only; those of tests/platform and tests/packaging belong to the builds that have the
-# windows.
+# windows; those of tests/windows are the only ones of the builds for Windows, and run under Wine.
 function(zel_test_scripts)
   file(GLOB_RECURSE scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}"
     "${CMAKE_CURRENT_SOURCE_DIR}/*_test.sh")
+  if(WIN32)
+    list(FILTER scripts INCLUDE REGEX "^windows/")
+  else()
+    list(FILTER scripts EXCLUDE REGEX "^windows/")
+  endif()
   if(NOT TARGET zel-cli)
     list(FILTER scripts EXCLUDE REGEX "^(cli|docs)/")
   endif()
@@ -17,7 +22,7 @@ function(zel_test_scripts)
     get_filename_component(folder "${script}" DIRECTORY)
     add_test(NAME "${name}"
       COMMAND bash "${CMAKE_CURRENT_SOURCE_DIR}/${script}"
-        "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zel-cli" "${PROJECT_SOURCE_DIR}")
+        "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zel-cli${CMAKE_EXECUTABLE_SUFFIX}" "${PROJECT_SOURCE_DIR}")
     set_tests_properties("${name}" PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 600 LABELS "${folder}")
   endforeach()
 endfunction()

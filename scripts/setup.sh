@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages of the named groups that are missing, and nothing else:
-#   scripts/setup.sh build|test|package|chroot|pictures|wine|bench|fuzz|tidy|format|coverage...
+#   scripts/setup.sh build|test|package|chroot|pictures|wine|windows|bench|fuzz|tidy|format|coverage...
 set -euo pipefail
 
 declare -A groups=(
@@ -15,6 +15,8 @@ declare -A groups=(
   [chroot]="debootstrap"
   [pictures]="librsvg2-bin"
   [wine]="wine64"
+  [windows]="g++-mingw-w64-x86-64-posix dpkg-dev nasm make nsis zip
+    wine wine64 fonts-wine fonts-liberation xvfb xauth"
   [bench]="gnuplot-nox libbenchmark-dev libmuparser-dev python3 x11-utils xvfb"
   [fuzz]="clang libclang-rt-14-dev"
   [tidy]="clang clang-tidy"

@@ -7,7 +7,11 @@
 namespace zel {
 
 std::vector<std::string> helpFolders(const std::string& program_folder) {
+#ifdef _WIN32
+  return {program_folder};
+#else
   return {program_folder, program_folder + "/../share/zel/help", ZEL_HELP_SOURCE_DIR};
+#endif
 }
 
 std::optional<HelpFile> readHelpFile(const std::vector<std::string>& folders,

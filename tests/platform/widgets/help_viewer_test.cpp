@@ -312,12 +312,16 @@ TEST_F(HelpOfWidgets, PassesOverOtherCommands) {
 TEST(HelpFiles, AreLookedForInOrder) {
   const TemporaryFolder program;
   const auto folders = helpFolders(program.path().string());
+  const auto textOf = [&folders] { return readHelpFile(folders, "ayuda_es.hlp")->text; };
+#ifdef _WIN32
+  EXPECT_THAT(folders, ElementsAre(program.path().string()));
+#else
   EXPECT_THAT(folders,
               ElementsAre(program.path().string(), program.path().string() + "/../share/zel/help",
                           std::string(ZEL_SOURCE_DIR) + "/help"));
-  const auto textOf = [&folders] { return readHelpFile(folders, "ayuda_es.hlp")->text; };
   EXPECT_EQ(textOf(), bytesOf(folders.back() + "/ayuda_es.hlp"));
   EXPECT_EQ(readHelpFile(folders, "ayuda_es.hlp")->folder, folders.back());
+#endif
   putBytes(program / "ayuda_es.hlp", "beside the program");
   EXPECT_EQ(textOf(), "beside the program");
   EXPECT_FALSE(readHelpFile(folders, ""));

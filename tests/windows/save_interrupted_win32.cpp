@@ -1,0 +1,183 @@
+// save_interrupted FOLDER: saves a document over another one, in processes that end themselves
+// before the first, the second, ... call that touches a file, and after each; then one that is let
+// be. Whatever a stopped process leaves must be the older or the newer document, whole.
+//
+// The calls are caught where the program's import table would be: this file has the pointers that
+// the linker would take from the import library.
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+
+#include "files/whole_file.h"
+
+namespace {
+
+constexpr UINT kStopped = 77;
+
+int stop_before = 0;  // at this call from the first; 0 never
+int stop_after = 0;
+int calls = 0;
+
+template <class Function>
+Function* systemFunction(const char* name) {
+  return reinterpret_cast<Function*>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), name)));
+}
+
+void stop() { TerminateProcess(GetCurrentProcess(), kStopped); }
+
+/// Calls the system's function of this name, or ends the process before or behind it.
+template <class Function, class... Arguments>
+auto counted(const char* name, Arguments... arguments) {
+  ++calls;
+  if (calls == stop_before) stop();
+  const auto result = systemFunction<Function>(name)(arguments...);
+  const DWORD error = GetLastError();
+  if (calls == stop_after) stop();
+  SetLastError(error);
+  return result;
+}
+
+HANDLE WINAPI createFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
+                         DWORD disposition, DWORD flags, HANDLE from) {
+  return counted<decltype(CreateFileW)>("CreateFileW", path, access, share, security, disposition,
+                                        flags, from);
+}
+
+BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED way) {
+  return counted<decltype(WriteFile)>("WriteFile", file, bytes, count, written, way);
+}
+
+BOOL WINAPI flushFile(HANDLE file) {
+  return counted<decltype(FlushFileBuffers)>("FlushFileBuffers", file);
+}
+
+BOOL WINAPI closeHandle(HANDLE handle) {
+  return counted<decltype(CloseHandle)>("CloseHandle", handle);
+}
+
+BOOL WINAPI replaceFile(LPCWSTR path, LPCWSTR by, LPCWSTR backup, DWORD flags, LPVOID, LPVOID) {
+  return counted<decltype(ReplaceFileW)>("ReplaceFileW", path, by, backup, flags, nullptr, nullptr);
+}
+
+BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
+  return counted<decltype(MoveFileExW)>("MoveFileExW", from, to, flags);
+}
+
+BOOL WINAPI deleteFile(LPCWSTR path) { return counted<decltype(DeleteFileW)>("DeleteFileW", path); }
+
+}  // namespace
+
+extern "C" {
+extern const decltype(&createFile) caught_create __asm__("__imp_CreateFileW");
+extern const decltype(&writeFile) caught_write __asm__("__imp_WriteFile");
+extern const decltype(&flushFile) caught_flush __asm__("__imp_FlushFileBuffers");
+extern const decltype(&closeHandle) caught_close __asm__("__imp_CloseHandle");
+extern const decltype(&replaceFile) caught_replace __asm__("__imp_ReplaceFileW");
+extern const decltype(&moveFile) caught_move __asm__("__imp_MoveFileExW");
+extern const decltype(&deleteFile) caught_delete __asm__("__imp_DeleteFileW");
+const decltype(&createFile) caught_create = createFile;
+const decltype(&writeFile) caught_write = writeFile;
+const decltype(&flushFile) caught_flush = flushFile;
+const decltype(&closeHandle) caught_close = closeHandle;
+const decltype(&replaceFile) caught_replace = replaceFile;
+const decltype(&moveFile) caught_move = moveFile;
+const decltype(&deleteFile) caught_delete = deleteFile;
+}
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kOld(300000, 'o');
+const std::string kNew(2500000, 'n');  // more than one call of WriteFile
+
+std::string utf8(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+std::string bytesOf(const fs::path& path) {
+  std::ifstream stream(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// How the process ended that was to stop at this call.
+DWORD saveInProcess(const fs::path& path, const std::string& when, int call) {
+  std::wstring command(32768, L'\0');
+  command.resize(GetModuleFileNameW(nullptr, command.data(), 32768));
+  command = L"\"" + command + L"\" " + fs::path(when).wstring() + L" " + std::to_wstring(call) +
+            L" \"" + path.wstring() + L"\"";
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                      &process))
+    return 0;
+  WaitForSingleObject(process.hProcess, INFINITE);
+  DWORD status = 0;
+  GetExitCodeProcess(process.hProcess, &status);
+  return status;
+}
+
+/// What is wrong with what a stopped process left; empty when nothing is.
+std::string complaint(const fs::path& folder, const fs::path& document, bool existed) {
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    const std::string name = utf8(entry.path().filename());
+    if (entry.path() != document && !name.starts_with(".zel-")) return "a file " + name;
+  }
+  if (!fs::exists(document)) return existed ? "no document" : "";
+  const std::string bytes = bytesOf(document);
+  if (bytes == kNew || (existed && bytes == kOld)) return {};
+  return "neither document, but " + std::to_string(bytes.size()) + " bytes";
+}
+
+/// Stops at every call in turn. False for a complaint.
+bool holds(const fs::path& folder, const std::string& when, bool existed) {
+  const fs::path document = folder / u8"é Ω.zel";
+  int call = 0;
+  for (DWORD status = kStopped; status == kStopped;) {
+    ++call;
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    if (existed) std::ofstream(document, std::ios::binary) << kOld;
+    status = saveInProcess(document, when, call);
+    const std::string wrong = complaint(folder, document, existed);
+    if (!wrong.empty() || (status != kStopped && (status != 0 || bytesOf(document) != kNew))) {
+      std::cout << when << " call " << call << ": " << wrong << " (status " << status << ")\n";
+      return false;
+    }
+  }
+  std::cout << (existed ? "over a document, " : "a new document, ") << when << ": " << call - 1
+            << " calls\n";
+  constexpr int kFewest = 6;  // open, write thrice, flush, close, and the move
+  return call > kFewest;
+}
+
+int saveAndStop(const std::wstring& when, const std::wstring& call, const fs::path& path) {
+  calls = 0;
+  (when == L"before" ? stop_before : stop_after) = std::stoi(call);
+  const bool written = static_cast<bool>(zel::writeWholeFile(utf8(path), kNew).written);
+  stop_before = stop_after = 0;
+  return written ? 0 : 1;
+}
+
+}  // namespace
+
+int wmain(int count, wchar_t** wide) {
+  if (count == 4) return saveAndStop(wide[1], wide[2], wide[3]);
+  if (count != 2) return 2;
+  const fs::path folder = fs::path(wide[1]) / "whole";
+  bool all_hold = true;
+  for (const char* const when : {"before", "after"})
+    for (const bool existed : {true, false})
+      if (!holds(folder, when, existed)) all_hold = false;
+  fs::remove_all(folder);
+  return all_hold ? 0 : 1;
+}
