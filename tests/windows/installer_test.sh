@@ -1,0 +1,96 @@
+#!/usr/bin/env bash
+# The installer under Wine: silent, a document opened as the desktop would, zel-cli, an installation
+# over another one, and a removal that leaves nothing.
+set -uo pipefail
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "$0")/wine.sh"
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "$0")/screen.sh"
+setup=$(echo "$root"/build/windows/zel-*-setup.exe)
+[[ -f $setup ]] || skip "there is no installer (scripts/windows.sh makes it)"
+
+# A Windows of its own, with a user's folders.
+export WINEPREFIX=$work/home WINEPATH=''
+wine cmd /c exit || { cat "$work/wine.log"; exit 1; }
+drive=$WINEPREFIX/drive_c
+
+# value KEY NAME: a text of the registry; /ve for the key's own.
+value() { wine reg query "$1" ${2:+/v} "${2:-/ve}" | tr -d '\r' | sed -n 's/.*REG_[A-Z]* *//p'; }
+files() { (cd "$drive" && find . -type f | grep -v -e '\.tmp$' -e '/Temp/' | LC_ALL=C sort); }
+keys() {
+  wine reg export "$1" "Z:${work//\//\\}\\$2.reg" /y >/dev/null
+  iconv -f utf-16 -t utf-8 "$work/$2.reg" | tr -d '\r' | grep '^\[' | grep -v '[\]Wine[\]'
+}
+expect() { [[ $2 == "$3" ]] || complain "$1: expected '$3', found '$2'"; }
+
+files >"$work/files.before"
+keys 'HKCU\Software' before >"$work/keys.before"
+keys 'HKLM\Software\Classes' before >>"$work/keys.before"
+
+wine "$setup" /S
+place=$(find "$drive/users" -type d -path '*/AppData/Local/Programs/ZEL')
+[[ -f $place/zel.exe && -f $place/zel.installed && -f $place/uninstall.exe ]] ||
+  complain "not installed"
+native="C:${place#"$drive"}"
+native=${native//\//\\}
+expect "document type" "$(value 'HKCU\Software\Classes\.zel')" zel
+expect "icon" "$(value 'HKCU\Software\Classes\zel\DefaultIcon')" "$native\\doc.ico"
+command=$(value 'HKCU\Software\Classes\zel\shell\open\command')
+expect "command" "$command" "\"$native\\zel.exe\" \"%1\""
+expect "version" "$(value 'HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\ZEL' DisplayVersion)" \
+  "$(basename "$setup" | sed 's/zel-\(.*\)-setup.exe/\1/')"
+[[ -n $(find "$drive" -name ZEL.lnk) ]] || complain "no shortcut"
+for file in ayuda_es.hlp ayuda_en.hlp doc.ico examples/conics.zel licences/LICENSE.txt \
+  translations/qtbase_es.qm; do
+  [[ -s $place/$file ]] || complain "$file is not installed"
+done
+
+cp "$root/examples/waves.zel" "$work/olas é Ω.zel"
+(cd "$place" && wine ./zel-cli.exe resave "$work/olas é Ω.zel" "$work/copia.zel") ||
+  complain "zel-cli does not run: $(<"$work/wine.log")"
+same "resaved" "$work/olas é Ω.zel" "$work/copia.zel"
+
+# The first start, with a document, by the command that is registered; the second one by the
+# document's type, which the first one has told Windows as well. (Wine does not look at the user's
+# own classes.)
+open_screen
+opened="ZEL - olas é Ω.zel"
+mkdir "$work/elsewhere"
+(cd "$work/elsewhere" && exec "$root/scripts/wine.sh" "$place/zel.exe" "../olas é Ω.zel") \
+  >"$work/zel.log" 2>&1 &
+program=$!
+children+=("$program")
+window 'ZEL - (Idioma|Language)'
+keys Return
+window ZEL
+keys Return
+window "$opened"
+keys alt+F4
+ended "$program"
+[[ -s $drive/users/$(id -un)/AppData/Roaming/zel/config.ini ]] || complain "no configuration"
+[[ -z $(find "$work/elsewhere" -mindepth 1) ]] || complain "it leaves files where it is started"
+wine start /unix "$work/olas é Ω.zel"
+window ZEL
+keys Return
+window "$opened"
+keys alt+F4
+gone "$opened"
+
+# Over itself, and away.
+touch "$place/of the user.txt"
+wine "$setup" /S
+[[ -f $place/zel.exe ]] || complain "not installed again"
+[[ -s $drive/users/$(id -un)/AppData/Roaming/zel/config.ini ]] || complain "the configuration is lost"
+wine "$place/uninstall.exe" /S
+# It goes on in a copy of itself.
+is_alone() { [[ $(find "$place" -type f) == "$place/of the user.txt" ]]; }
+seconds 60 is_alone || complain "left: $(find "$place" -type f)"
+rm "$place/of the user.txt"
+rmdir "$place" || complain "left: $(find "$place")"
+files >"$work/files.after"
+keys 'HKCU\Software' after >"$work/keys.after"
+keys 'HKLM\Software\Classes' after >>"$work/keys.after"
+diff "$work/files.before" "$work/files.after" || complain "files are left"
+diff "$work/keys.before" "$work/keys.after" || complain "keys are left"
+
+[[ $failures -eq 0 ]]
