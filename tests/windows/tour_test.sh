@@ -1,0 +1,154 @@
+#!/usr/bin/env bash
+# The program as its user meets it, under Wine, in both languages: the first start, a function
+# declared, plotted, traced and evaluated, help, a page printed, the document saved under a name
+# that no code page has, and opened again from the command line. TOUR_PICTURES=FOLDER keeps pictures
+# of the screens.
+set -uo pipefail
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "$0")/wine.sh"
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "$0")/screen.sh"
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "$0")/print_server.sh"
+pictures=${TOUR_PICTURES:-$work}
+mkdir -p "$pictures" "$work/run"
+"$root/scripts/windows_package.sh" --folder "$work/ZEL" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
+
+export WINEPATH=''
+open_screen
+start_print_server "$work/printer" || skip "no print server"
+children+=("$print_server")
+export CUPS_SERVER=$work/printer/socket
+
+look() { import -window root "$pictures/$code-$1.png"; }
+# changes FROM TO COMPLAINT: waits until the screen is another one than in picture FROM, and keeps it.
+changes() { seconds 30 differs "$1" "$2" || fail "$3"; }
+differs() {
+  local count
+  look "$2"
+  count=$(compare -metric AE "$pictures/$code-$1.png" "$pictures/$code-$2.png" null: 2>&1)
+  [[ ${count%%.*} != 0 ]]
+}
+# colourful NAME: whether the screen has more colours than an empty plot, and keeps it.
+colourful() {
+  look "$1"
+  [[ $(convert "$pictures/$code-$1.png" -unique-colors -format '%w' info:) -gt 20 ]]
+}
+# click RIGHT BOTTOM [BUTTON]: so far from the corner of the window that has the focus; with "-" from
+# the other one.
+click() {
+  local window width height x=${1#-} y=${2#-}
+  window=$(xdotool getactivewindow)
+  read -r width height < <(xdotool getwindowgeometry "$window" | sed -n 's/.*Geometry: \(.*\)x/\1 /p')
+  [[ $1 == -* ]] || x=$((width - x))
+  [[ $2 == -* ]] || y=$((height - y))
+  xdotool mousemove --window "$window" "$x" "$y" sleep 0.2 click "${3:-1}" sleep 0.3
+}
+start() {
+  (cd "$work/run" && exec "$root/scripts/wine.sh" "$work/ZEL/zel.exe" "$@") >"$work/zel.log" 2>&1 &
+  program=$!
+  children+=("$program")
+}
+
+# tour CODE MAIN EDITOR PLOT VALUE INFORMATION PRINT HELP SAVE: the titles of the windows.
+tour() {
+  code=$1
+  local main=$2 editor=$3 plot=$4 value=$5 information=$6 print=$7 help=$8 save=$9
+  local saved="$work/run/onda é Ω $code.zel"
+  rm -f "$work/run/config.ini"
+
+  start
+  window 'ZEL - (Idioma|Language)'
+  [[ $code == ES ]] || keys Down
+  sleep 0.5
+  look first
+  keys Return
+  window ZEL
+  look presentation
+  keys Return
+  window "$main"
+  keys alt+a
+  window "$editor"
+  xdotool type --delay 60 '7*sen(60*x)'
+  sleep 0.5
+  look editor
+  keys Return
+  gone "$editor"
+  window "$main"
+  look main
+  click 90 40
+  window "$plot"
+  seconds 30 colourful plot || fail "nothing is drawn"
+  keys Right
+  changes plot panned "the arrow keys do not pan"
+  sleep 0.5
+  look panned
+  click -330 -330
+  changes panned traced "a click does not trace"
+
+  keys Tab Right Right Right Right Right Right Right Right Right Right Right space
+  window "$value"
+  xdotool type --delay 60 2
+  look value
+  keys Return
+  window "$information"
+  look information
+  keys Escape
+  window "$value"
+  keys Escape
+  window "$plot"
+
+  keys F1
+  window "$help"
+  look help
+  keys Escape
+  gone "$help"
+  window "$plot"
+  keys ctrl+p
+  window "$print"
+  sleep 1
+  look print
+  # The key is that of the button's name; the dialog is the system's own.
+  keys "alt+$([[ $code == ES ]] && echo i || echo p)"
+  window Print
+  look printer
+  keys Return
+  gone Print
+  seconds 60 test -s "$work/printer/out/page.ps"
+  grep -aq '^%%Title: ZEL' "$work/printer/out/page.ps" || fail "no page comes out"
+  rm "$work/printer/out/page.ps"
+  window "$print"
+  keys Escape
+  gone "$print"
+  window "$plot"
+  keys alt+F4
+  window "$main"
+  keys ctrl+s
+  window "$save"
+  # The name comes from the clipboard: not every keyboard has its letters.
+  printf 'Z:%s' "${saved//\//\\}" | xclip -selection clipboard
+  sleep 1
+  keys alt+n
+  keys ctrl+v
+  sleep 1
+  look save
+  keys Return
+  window "ZEL - $(basename "$saved")"
+  grep -q '^ecuacion=7\*sen(60\*x)' "$saved" || fail "the document does not hold the function"
+  keys alt+F4
+  ended "$program"
+  grep -q "^$code" "$work/run/config.ini" || fail "the language was not kept"
+
+  start "$saved"
+  window ZEL
+  keys Return
+  window "ZEL - $(basename "$saved")"
+  look opened
+  keys alt+F4
+  ended "$program"
+}
+
+tour ES 'ZEL - Datos iniciales' 'Agregar nuevo gráfico' 'ZEL - Gráficos' \
+  'Cálculo de un valor específico' 'Información' 'Imprimir Gráfico' 'Ayuda de ZEL' 'Guardar como'
+tour EN 'ZEL - Graphic manager' 'New graphic' 'ZEL - Graphics' 'Evaluate specific values\.' \
+  'Information' 'Print graphics' 'ZEL Help' 'Save As'
