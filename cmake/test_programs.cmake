@@ -31,7 +31,8 @@ function(zel_tests folder)
   if(WIN32)
     # One process for all of them: under Wine each takes half a second to start.
     add_test(NAME ${target} COMMAND ${target})
-    set_tests_properties(${target} PROPERTIES TIMEOUT 600 LABELS ${folder})
+    set_tests_properties(${target} PROPERTIES TIMEOUT 600 LABELS ${folder}
+      ENVIRONMENT "LANG=es_ES.UTF-8;ZEL_MONKEY_EVENTS=10000")
     return()
   endif()
   # The tests are listed when ctest starts, not by the build: a program that cannot start is a

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds, once, what the Windows programs and tests need beside Qt: ISA-L from Debian's source and
-# GoogleTest from /usr/src; and links the headers of the libraries that are headers only.
+# GoogleTest from /usr/src.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
@@ -12,7 +12,7 @@ say "Building the libraries of the Windows programs in $windows_libraries (under
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 rm -rf "$windows_libraries"
-mkdir -p "$windows_libraries"/{include,lib/pkgconfig,share/cmake}
+mkdir -p "$windows_libraries"/{include,lib/pkgconfig}
 
 build_isal() {
   debian_source libisal "$work/isal"
@@ -39,13 +39,8 @@ build_googletest() {
   cmake --build "$work/googletest" --target install
 }
 
-link_headers() {
-  ln -s /usr/include/CLI /usr/include/nlohmann "$windows_libraries/include/"
-  ln -s /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$windows_libraries/share/cmake/"
-}
-
 log=$windows_libraries/build.log
-{ build_isal && build_googletest && link_headers; } >"$log" 2>&1 || {
+{ build_isal && build_googletest; } >"$log" 2>&1 || {
   cat "$log"
   say "They cannot be built"
   exit 1

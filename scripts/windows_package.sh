@@ -53,7 +53,7 @@ add_programs() {
 add_documents() {
   local package
   mkdir "$folder"/{translations,examples,licences}
-  cp packaging/windows/{qt.conf,doc.ico} help/*.hlp "$folder/"
+  cp -r packaging/windows/qt.conf packaging/doc.ico help/. "$folder/"
   cp /usr/share/qt6/translations/qtbase_es.qm "$folder/translations/"
   cp examples/*.zel "$folder/examples/"
   cp LICENSE "$folder/licences/LICENSE.txt"

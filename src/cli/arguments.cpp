@@ -69,9 +69,9 @@ std::string unprotected(std::string argument) {
 
 std::string unprotectedFile(std::string argument) {
   const bool is_verbatim = argument.starts_with(kVerbatimMark);
-  std::string file = unprotected(std::move(argument));
-  if (!is_verbatim && isDashed(file)) throw NoSuchOption(file);
-  return file;
+  if (isMarked(argument)) argument.erase(0, 1);
+  if (!is_verbatim && isDashed(argument)) throw NoSuchOption(argument);
+  return argument;
 }
 
 CLI::Option* addText(CLI::App& command, const std::string& name, std::optional<std::string>& text,

@@ -95,6 +95,7 @@ DWORD findTarget(const std::wstring& path, std::wstring& target) {
   target = path;
   const DWORD attributes = GetFileAttributesW(path.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return GetLastError();
+  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return ERROR_ACCESS_DENIED;  // to some it opens
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return NO_ERROR;
   const DWORD size = GetFinalPathNameByHandleW(file.handle(), nullptr, 0, FILE_NAME_NORMALIZED);
   if (size == 0) return GetLastError();

@@ -62,7 +62,8 @@ void Form::layOverCaller() {
 void Form::moveOver(const QWidget& caller) {
   if (!testAttribute(Qt::WA_Resized)) adjustSize();
   const QRect screen = caller.screen()->availableGeometry();
-  QRect place(QPoint(), size());
+  const QSize frame = caller.frameGeometry().size() - caller.size();  // this one's is not known yet
+  QRect place(QPoint(), size() + frame);
   place.moveCenter(caller.frameGeometry().center());
   // Where it does not fit, its title and its left edge are seen.
   place.moveRight(std::min(place.right(), screen.right()));

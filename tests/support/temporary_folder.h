@@ -20,13 +20,14 @@ inline std::string utf8Of(const std::filesystem::path& path) {
   return {text.begin(), text.end()};
 }
 
-/// An empty folder that goes away with all it holds. Paths are UTF-8.
+/// An empty folder that goes away with all it holds. Paths are UTF-8, with "/" on every system.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
     std::random_device random;
     do {
-      path_ = std::filesystem::temp_directory_path() / ("zel-test-" + std::to_string(random()));
+      const auto name = "zel-test-" + std::to_string(random());
+      path_ = (std::filesystem::temp_directory_path() / name).generic_u8string();
     } while (!std::filesystem::create_directory(path_));
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
@@ -39,7 +40,9 @@ class TemporaryFolder {
   const std::filesystem::path& path() const { return path_; }
 
   /// The path of a name inside.
-  std::string operator/(std::string_view name) const { return utf8Of(path_ / pathOf(name)); }
+  std::string operator/(std::string_view name) const {
+    return utf8Of(path_) + "/" + std::string(name);
+  }
 
   std::set<std::string> names() const {
     std::set<std::string> result;

@@ -9,23 +9,25 @@ set -uo pipefail
 setup=$(echo "$root"/build/windows/zel-*-setup.exe)
 [[ -f $setup ]] || skip "there is no installer (scripts/windows.sh makes it)"
 
-# A Windows of its own, with a user's folders.
-export WINEPREFIX=$work/home WINEPATH=''
-wine cmd /c exit || { cat "$work/wine.log"; exit 1; }
+export WINEPATH=''
+open_screen
+own_windows
 drive=$WINEPREFIX/drive_c
 
 # value KEY NAME: a text of the registry; /ve for the key's own.
 value() { wine reg query "$1" ${2:+/v} "${2:-/ve}" | tr -d '\r' | sed -n 's/.*REG_[A-Z]* *//p'; }
 files() { (cd "$drive" && find . -type f | grep -v -e '\.tmp$' -e '/Temp/' | LC_ALL=C sort); }
-keys() {
+registry_keys() {
   wine reg export "$1" "Z:${work//\//\\}\\$2.reg" /y >/dev/null
   iconv -f utf-16 -t utf-8 "$work/$2.reg" | tr -d '\r' | grep '^\[' | grep -v '[\]Wine[\]'
 }
 expect() { [[ $2 == "$3" ]] || complain "$1: expected '$3', found '$2'"; }
 
+# What another test may have left in the Windows that this one is a copy of.
+for key in zel .zel; do wine reg delete "HKLM\\Software\\Classes\\$key" /f >/dev/null; done
 files >"$work/files.before"
-keys 'HKCU\Software' before >"$work/keys.before"
-keys 'HKLM\Software\Classes' before >>"$work/keys.before"
+registry_keys 'HKCU\Software' before >"$work/keys.before"
+registry_keys 'HKLM\Software\Classes' before >>"$work/keys.before"
 
 wine "$setup" /S
 place=$(find "$drive/users" -type d -path '*/AppData/Local/Programs/ZEL')
@@ -53,7 +55,6 @@ same "resaved" "$work/olas é Ω.zel" "$work/copia.zel"
 # The first start, with a document, by the command that is registered; the second one by the
 # document's type, which the first one has told Windows as well. (Wine does not look at the user's
 # own classes.)
-open_screen
 opened="ZEL - olas é Ω.zel"
 mkdir "$work/elsewhere"
 (cd "$work/elsewhere" && exec "$root/scripts/wine.sh" "$place/zel.exe" "../olas é Ω.zel") \
@@ -88,8 +89,8 @@ seconds 60 is_alone || complain "left: $(find "$place" -type f)"
 rm "$place/of the user.txt"
 rmdir "$place" || complain "left: $(find "$place")"
 files >"$work/files.after"
-keys 'HKCU\Software' after >"$work/keys.after"
-keys 'HKLM\Software\Classes' after >>"$work/keys.after"
+registry_keys 'HKCU\Software' after >"$work/keys.after"
+registry_keys 'HKLM\Software\Classes' after >>"$work/keys.after"
 diff "$work/files.before" "$work/files.after" || complain "files are left"
 diff "$work/keys.before" "$work/keys.after" || complain "keys are left"
 

@@ -5,7 +5,7 @@ for tool in Xvfb openbox xdotool xprop xclip import; do
   command -v "$tool" >/dev/null || skip "no $tool"
 done
 children=() # the processes that end with the test
-trap 'kill "${children[@]}" 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
+trap 'end_windows; kill "${children[@]}" 2>/dev/null; wait 2>/dev/null; rm -rf "$work"' EXIT
 
 # seconds COUNT COMMAND...: waits until the command succeeds, at most so many seconds.
 seconds() {

@@ -16,6 +16,7 @@ mkdir -p "$pictures" "$work/run"
 
 export WINEPATH=''
 open_screen
+own_windows
 start_print_server "$work/printer" || skip "no print server"
 children+=("$print_server")
 export CUPS_SERVER=$work/printer/socket

@@ -21,6 +21,14 @@ wine() { timeout 120 "$root/scripts/wine.sh" "$@" 2>"$work/wine.log"; }
 cli() { timeout 120 "$root/scripts/wine.sh" "$cli_path" "$@"; }
 linux_cli() { "$linux_path" "$@"; }
 
+# A Windows of the test's own, which shows its windows on the screen that is open by now.
+own_windows() {
+  wine cmd /c exit
+  cp -a "$root/build/wine" "$work/home"
+  export WINEPREFIX=$work/home
+}
+end_windows() { [[ ${WINEPREFIX:-} != "$work/home" ]] || timeout 60 /usr/lib/wine/wineserver64 -k; }
+
 complain() {
   printf 'failed: %s\n' "$*"
   failures=$((failures + 1))
