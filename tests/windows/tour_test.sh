@@ -51,6 +51,14 @@ start() {
   children+=("$program")
 }
 
+# brought KEY TITLE: whether the window is there; where it is not, presses the key and looks a while. A
+# key that is pressed while a box goes away can be lost.
+brought() {
+  is_shown "$2" && return
+  keys "$1"
+  seconds 5 is_shown "$2"
+}
+
 # tour CODE MAIN EDITOR PLOT VALUE INFORMATION PRINT HELP SAVE: the titles of the windows.
 tour() {
   code=$1
@@ -99,13 +107,13 @@ tour() {
   keys Escape
   window "$plot"
 
-  keys F1
+  seconds 60 brought F1 "$help"
   window "$help"
   look help
   keys Escape
   gone "$help"
   window "$plot"
-  keys ctrl+p
+  seconds 60 brought ctrl+p "$print"
   window "$print"
   sleep 1
   look print
