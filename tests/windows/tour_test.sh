@@ -107,12 +107,15 @@ tour() {
   keys Escape
   window "$plot"
 
-  seconds 60 brought F1 "$help"
-  window "$help"
-  look help
-  keys Escape
-  gone "$help"
-  window "$plot"
+  # Help topics are offered in Spanish only.
+  if [[ $code == ES ]]; then
+    seconds 60 brought F1 "$help"
+    window "$help"
+    look help
+    keys Escape
+    gone "$help"
+    window "$plot"
+  fi
   seconds 60 brought ctrl+p "$print"
   window "$print"
   sleep 1
