@@ -54,8 +54,8 @@ int run(int& argument_count, char** arguments) {
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
   zel::Forms forms(program, document);
+  forms.started = [&] { application.failed = [&] { zel::tellUnstableMemory(program); }; };
   if (!forms.begin(step)) return EXIT_FAILURE;
-  application.failed = [&] { zel::tellUnstableMemory(program); };
   return QApplication::exec();
 }
 

@@ -36,4 +36,20 @@ DecodedCharacter decodeCharacter(std::string_view text) {
   return {character, static_cast<std::size_t>(continuations) + 1};
 }
 
+bool isControl(char32_t character) {
+  return character < 0x20 || (character >= 0x7F && character <= 0x9F);
+}
+
+bool holdsControl(std::string_view text) {
+  constexpr unsigned char kLeadOfHighControls = 0xC2;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if (byte < 0x80
+            ? isControl(byte)
+            : byte == kLeadOfHighControls && isControl(decodeCharacter(text.substr(i)).character))
+      return true;
+  }
+  return false;
+}
+
 }  // namespace zel

@@ -14,4 +14,9 @@ struct DecodedCharacter {
 /// The first character of a text that is not empty.
 DecodedCharacter decodeCharacter(std::string_view text);
 
+/// Line breaks, tabs and all others below the blank, and those from U+007F to U+009F.
+bool isControl(char32_t character);
+/// Whether one of them is in the text.
+bool holdsControl(std::string_view text);
+
 }  // namespace zel

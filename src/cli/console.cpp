@@ -52,10 +52,6 @@ std::string_view inLanguage(std::string_view spanish, std::string_view english) 
   return CurrentLanguage() == "EN" ? english : spanish;
 }
 
-bool isControl(char32_t character) {
-  return character < 0x20 || (character >= 0x7F && character <= 0x9F);
-}
-
 std::string hexadecimal(char32_t control) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   return {kDigits[control >> 4], kDigits[control & 0xF]};

@@ -32,8 +32,6 @@ struct Console {
 /// One of two texts of the command line's own, by the current language.
 std::string_view inLanguage(std::string_view spanish, std::string_view english);
 
-bool isControl(char32_t character);
-
 /// The two digits of a control character's number: "1b" for Esc.
 std::string hexadecimal(char32_t control);
 

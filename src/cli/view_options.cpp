@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "app/main_commands.h"
+#include "base/text.h"
 #include "cli/arguments.h"
 #include "numbers/number_text.h"
 
@@ -28,7 +29,7 @@ std::int16_t readQuality(const std::string& argument) {
 std::optional<std::vector<double>> readRange(const MainView& fields) {
   std::vector<double> result;
   for (const std::string& field : {fields.xi, fields.xf, fields.yi, fields.yf}) {
-    const auto number = readNumber(field);
+    const auto number = readNumber(stripRelationSigns(field));
     if (!number) return std::nullopt;
     result.push_back(*number);
   }

@@ -10,20 +10,17 @@
 #include <string>
 
 #include "base/code_page.h"
+#include "base/utf8.h"
 #include "files/document_parser.h"
 
 namespace zel {
 namespace {
 
-bool isControl(char character) {
-  return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
-}
-
-bool isPlain(std::string_view text) { return std::ranges::none_of(text, isControl); }
+bool isPlain(std::string_view text) { return !holdsControl(text); }
 
 bool isPlain(const GraphDef& def) {
   const std::array<std::string_view, 3> texts = {def.carpeta, def.codigo, def.ecuacion};
-  return !(def.tipo != '\0' && isControl(def.tipo)) &&
+  return isPlain(kindText(def)) &&
          std::ranges::all_of(texts, [](auto text) { return isPlain(text); }) &&
          (!def.parameters || std::ranges::all_of(*def.parameters, [](const auto& entry) {
            return isPlain(entry.key) && isPlain(entry.value);

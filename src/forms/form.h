@@ -49,8 +49,8 @@ class Form : public QMainWindow, public FormWindow, public FormControls {
   /// Called by showForm before the window is shown: reads FormParams.
   virtual void takeArguments() {}
 
-  /// Keeps a window that is modal over its caller, where that one has been shown, and lets it appear
-  /// in the middle of it. For takeArguments.
+  /// Keeps a window that is modal over its caller, where that one has been shown, and lets it
+  /// appear in the middle of it. For takeArguments.
   void layOverCaller();
 
   /// Hides this window and shows the one under "llamador", as it was when this one was shown.

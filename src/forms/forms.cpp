@@ -22,10 +22,8 @@ Forms::~Forms() = default;
 
 bool Forms::begin(StartStep step) {
   return carryOutStart(program_, [&] {
-    if (step == StartStep::first_start)
-      chooseLanguage();
-    else
-      showPresentation();
+    if (step != StartStep::first_start) return finishStart();
+    chooseLanguage();
     chooseHelpFile(program_);
   });
 }
@@ -33,12 +31,15 @@ bool Forms::begin(StartStep step) {
 void Forms::chooseLanguage() {
   QApplication::setWindowIcon(programIcon());
   idioma_ = std::make_unique<frmIdioma>(program_);
-  idioma_->accepted = [this] {
-    showPresentation();
-    chooseHelpFile(program_);
-  };
+  idioma_->accepted = [this] { finishStart(); };
   idioma_->refused = [this] { program_.end_process(); };
   idioma_->showForm();
+}
+
+void Forms::finishStart() {
+  showPresentation();
+  chooseHelpFile(program_);
+  started();
 }
 
 void Forms::showPresentation() {

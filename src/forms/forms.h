@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -27,8 +28,12 @@ class Forms {
   /// which hands over to the main window. False when it failed, which was told.
   bool begin(StartStep step);
 
+  /// Called when all windows are there: what fails from now on is no failed start.
+  std::function<void()> started = [] {};
+
  private:
   void chooseLanguage();
+  void finishStart();
   void showPresentation();
   void loadForms();
 

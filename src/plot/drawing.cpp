@@ -98,6 +98,7 @@ RedrawOutcome Drawing::drawGraphs(const Viewport& viewport, Flag& flag) {
     graph_ = letter;
     const bool drawn = drawGraph(tools, *def);
     if (flag.isAbandoned()) return RedrawOutcome::abandoned;
+    putParameterBack();
     if (!drawn) return RedrawOutcome::failed;
     screen_.runPendingEvents();
     if (flag.isAbandoned()) return RedrawOutcome::abandoned;
@@ -116,9 +117,7 @@ bool Drawing::drawGraph(const CurveTools& tools, const GraphDef& def) {
 
 bool Drawing::drawFamily(const CurveTools& tools, const GraphDef& def) {
   parameter_ = engine_.GetP();
-  const bool drawn = sweepFamily(tools, def);
-  putParameterBack();
-  return drawn;
+  return sweepFamily(tools, def);
 }
 
 void Drawing::putParameterBack() {

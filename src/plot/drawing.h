@@ -70,6 +70,7 @@ class Drawing {
     void set(bool in_progress) override { drawing_.in_progress_ = in_progress; }
     bool isSet() const override { return drawing_.in_progress_ && !isAbandoned(); }
     bool isAbandoned() const override { return number_ != drawing_.latest_; }
+    void keepParameter(double p) override { drawing_.parameter_ = p; }
 
    private:
     Drawing& drawing_;
@@ -88,7 +89,7 @@ class Drawing {
   Screen& screen_;
   bool in_progress_ = false;
   std::optional<char> graph_;
-  std::optional<double> parameter_;  // the engine's "p" as it was before a family took it
+  std::optional<double> parameter_;  // what the engine's "p" is to be after the graph
   std::uint64_t latest_ = 0;         // the number of the redraw that owns the picture
   int nested_ = 0;                   // redraws that have begun and not returned
   bool begins_anew_ = false;         // the last of them, as soon as it notices

@@ -113,6 +113,15 @@ TEST_F(RenderCommand, ReadsTheScalesOfTheDocumentAsTheMainWindowDoes) {
   EXPECT_EQ(refusal(document("   ")), "Datos no válidos en declaraciones y/o rango.\n");
 }
 
+TEST_F(RenderCommand, ReadsTheRangeOfTheDocumentAsTheMainWindowDoes) {
+  const auto document = [&](const std::string& xi) {
+    return writeDocument("r.zel", "xi=" + xi + "\r\nxf=8\r\n", block('a', 'F', "x/2"));
+  };
+  const std::string plain = svg(document("-5"));
+  EXPECT_EQ(svg(document(" -5  ")), plain);
+  EXPECT_EQ(svg(document("=-5")), plain);
+}
+
 TEST_F(RenderCommand, WritesSvgToStandardOutput) {
   const CurrentFolderGuard current{std::filesystem::path(path("")).parent_path()};
   const std::string text = svg(line);

@@ -43,9 +43,9 @@ class DocumentCheck : public DocumentTest {
   }
 };
 
-const std::vector<std::string> kBroken = {"x^2\r\n", "5\r\n \r\nfoo", "\r",   "a\nb",
-                                          "\tx",     "x\x1F",         "\x7F", std::string("0\0", 2),
-                                          "\r\nx=1"};
+const std::vector<std::string> kBroken = {
+    "x^2\r\n", "5\r\n \r\nfoo",       "\r",      "a\nb",      "\tx",     "x\x1F",
+    "\x7F",    std::string("0\0", 2), "\r\nx=1", "x\xC2\x81", "\xC2\x9F"};
 
 TEST_F(DocumentCheck, RefusesAControlCharacterInAnyTextOfTheView) {
   ASSERT_FALSE(isRefused());

@@ -42,6 +42,21 @@ TEST_F(AllWindows, GoFromTheLanguageChoiceToTheMainWindow) {
   EXPECT_EQ(ends, 0);
 }
 
+TEST_F(AllWindows, HaveStartedOnceAllAreThere) {
+  ASSERT_EQ(startProgram(program), StartStep::first_start);
+  Forms forms(program, "");
+  int starts = 0;
+  forms.started = [&] {
+    ++starts;
+    EXPECT_EQ(program.help_file, "ayuda_es.hlp");
+    EXPECT_NE(shown("frmPresentacion"), nullptr);
+  };
+  forms.begin(StartStep::first_start);
+  EXPECT_EQ(starts, 0);
+  QTest::keyClick(shown("frmIdioma"), Qt::Key_Return);
+  EXPECT_EQ(starts, 1);
+}
+
 TEST_F(AllWindows, EndAndAskAgainWhenTheLanguageIsNotChosen) {
   ASSERT_EQ(startProgram(program), StartStep::first_start);
   Forms forms(program, "");

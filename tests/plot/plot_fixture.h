@@ -137,6 +137,7 @@ class CurveTest : public PlotTest, private DrawingFlag {
   void set(bool in_progress) override { in_progress_ = in_progress; }
   bool isSet() const override { return in_progress_; }
   bool isAbandoned() const override { return is_abandoned_; }
+  void keepParameter(double p) override { engine.SetP(p); }
 
   std::optional<SampleGrid> grid_;
   bool in_progress_ = false;

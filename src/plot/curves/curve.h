@@ -22,6 +22,9 @@ class DrawingFlag {
   virtual bool isSet() const = 0;
   /// Whether another redraw owns the picture by now; asked wherever pending events ran.
   virtual bool isAbandoned() const = 0;
+  /// A click has picked another member of a family while events ran: that "p" is to hold as soon
+  /// as the graph is drawn.
+  virtual void keepParameter(double p) = 0;
 };
 
 /// What a curve is drawn with.

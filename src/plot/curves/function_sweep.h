@@ -1,3 +1,7 @@
+// The pen: it goes down at the first sample that is defined and in the view, draws a straight line
+// to each next one, however far that is, and is lifted by a sample that is undefined or out of
+// view. Samples are evaluated in blocks, and pending events run between these.
+
 #pragma once
 
 #include <algorithm>
@@ -33,7 +37,8 @@ void sweepSamples(const CurveTools& tools, std::string_view code, const Visit& v
       const double p = tools.engine.GetP();
       tools.screen.runPendingEvents();
       if (tools.in_progress.isAbandoned()) return;
-      tools.engine.SetP(p);  // a click may have picked another member of a family
+      if (tools.engine.GetP() != p) tools.in_progress.keepParameter(tools.engine.GetP());
+      tools.engine.SetP(p);
     }
     const auto xs =
         tools.grid.xs().subspan(first).first(std::min(kSweepBlock, tools.grid.size() - first));

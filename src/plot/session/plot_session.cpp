@@ -45,8 +45,7 @@ void PlotSession::drawFirst() {
 }
 
 void PlotSession::redraw() {
-  const double traced = tracePosition();
-  if (drawView() && cursor_) trace(traced, 0);
+  if (drawView() && cursor_) trace(tracePosition(), 0);  // a click meanwhile may have moved it
 }
 
 bool PlotSession::drawView() {

@@ -1,8 +1,8 @@
-#include "numbers/elementary/mpfr_oracle.h"
-
 #include <cmath>
 
 #include <mpfr.h>
+
+#include "numbers/elementary/mpfr_oracle.h"
 
 namespace zel::test {
 namespace {

@@ -408,6 +408,39 @@ TEST_F(SessionToolsInDrawing, APressThatIsIgnoredTakesItsReleaseWithIt) {
   EXPECT_EQ(listener.drawn, 2);
 }
 
+/// A user who clicks once while a function of many samples is being drawn.
+class ClicksInAFunction : public PlotSessionTest {
+ protected:
+  void clickWhileDrawing(char letter, Point place) {
+    viewport.view.definicion = 2000;
+    screen.on_events = [this, letter, place, clicked = false](std::size_t) mutable {
+      const bool is_drawn =
+          !screen.statuses.empty() &&
+          screen.statuses.back().first.find(std::string(1, letter) + "(x)") != std::string::npos;
+      if (clicked || !is_drawn) return;
+      clicked = true;
+      session.mouseDown(MouseButton::left, place);
+    };
+    openAndDraw();
+  }
+};
+
+TEST_F(ClicksInAFunction, StillTraceWhereTheyWereWhenItIsDrawn) {
+  addFunction('c', "ln(x)");  // not defined where a trace begins otherwise
+  addFunction('d', "x");
+  clickWhileDrawing('d', {1050, 450});
+  EXPECT_EQ(session.mode(), PlotMode::recorrido);
+  EXPECT_TRUE(session.cursor());
+  EXPECT_NEAR(session.tracePosition(), 2, 0.01);
+}
+
+TEST_F(ClicksInAFunction, SetTheMemberThatIsFollowedFromThen) {
+  addFamilyAndFunction();
+  engine.SetP(1);
+  clickWhileDrawing('d', {900, 450});
+  EXPECT_EQ(engine.GetP(), 2);
+}
+
 TEST_F(SessionToolsInDrawing, PararDoesNotStopIt) {
   drawWith([&] { session.execute(PlotCommand::parar); });
   EXPECT_EQ(picture.pieces().size(), 5);
