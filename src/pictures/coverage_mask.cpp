@@ -1,3 +1,7 @@
+// A graph's coverage is gathered before its colour is laid on, so that no place of it gets darker
+// where its own lines meet. Tiles remember where anything was touched; blending and clearing walk
+// over those alone.
+
 #include "pictures/coverage_mask.h"
 
 #include <algorithm>

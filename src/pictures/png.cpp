@@ -1,3 +1,6 @@
+// The smallest PNG there is: one header, the rows without a filter in one compressed stream, and
+// the end. Filters would cost more time than they save bytes in a picture of lines.
+
 #include "pictures/png.h"
 
 #include <cstddef>

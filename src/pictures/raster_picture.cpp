@@ -1,3 +1,7 @@
+// Twips become pixels, points that lie on one line become one stroke, and strokes raise the
+// coverage of the current graph, which is blended when the next one begins or the picture is
+// finished. Axes are whole pixels, and one at the last place of the picture lies on its last pixel.
+
 #include "pictures/raster_picture.h"
 
 #include <algorithm>

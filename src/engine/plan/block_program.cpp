@@ -1,3 +1,7 @@
+// A plan for many x: each operation goes over a block of values before the next one begins, and
+// rounds them to 15 digits as the text would. A value that fails becomes none and stays none. The
+// loops are compiled for each instruction set and give the same bits.
+
 #include "engine/plan/block_program.h"
 
 #include <algorithm>

@@ -1,3 +1,8 @@
+// A code is taken apart once, by the same descent that the reference goes step by step, and each
+// split becomes an operation behind those of its operands: a list that is run from front to back. A
+// code that the grammar rejects has a plan too, which ends with the rejection, because what stands
+// before it may fail first.
+
 #include <bit>
 #include <cmath>
 #include <map>

@@ -1,3 +1,7 @@
+// A plan for one x: its operations one after the other over an array of values, each rounded to 15
+// digits as the text would. They are those of the blocks, so that one evaluation and a lane of a
+// sweep give the same bits.
+
 #include "engine/plan/scalar_program.h"
 
 #include <cmath>

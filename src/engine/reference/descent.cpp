@@ -1,3 +1,6 @@
+// One step down into a code: a number and a name are values, anything else is stripped of its
+// parentheses and split. The reducer and the maker of plans go down by the same step.
+
 #include "engine/reference/descent.h"
 
 #include "numbers/number_text.h"

@@ -1,3 +1,7 @@
+// Every strip takes the next slot and every split the next three, in the order in which an
+// evaluation asks for them. A valid cache answers from the slots; one that is not computes and
+// records. Nobody asks beyond the last slot: what does not fit is computed each time.
+
 #include "engine/reference/parse_cache.h"
 
 #include <algorithm>

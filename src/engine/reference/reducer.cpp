@@ -1,3 +1,7 @@
+// The code is reduced as its grammar says: split at the main operator, the left part first, then
+// the right one, then the operator on two number texts. A stack of its own takes the place of
+// recursion, so that a deep formula costs memory in proportion to its length and nothing else.
+
 #include "engine/reference/reducer.h"
 
 #include <optional>

@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -13,7 +14,10 @@
 #include <QSlider>
 
 #include "app/desktop.h"
+#include "app/messages.h"
 #include "base/language.h"
+#include "files/document.h"
+#include "files/whole_file.h"
 #include "forms/button_mnemonics.h"
 #include "forms/main/graph_list.h"
 
@@ -22,9 +26,11 @@ namespace {
 
 /// The first document among the files that are dragged; empty when there is none.
 QString documentIn(const QMimeData& data) {
-  for (const QUrl& url : data.urls())
-    if (url.isLocalFile() && url.fileName().endsWith(".zel", Qt::CaseInsensitive))
-      return url.toLocalFile();
+  for (const QUrl& url : data.urls()) {
+    // A name that is no UTF-8 does not come through whole, and then is no file's.
+    const QString path = url.toLocalFile();
+    if (path.endsWith(".zel", Qt::CaseInsensitive) && QFileInfo(path).isFile()) return path;
+  }
   return {};
 }
 
@@ -51,7 +57,13 @@ void frmDatosIni::showForm() {
 
 void frmDatosIni::openCommandLine(std::string command_line) {
   std::erase(command_line, '"');
-  if (!command_line.empty()) openPath(command_line);
+  if (command_line.empty()) return;
+  // What may be two names must not become a file of both.
+  const bool may_be_two = command_line.find(' ') != std::string::npos;
+  if (may_be_two && !fileExists(command_line))
+    ShowAttention(program().services.boxes, Localize(messages::kCannotOpen));
+  else
+    openPath(command_line);
 }
 
 void frmDatosIni::actProporcional(bool on) {

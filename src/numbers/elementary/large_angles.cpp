@@ -1,3 +1,7 @@
+// The reduction of Payne and Hanek: an angle is a whole number times a power of two, and of its
+// product with 2/pi only the bits around the point matter. Those before them are whole turns, those
+// behind them are too small; so a window of seven words of 2/pi is multiplied, exactly.
+
 #include "numbers/elementary/large_angles.h"
 
 #include <algorithm>

@@ -1,3 +1,6 @@
+// Schoolbook arithmetic on four limbs. Results are cut off, not rounded: the second stage has bits
+// to spare, and only the last step, to the nearest double, rounds.
+
 #include "numbers/elementary/wide.h"
 
 #include <algorithm>

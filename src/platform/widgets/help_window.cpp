@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -44,7 +45,8 @@ HelpWindow::HelpWindow()
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(makeBar());
   layout->addWidget(makeSplitter(), 1);
-  resize(150 * fontMetrics().averageCharWidth(), 46 * fontMetrics().lineSpacing());
+  resize(QSize(150 * fontMetrics().averageCharWidth(), 46 * fontMetrics().lineSpacing())
+             .boundedTo(screen()->availableSize() * 0.9));
   connectParts();
   addKeys();
 }

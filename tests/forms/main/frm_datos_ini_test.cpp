@@ -345,6 +345,24 @@ TEST_F(MainWindow, SaysWhyTheDocumentOfTheCommandLineIsRefused) {
   EXPECT_EQ(services.boxes.shown.size(), 1u);
 }
 
+TEST_F(MainWindow, MakesNoFileOfTwoNames) {
+  putBytes("a.zel", "");
+  putBytes("b.zel", "");
+  window.openCommandLine("a.zel b.zel");
+  ASSERT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(services.boxes.shown[0].text, "Error: No se pudo abrir el archivo.");
+  EXPECT_FALSE(std::filesystem::exists("a.zel b.zel"));
+}
+
+TEST_F(MainWindow, TakesNoDroppedNameThatIsNoFiles) {
+  QMimeData data;
+  data.setUrls({QUrl::fromEncoded("file:///nowhere/n%FF.zel")});
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  static_cast<QObject&>(window).event(&drop);
+  EXPECT_TRUE(services.boxes.shown.empty());
+  EXPECT_TRUE(program.document_name.empty());
+}
+
 TEST_F(MainWindow, OpensADocumentThatIsDroppedOnIt) {
   putBytes("d.zel",
            "[PRINCIPAL]\r\nversiones_compatibles=2.0\r\n \r\n[VISTA PRINCIPAL]\r\nxi=-4"
