@@ -97,8 +97,8 @@ RedrawOutcome Drawing::drawGraphs(const Viewport& viewport, Flag& flag) {
     picture_.beginGraph(letter, def->color);
     graph_ = letter;
     const bool drawn = drawGraph(tools, *def);
-    if (flag.isAbandoned()) return RedrawOutcome::abandoned;
     putParameterBack();
+    if (flag.isAbandoned()) return RedrawOutcome::abandoned;
     if (!drawn) return RedrawOutcome::failed;
     screen_.runPendingEvents();
     if (flag.isAbandoned()) return RedrawOutcome::abandoned;
