@@ -158,6 +158,15 @@ TEST_F(MainCommands, DeletesOnOkAlone) {
   EXPECT_EQ(services.boxes.shown, (std::vector<Box>{question, question}));
 }
 
+TEST_F(MainCommands, AsksBeforeADeletionInEnglish) {
+  SetCurrentLanguage("EN");
+  addFunction('a', "x");
+  program.configuration.confirm_deletion = true;
+  EXPECT_FALSE(deleteGraphs(program, "a"));
+  EXPECT_EQ(services.boxes.shown,
+            (std::vector<Box>{{"Confirm remove selected item?", "ZEL", BoxStyle::ok_cancel}}));
+}
+
 TEST_F(MainCommands, SaveAsKeepsTheChosenNameAndOpensAgain) {
   addFunction('a', "x^2");
   services.files.paths = {"uno.zel"};
@@ -184,6 +193,15 @@ TEST_F(MainCommands, SaveAsSaysWhenNothingCouldBeWritten) {
   saveDocumentAs(program, MainView());
   EXPECT_EQ(services.boxes.shown,
             std::vector<Box>{attention("Error: No se pudo salvar.\r\nCausa: código 2")});
+}
+
+TEST_F(MainCommands, SaveAsSaysInEnglishWhenNothingCouldBeWritten) {
+  SetCurrentLanguage("EN");
+  services.files.paths = {"no/such/folder.zel"};
+  saveDocumentAs(program, MainView());
+  ASSERT_EQ(services.boxes.shown.size(), 1U);
+  EXPECT_TRUE(services.boxes.shown[0].text.starts_with("Error: Cannot save file.\r\nReason: code "))
+      << services.boxes.shown[0].text;
 }
 
 TEST_F(MainCommands, SaveAsGivesNoSystemsErrorForADocumentThatCannotBeWritten) {

@@ -64,6 +64,10 @@ TEST_F(FormulaCheck, AfterAFaultInAValidRecordOfTheSameFormulaRefusesItOnce) {
   EXPECT_EQ(evaluate("inv(x-1)", 1), kFault);
   EXPECT_EQ("! " + check("inv(x-1)"), kUserFunction);
   EXPECT_EQ(check("inv(x-1)"), "ok");
+  SetCurrentLanguage("EN");
+  EXPECT_EQ(evaluate("inv(x-1)", 2), "= 1");
+  EXPECT_NE(evaluate("inv(x-1)", 1), "= 1");
+  EXPECT_EQ(check("inv(x-1)"), "Cannot understand expression: \r\nUser function");
 }
 
 }  // namespace

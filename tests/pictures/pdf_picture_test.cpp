@@ -109,6 +109,7 @@ TEST(PdfPicture, IsEmptyAgainWhenItIsCleared) {
   EXPECT_EQ(picture.bytes(), empty);
 }
 
+// The limit is kMaxContent where no other one is given.
 TEST(PdfPicture, TakesNothingMoreBeyondItsLimit) {
   const std::vector<void (*)(PdfPicture&)> curves = {
       [](PdfPicture& picture) {

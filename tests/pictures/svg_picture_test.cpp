@@ -175,6 +175,7 @@ TEST(SvgPicture, IsEmptyAgainWhenItIsCleared) {
             "<g id=\"graph-b\" stroke=\"#000000\">\n<polyline points=\"5,6 5,6\"/>\n</g>\n");
 }
 
+// The limit is kMaxText where no other one is given.
 TEST(SvgPicture, TakesNothingMoreBeyondItsLimit) {
   // One piece, pieces, dots or lines: whatever goes on forever.
   const std::vector<void (*)(SvgPicture&)> curves = {

@@ -45,7 +45,19 @@ constexpr Row kLabels[] = {
     {"LblEMenor", "Menor=", "Minor="},
     {"LblHDistancia", "Dist. del Centro a el", "Dist. from center to"},
     {"LblHVertice", "Vértice=", "Vertex="},
-    {"LblHFoco", "Foco=", "Focus="}};
+    {"LblHFoco", "Foco=", "Focus="},
+    {"LblCX", "X=", "X="},
+    {"LblCY", "Y=", "Y="},
+    {"LblEX", "X=", "X="},
+    {"LblEY", "Y=", "Y="},
+    {"LblPX", "X=", "X="},
+    {"LblPY", "Y=", "Y="},
+    {"LblHX", "X=", "X="},
+    {"LblHY", "Y=", "Y="},
+    {"LblTx", "X(t)=", "X(t)="},
+    {"LblTy", "Y(t)=", "Y(t)="},
+    {"LblTEntre", "<= t <=", "<= t <="},
+    {"LblZEntre", "<= P <=", "<= P <="}};
 
 TEST_F(EditorCaptions, NameTheLabels) {
   expectCaptions(kLabels, [&](const char* name) { return control<QLabel>(editor, name).text(); });

@@ -26,6 +26,7 @@ class PresentationWindow : public WindowTest {
 
 TEST_F(PresentationWindow, SaysWhatTheProgramIs) {
   EXPECT_EQ(label("LblVersion"), "ZEL 2.8");
+  EXPECT_EQ(label("LblCreditos"), "© 2026 ZEL · https://zel.example/");
   EXPECT_EQ(label("LblEstado"), "2.8.81.02.2008");
   EXPECT_EQ(label("LblQueEsZEL"), "Graficador de funciones matemáticas");
   EXPECT_EQ(window.getLlamador(), &main_window);
