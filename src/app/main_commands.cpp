@@ -100,7 +100,7 @@ bool openDocumentAt(Program& program, const std::string& path, MainView& view) {
 }
 
 bool openDocument(Program& program, MainView& view) {
-  const auto path = program.services.files.askOpen(kDocumentFilter);
+  const auto path = program.services.files.askOpen(kDocumentFilter, program.document_path);
   return path && openDocumentAt(program, *path, view);
 }
 
@@ -114,7 +114,7 @@ void saveDocument(Program& program, const MainView& view) {
 }
 
 void saveDocumentAs(Program& program, const MainView& view) {
-  const auto path = program.services.files.askSave(kDocumentFilter);
+  const auto path = program.services.files.askSave(kDocumentFilter, program.document_path);
   if (!path) return;
   setDocument(program, *path);
   // Whether the file was there before is not looked at here; only a write that failed is told.

@@ -34,10 +34,13 @@ class FileDialogs {
  public:
   virtual ~FileDialogs() = default;
   /// The path of an existing file; nothing when the user cancels. The filter has the form
-  /// "Name (*.ext)|*.ext".
-  virtual std::optional<std::string> askOpen(std::string_view filter) = 0;
+  /// "Name (*.ext)|*.ext". The dialog begins in the folder of the path that is proposed, with its
+  /// name; in the user's documents where there is none.
+  virtual std::optional<std::string> askOpen(std::string_view filter,
+                                             const std::string& proposal) = 0;
   /// A path in an existing folder; asks before a file would be replaced.
-  virtual std::optional<std::string> askSave(std::string_view filter) = 0;
+  virtual std::optional<std::string> askSave(std::string_view filter,
+                                             const std::string& proposal) = 0;
 };
 
 class ColourDialog {

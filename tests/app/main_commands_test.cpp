@@ -188,6 +188,19 @@ TEST_F(MainCommands, SaveAsKeepsTheChosenNameAndOpensAgain) {
   EXPECT_TRUE(services.boxes.shown.empty());
 }
 
+TEST_F(MainCommands, FileDialogsAreProposedThePathOfTheDocument) {
+  MainView view;
+  openDocument(program, view);
+  saveDocumentAs(program, view);
+  EXPECT_EQ(services.files.proposals, (std::vector<std::string>{"", ""}));
+  services.files.paths = {"uno.zel"};
+  saveDocumentAs(program, view);
+  openDocument(program, view);
+  saveDocumentAs(program, view);
+  const std::string path = absolutePath("uno.zel");
+  EXPECT_EQ(services.files.proposals, (std::vector<std::string>{"", "", "", path, path}));
+}
+
 TEST_F(MainCommands, SaveAsSaysWhenNothingCouldBeWritten) {
   services.files.paths = {"no/such/folder.zel"};
   saveDocumentAs(program, MainView());

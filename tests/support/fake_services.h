@@ -49,16 +49,21 @@ class FakeMessageBoxes : public MessageBoxes {
 
 class FakeFileDialogs : public FileDialogs {
  public:
-  std::optional<std::string> askOpen(std::string_view filter) override {
+  std::optional<std::string> askOpen(std::string_view filter,
+                                     const std::string& proposal) override {
     asked.push_back("open " + std::string(filter));
+    proposals.push_back(proposal);
     return takeAnswer(paths);
   }
-  std::optional<std::string> askSave(std::string_view filter) override {
+  std::optional<std::string> askSave(std::string_view filter,
+                                     const std::string& proposal) override {
     asked.push_back("save " + std::string(filter));
+    proposals.push_back(proposal);
     return takeAnswer(paths);
   }
 
   std::vector<std::string> asked;  // "open FILTER" or "save FILTER"
+  std::vector<std::string> proposals;
   std::deque<std::string> paths;
 };
 

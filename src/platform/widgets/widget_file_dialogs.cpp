@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
+#include <QStandardPaths>
 
 #include "platform/widgets/dialog_filter.h"
 #include "platform/widgets/qt_texts.h"
@@ -23,26 +24,39 @@ std::string aboutFile(const std::string& path, const char* spanish, const char* 
   return inLanguage(spanish, english).arg(fileName(path)).toStdString();
 }
 
+/// Lets the dialog begin with this path where there is such a folder, otherwise in the user's
+/// documents. A name that is no UTF-8 would come back as another one, and is not proposed.
+void begin(QFileDialog& dialog, const std::string& proposal) {
+  const QFileInfo file(toQt(proposal));
+  const bool is_whole = file.filePath().toStdString() == proposal;
+  if (proposal.empty() || !is_whole || !file.dir().exists()) {
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog.setDirectory(documents.exists() ? documents : QDir::home());
+    return;
+  }
+  dialog.setDirectory(file.dir());
+  if (!file.fileName().isEmpty()) dialog.selectFile(file.fileName());
+}
+
 }  // namespace
 
-WidgetFileDialogs::WidgetFileDialogs(MessageBoxes& boxes)
-    : boxes_(boxes), folder_(QDir::currentPath().toStdString()) {}
-
-std::optional<std::string> WidgetFileDialogs::askOpen(std::string_view filter) {
-  std::optional<std::string> path = ask(filter, Mode::open, {});
-  while (path && !mayOpen(*path)) path = ask(filter, Mode::open, {});
+std::optional<std::string> WidgetFileDialogs::askOpen(std::string_view filter,
+                                                      const std::string& proposal) {
+  std::optional<std::string> path = ask(filter, Mode::open, proposal);
+  while (path && !mayOpen(*path)) path = ask(filter, Mode::open, *path);
   return path;
 }
 
-std::optional<std::string> WidgetFileDialogs::askSave(std::string_view filter) {
+std::optional<std::string> WidgetFileDialogs::askSave(std::string_view filter,
+                                                      const std::string& proposal) {
   const std::string ending = filterEnding(filter);
-  std::string proposal;
+  std::string begins_with = proposal;
   for (;;) {
-    const std::optional<std::string> chosen = ask(filter, Mode::save, proposal);
+    const std::optional<std::string> chosen = ask(filter, Mode::save, begins_with);
     if (!chosen) return std::nullopt;
     std::string path = withEnding(*chosen, ending);
     if (maySave(path)) return path;
-    proposal = fileName(path).toStdString();
+    begins_with = path;
   }
 }
 
@@ -83,15 +97,11 @@ std::optional<std::string> WidgetFileDialogs::ask(std::string_view filter, Mode 
   QStringList filters;
   for (const std::string& each : dialogFilters(filter)) filters << toQt(each);
   dialog->setNameFilters(filters);
-  dialog->setDirectory(toQt(folder_));
-  if (!proposal.empty()) dialog->selectFile(toQt(proposal));
+  begin(*dialog, proposal);
   const bool accepted = dialog->exec() == QDialog::Accepted;
   std::optional<std::string> path;
-  if (dialog && accepted && !dialog->selectedFiles().isEmpty()) {
+  if (dialog && accepted && !dialog->selectedFiles().isEmpty())
     path = dialog->selectedFiles().constFirst().toStdString();
-    const QFileInfo file(toQt(*path));
-    if (file.dir().exists()) folder_ = file.absolutePath().toStdString();
-  }
   delete dialog;
   return path;
 }

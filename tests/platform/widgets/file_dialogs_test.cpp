@@ -10,6 +10,7 @@
 
 #include "platform/widgets/modal_driver.h"
 #include "platform/widgets/widget_file_dialogs.h"
+#include "support/environment_guard.h"
 #include "support/fake_services.h"
 #include "support/language_guard.h"
 #include "support/qt_application.h"
@@ -48,11 +49,11 @@ class FileDialogsOfWidgets : public ::testing::Test {
 
   std::optional<std::string> open(const std::vector<Step>& steps) {
     const ModalDriver<QFileDialog> driver(steps);
-    return files.askOpen(kZel);
+    return files.askOpen(kZel, proposal);
   }
   std::optional<std::string> save(const std::vector<Step>& steps) {
     const ModalDriver<QFileDialog> driver(steps);
-    return files.askSave(kZel);
+    return files.askSave(kZel, proposal);
   }
 
   LanguageGuard language_{"ES"};
@@ -60,6 +61,7 @@ class FileDialogsOfWidgets : public ::testing::Test {
   CurrentFolderGuard current_{folder_.path()};
   FakeMessageBoxes boxes;
   WidgetFileDialogs files{boxes};
+  std::string proposal = folder_ / "";  // the folder alone
 };
 
 TEST_F(FileDialogsOfWidgets, OpenAnExistingFile) {
@@ -73,9 +75,33 @@ TEST_F(FileDialogsOfWidgets, OpenAnExistingFile) {
             folder_ / "old.zel");
 }
 
-TEST_F(FileDialogsOfWidgets, BeginWhereTheProgramWasStarted) {
-  const CurrentFolderGuard later(folder_ / "inner");
-  EXPECT_EQ(open({type("old.zel")}), folder_ / "old.zel");
+TEST_F(FileDialogsOfWidgets, BeginInTheFolderOfTheDocumentWithItsName) {
+  proposal = folder_ / "inner/mine.zel";
+  const Step look = [&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder_ / "inner");
+    EXPECT_EQ(dialog.selectedFiles(), QStringList(QString::fromStdString(proposal)));
+    dialog.reject();
+  };
+  save({look});
+  putBytes(proposal, "x");
+  open({look});
+}
+
+TEST_F(FileDialogsOfWidgets, BeginInTheUsersDocumentsWithoutADocumentOrItsFolder) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the system knows its documents folder by other means";
+#endif
+  const EnvironmentGuard config("XDG_CONFIG_HOME", utf8Of(folder_.path()).c_str());
+  putBytes(folder_ / "user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"" + folder_ / "inner" + "\"\n");
+  const Step look = [&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder_ / "inner");
+    dialog.reject();
+  };
+  for (const std::string& without : {std::string(), folder_ / "gone/mine.zel"}) {
+    proposal = without;
+    save({look});
+    open({look});
+  }
 }
 
 TEST_F(FileDialogsOfWidgets, GiveNothingWhenCancelled) {
@@ -136,13 +162,12 @@ TEST_F(FileDialogsOfWidgets, WantAnExistingFolder) {
   EXPECT_EQ(boxes.shown.front().text, "The folder “" + utf8Of(nowhere) + "” does not exist.");
 }
 
-TEST_F(FileDialogsOfWidgets, BeginInTheFolderOfTheLastChoice) {
-  EXPECT_EQ(save({type("inner/new")}), folder_ / "inner/new.zel");
-  EXPECT_EQ(save({[&](QFileDialog& dialog) {
-              EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder_ / "inner");
-              dialog.reject();
-            }}),
-            std::nullopt);
+TEST_F(FileDialogsOfWidgets, ProposeNoNameThatWouldComeBackAsAnother) {
+  proposal = folder_ / "n\xFF.zel";
+  save({[&](QFileDialog& dialog) {
+    EXPECT_FALSE(dialog.selectedFiles().join(u' ').contains(QStringLiteral(".zel")));
+    dialog.reject();
+  }});
 }
 
 }  // namespace
