@@ -4,6 +4,7 @@
 #include <optional>
 #include <variant>
 
+#include "app/graph_changes.h"
 #include "app/messages.h"
 #include "app/new_graph.h"
 #include "base/language.h"
@@ -91,6 +92,7 @@ Insertion functionInsertion(std::string_view name) {
 }
 
 bool acceptEdited(Program& program, char letter, std::int32_t colour, const GraphFields& fields) {
+  const GraphTable before = program.graphs;
   std::string message;
   const Accepted accepted =
       acceptGraph(program.graphs, program.engine, letter, colour, fields, message);
@@ -98,7 +100,10 @@ bool acceptEdited(Program& program, char letter, std::int32_t colour, const Grap
     ShowAttention(program.services.boxes, message);
   else if (accepted == Accepted::refused)
     ReportError(program.services.boxes, message);
-  return accepted == Accepted::stored;
+  if (accepted != Accepted::stored) return false;
+  recordChange(program, before);
+  program.params.set("nombre", std::string(1, letter));
+  return true;
 }
 
 }  // namespace zel

@@ -49,7 +49,8 @@ struct Insertion {
 Insertion functionInsertion(std::string_view name);
 
 /// The accept: checks the fields and stores the graph, or says why not. True when it is stored and
-/// the editor closes. An arithmetic failure says nothing.
+/// the editor closes; "nombre" is its letter in FormParams then. An arithmetic failure says
+/// nothing.
 bool acceptEdited(Program& program, char letter, std::int32_t colour, const GraphFields& fields);
 
 }  // namespace zel

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "app/graph_changes.h"
 #include "app/messages.h"
 #include "base/language.h"
 #include "base/text.h"
@@ -92,6 +93,7 @@ bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller)
 }
 
 bool openDocumentAt(Program& program, const std::string& path, MainView& view) {
+  program.history.record(wholeState(program, view));
   setDocument(program, path);
   std::string message;
   if (loadDocument(path, view, program.graphs, program.header, message)) return true;
@@ -122,7 +124,8 @@ void saveDocumentAs(Program& program, const MainView& view) {
   if (!result.written) ShowAttention(program.services.boxes, saveFailure(result.error));
 }
 
-void newDocument(Program& program) {
+void newDocument(Program& program, const MainView& view) {
+  program.history.record(wholeState(program, view));
   program.document_name.clear();
   program.document_path.clear();
   program.params.removeAll();
@@ -149,7 +152,9 @@ bool deleteGraphs(Program& program, std::string_view letters) {
     if (program.services.boxes.show(question, "ZEL", BoxStyle::ok_cancel) != BoxAnswer::ok)
       return false;
   }
+  const GraphTable before = program.graphs;
   for (const char letter : letters) program.graphs.freeGraph(letter);
+  recordChange(program, before);
   return true;
 }
 

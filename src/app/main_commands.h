@@ -40,7 +40,8 @@ struct PlotFields {
 bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller);
 
 /// The document reader with its messages; the path becomes the current document's in any case. The
-/// view holds what the window's controls hold, and then what they are to hold.
+/// view holds what the window's controls hold, and then what they are to hold. Undo brings back
+/// what was there before.
 bool openDocumentAt(Program& program, const std::string& path, MainView& view);
 
 /// The Open command: asks for the path first. False when nothing was opened.
@@ -52,8 +53,8 @@ void saveDocument(Program& program, const MainView& view);
 /// The Save As command.
 void saveDocumentAs(Program& program, const MainView& view);
 
-/// The New command but for the window's own controls.
-void newDocument(Program& program);
+/// The New command but for the window's own controls, which hold this view: undo brings it back.
+void newDocument(Program& program, const MainView& view);
 
 /// Empties FormParams and adds the arguments of the editor for a new graph, or for this one.
 void prepareNewGraph(Program& program, FormWindow* caller);

@@ -5,6 +5,7 @@
 
 #include "app/desktop.h"
 #include "app/form_params.h"
+#include "app/graph_history.h"
 #include "app/services.h"
 #include "engine/engine.h"
 #include "files/absolute_path.h"
@@ -26,6 +27,7 @@ struct Program {
   std::string config_path = absolutePath(kConfigFile);
   Configuration configuration;
   GraphTable graphs;
+  GraphHistory history;
   Engine engine{[this](char letter) { return graphs.codeOf(letter); }};
   FormParams params = makeFormParams();
   ScaleMarks marks;  // set by the main window, read by the plot window

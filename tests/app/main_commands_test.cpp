@@ -175,7 +175,7 @@ TEST_F(MainCommands, SaveAsKeepsTheChosenNameAndOpensAgain) {
   saveDocumentAs(program, view);
   EXPECT_EQ(program.document_name, "uno.zel");
   EXPECT_EQ(services.files.asked.front(), "save Declaraciones ZEL (*.zel)|*.zel");
-  newDocument(program);
+  newDocument(program, view);
   EXPECT_EQ(program.graphs.count(), 0);
   EXPECT_EQ(program.document_name + program.document_path, "");
   EXPECT_EQ(program.params.Count(), 0u);
