@@ -44,6 +44,33 @@ TEST(KeyFilter, SwallowsLettersAndBlanks) {
   EXPECT_FALSE(passes(' ', "1"));
 }
 
+TEST(KeyFilter, KnowsWhyItSwallowsAKey) {
+  struct Row {
+    char32_t key;
+    const char* text;
+    bool refuse_minus;
+    KeyRefusal why;
+  };
+  const Row rows[] = {
+      {'-', "", true, KeyRefusal::minus_refused},
+      {'-', "-", true, KeyRefusal::minus_refused},
+      {'-', "-1", false, KeyRefusal::second_minus},
+      {' ', "", false, KeyRefusal::blank},
+      {'e', "2", false, KeyRefusal::small_exponent},
+      {'E', "", false, KeyRefusal::exponent_first},
+      {'E', "2E", false, KeyRefusal::second_exponent},
+      {'.', "1,5", false, KeyRefusal::second_separator},
+      {'x', "1", false, KeyRefusal::letter},
+      {'5', "1", false, KeyRefusal::none},
+      {'E', "2", false, KeyRefusal::none},
+      {',', "1", false, KeyRefusal::none},
+      {'-', "", false, KeyRefusal::none},
+  };
+  for (const Row& row : rows)
+    EXPECT_EQ(refusalOf(row.key, row.text, row.refuse_minus), row.why)
+        << static_cast<char>(row.key) << " in '" << row.text << "'";
+}
+
 TEST(KeyFilter, LetsDigitsControlsAndOtherSymbolsPass) {
   for (const char32_t key : U"0123456789+*/()\b\r\x1b") {
     if (key == 0) continue;  // the end of the literal
