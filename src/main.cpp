@@ -10,6 +10,7 @@
 #include "forms/forms.h"
 #include "platform/command_line.h"
 #include "platform/desktop_services.h"
+#include "platform/widgets/program_style.h"
 #include "platform/widgets/widget_services.h"
 
 namespace {
@@ -35,6 +36,7 @@ int run(int& argument_count, char** arguments) {
   QApplication::setApplicationName("zel");
   QApplication::setDesktopFileName("zel");
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setStyle(new zel::ProgramStyle);
 
   const QFileInfo file(QApplication::applicationFilePath());
   const std::string folder = file.absolutePath().toStdString();

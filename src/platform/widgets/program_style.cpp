@@ -1,0 +1,42 @@
+#include "platform/widgets/program_style.h"
+
+#include <QPainter>
+#include <QStyleOptionComplex>
+
+namespace zel {
+namespace {
+
+void drawFocus(const QStyleOption& option, QPainter& painter) {
+  if (!(option.state & QStyle::State_HasFocus)) return;
+  constexpr int kInset = 3;  // pixels, inside of a default button's own frame
+  constexpr qreal kRadius = 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2));
+  painter.setBrush(Qt::NoBrush);
+  const QRect inside = option.rect.adjusted(kInset, kInset, -kInset, -kInset);
+  painter.drawRoundedRect(inside, kRadius, kRadius);
+  painter.restore();
+}
+
+}  // namespace
+
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_PushButton) drawFocus(*option, *painter);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_ToolButton) drawFocus(*option, *painter);
+}
+
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* data) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+}  // namespace zel

@@ -1,0 +1,76 @@
+#include "platform/widgets/program_style.h"
+
+#include <QDialogButtonBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStyleOptionToolButton>
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "support/qt_application.h"
+
+namespace zel::test {
+namespace {
+
+class StyleOfTheProgram : public ::testing::Test {
+ protected:
+  StyleOfTheProgram() { application(); }
+
+  /// So many pixels of a drawn button have the colour that marks the focus.
+  template <class Option>
+  int marked(Option option, bool has_focus, const std::function<void(Option&, QPainter&)>& draw) {
+    QImage image(120, 40, QImage::Format_ARGB32);
+    image.fill(Qt::white);
+    option.rect = image.rect();
+    option.palette = QPalette(Qt::lightGray);
+    option.palette.setColor(QPalette::Highlight, Qt::magenta);
+    option.state = QStyle::State_Enabled | QStyle::State_Raised;
+    option.state.setFlag(QStyle::State_HasFocus, has_focus);
+    QPainter painter(&image);
+    draw(option, painter);
+    painter.end();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == Qt::magenta;
+    return count;
+  }
+  int markedPushButton(QStyleOptionButton::ButtonFeatures features, bool has_focus) {
+    QStyleOptionButton option;
+    option.features = features;
+    return marked<QStyleOptionButton>(
+        option, has_focus, [this](QStyleOptionButton& with, QPainter& painter) {
+          style.drawControl(QStyle::CE_PushButton, &with, &painter, nullptr);
+        });
+  }
+
+  static constexpr int kRing = 100;  // pixels, at least
+  ProgramStyle style;
+};
+
+TEST_F(StyleOfTheProgram, MarksAButtonThatHasTheFocusADefaultOneToo) {
+  for (const auto feature : {QStyleOptionButton::None, QStyleOptionButton::DefaultButton}) {
+    EXPECT_GT(markedPushButton(feature, true), kRing);
+    EXPECT_LT(markedPushButton(feature, false), kRing);
+  }
+}
+
+TEST_F(StyleOfTheProgram, MarksAToolButtonThatHasTheFocus) {
+  const auto draw = [this](QStyleOptionToolButton& with, QPainter& painter) {
+    with.subControls = QStyle::SC_ToolButton;
+    style.drawComplexControl(QStyle::CC_ToolButton, &with, &painter, nullptr);
+  };
+  EXPECT_GT(marked<QStyleOptionToolButton>({}, true, draw), kRing);
+  EXPECT_LT(marked<QStyleOptionToolButton>({}, false, draw), kRing);
+}
+
+TEST_F(StyleOfTheProgram, GivesTheButtonsOfDialogsNoIcons) {
+  QDialogButtonBox box;
+  box.setStyle(&style);
+  const QPushButton* const save = box.addButton(QDialogButtonBox::Save);
+  EXPECT_TRUE(save->icon().isNull());
+}
+
+}  // namespace
+}  // namespace zel::test
