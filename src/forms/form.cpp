@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGroupBox>
+#include <QHideEvent>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
@@ -37,6 +38,7 @@ void Form::showForm() {
   caller_ = callerOf(program_.params);
   ApplyLanguage();
   takeArguments();
+  takePlace();
   show();
   raise();
   activateWindow();
@@ -56,19 +58,43 @@ void Form::layOverCaller() {
   if (!caller || !caller->windowHandle()) return;
   winId();  // makes the window handle
   windowHandle()->setTransientParent(caller->windowHandle());
-  if (!isVisible()) moveOver(*caller);
+  if (!isVisible() && !place_) moveOver(*caller);
+}
+
+void Form::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous() && !isMaximized() && !isFullScreen()) place_ = geometry().topLeft();
+  QMainWindow::hideEvent(event);
+}
+
+/// To the window manager a window that comes back is a new one, which it puts where it likes unless
+/// it is told a place, even the one where it stands.
+void Form::takePlace() {
+  if (isVisible() || !place_ || isMaximized() || isFullScreen() || !windowHandle()) return;
+  const QRect place(*place_, size());
+  const QList<QScreen*> screens = QGuiApplication::screens();
+  const auto sees = [&](const QScreen* screen) {
+    return screen->availableGeometry().intersects(place);
+  };
+  if (std::any_of(screens.begin(), screens.end(), sees)) windowHandle()->setGeometry(place);
 }
 
 void Form::moveOver(const QWidget& caller) {
-  if (!testAttribute(Qt::WA_Resized)) adjustSize();
+  const bool has_size = testAttribute(Qt::WA_Resized);
+  if (!has_size) adjustSize();
   const QRect screen = caller.screen()->availableGeometry();
-  const QSize frame = caller.frameGeometry().size() - caller.size();  // this one's is not known yet
+  // This window's frame is not known yet, and is taken to be like its caller's.
+  const QRect outside = caller.frameGeometry();
+  const QSize frame = outside.size() - caller.size();
+  const QPoint inside = caller.geometry().topLeft() - outside.topLeft();
   QRect place(QPoint(), size() + frame);
-  place.moveCenter(caller.frameGeometry().center());
+  place.moveCenter(outside.center());
   // Where it does not fit, its title and its left edge are seen.
   place.moveRight(std::min(place.right(), screen.right()));
   place.moveBottom(std::min(place.bottom(), screen.bottom()));
-  move(std::max(place.left(), screen.left()), std::max(place.top(), screen.top()));
+  place.moveLeft(std::max(place.left(), screen.left()));
+  place.moveTop(std::max(place.top(), screen.top()));
+  setGeometry(QRect(place.topLeft() + inside, size()));
+  setAttribute(Qt::WA_Resized, has_size);  // in another language it may need another one
 }
 
 void Form::returnToCaller() {

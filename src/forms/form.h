@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QPixmap>
+#include <QPoint>
 #include <QString>
 #include <optional>
 #include <string>
@@ -49,9 +50,13 @@ class Form : public QMainWindow, public FormWindow, public FormControls {
   /// Called by showForm before the window is shown: reads FormParams.
   virtual void takeArguments() {}
 
-  /// Keeps a window that is modal over its caller, where that one has been shown, and lets it
-  /// appear in the middle of it. For takeArguments.
+  /// Keeps a window that is modal over its caller, where that one has been shown. It appears in the
+  /// middle of it where it has no place yet. For takeArguments.
   void layOverCaller();
+  /// Lets the window appear anew in the middle of its caller, wherever it stood.
+  void forgetPlace() { place_.reset(); }
+
+  void hideEvent(QHideEvent* event) override;
 
   /// Hides this window and shows the one under "llamador", as it was when this one was shown.
   void returnToCaller();
@@ -62,9 +67,12 @@ class Form : public QMainWindow, public FormWindow, public FormControls {
 
  private:
   void moveOver(const QWidget& caller);
+  /// Puts a window that was shown before where it stood, if that is still on a screen.
+  void takePlace();
 
   Program& program_;
   FormWindow* caller_ = nullptr;
+  std::optional<QPoint> place_;  // without its frame, when it was hidden last
 };
 
 }  // namespace zel

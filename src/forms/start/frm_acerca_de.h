@@ -17,7 +17,11 @@ class frmAcercaDe : public Form {
   void assignCaptions() override;
 
  protected:
-  void takeArguments() override { layOverCaller(); }
+  /// In the middle of its caller every time.
+  void takeArguments() override {
+    forgetPlace();
+    layOverCaller();
+  }
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
