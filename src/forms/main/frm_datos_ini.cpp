@@ -7,6 +7,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -64,6 +65,7 @@ void frmDatosIni::openCommandLine(std::string command_line) {
     ShowAttention(program().services.boxes, Localize(messages::kCannotOpen));
   else
     openPath(command_line);
+  program().history = {};  // what the program begins with is no change
 }
 
 void frmDatosIni::actProporcional(bool on) {
@@ -76,6 +78,8 @@ void frmDatosIni::takeArguments() {
   fillRangeBoxes();
   updateList();
   updateTitle();
+  const FormValue changed = program().params.Item("nombre");
+  if (const auto* letter = std::get_if<std::string>(&changed)) listaG_->selectLetters(*letter);
 }
 
 /// A box takes its value from the arguments; without one it keeps what it holds, and gets the
@@ -119,27 +123,17 @@ void frmDatosIni::setFields(const MainView& view) {
   txtEscalaY_->setText(toQt(view.escala_y));
 }
 
-void frmDatosIni::updateList() {
-  listaG_->listGraphs(program().graphs);
-  updateButtons();
-}
-
-void frmDatosIni::updateButtons() {
-  const std::string selected = listaG_->selectedLetters();
-  CmdModificar_->setEnabled(selected.size() == 1);
-  CmdBorrar_->setEnabled(!selected.empty());
-}
-
 void frmDatosIni::openPath(const std::string& path) {
   MainView view = fields();
   openDocumentAt(program(), path, view);
   setFields(view);
   updateTitle();
   updateList();
+  listaG_->selectFirst();
 }
 
 void frmDatosIni::mNuevo_Click() {
-  newDocument(program());
+  newDocument(program(), fields());
   for (QLineEdit* box : {txtRanXi_, txtRanXf_, txtRanYi_, txtRanYf_}) box->clear();
   fillRangeBoxes();
   updateTitle();
@@ -148,10 +142,11 @@ void frmDatosIni::mNuevo_Click() {
 
 void frmDatosIni::mAbrir_Click() {
   MainView view = fields();
-  openDocument(program(), view);
+  const bool opened = openDocument(program(), view);
   setFields(view);
   updateTitle();
   updateList();
+  if (opened) listaG_->selectFirst();
 }
 
 void frmDatosIni::mGuardar_Click() {
@@ -193,22 +188,6 @@ void frmDatosIni::mAcercaDeZel_Click() {
   targets_.about->showForm();
 }
 
-void frmDatosIni::CmdAgregar_Click() {
-  prepareNewGraph(program(), this);
-  targets_.editor->showForm();
-}
-
-void frmDatosIni::CmdModificar_Click() {
-  const std::string selected = listaG_->selectedLetters();
-  if (selected.empty()) return;
-  prepareGraphChange(program(), selected.front(), this);
-  targets_.editor->showForm();
-}
-
-void frmDatosIni::CmdBorrar_Click() {
-  if (deleteGraphs(program(), listaG_->selectedLetters())) updateList();
-}
-
 void frmDatosIni::CmdGraficarLista_Click() {
   const auto field = [this](const char* box, const char* label) {
     return Field{ReadFieldText(*this, box), ReadFieldText(*this, label)};
@@ -234,6 +213,16 @@ void frmDatosIni::Slider1_Change() {
 void frmDatosIni::closeEvent(QCloseEvent* event) {
   shutDown(program());
   event->accept();
+}
+
+/// From the boxes and the slider: the list and the buttons keep theirs. A key that is held down
+/// since it closed another window does not count.
+void frmDatosIni::keyPressEvent(QKeyEvent* event) {
+  const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!is_enter)
+    Form::keyPressEvent(event);
+  else if (!event->isAutoRepeat())
+    CmdGraficarLista_->click();
 }
 
 void frmDatosIni::dragEnterEvent(QDragEnterEvent* event) {

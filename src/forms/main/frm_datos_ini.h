@@ -51,6 +51,7 @@ class frmDatosIni : public Form {
  protected:
   void takeArguments() override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -59,6 +60,8 @@ class frmDatosIni : public Form {
   QAction* addCommand(QMenu* menu, const char* name, void (frmDatosIni::*handler)());
 
   void buildMenus();
+  void buildEditMenu();
+  void buildListMenu();
   void buildControls();
   QGroupBox* buildRange();
   QGroupBox* buildScale();
@@ -86,6 +89,11 @@ class frmDatosIni : public Form {
   void CmdBorrar_Click();
   void CmdGraficarLista_Click();
   void Slider1_Change();
+  void mDeshacer_Click();
+  void mRehacer_Click();
+  void mDuplicar_Click();
+  /// Undo or redo, and the window with it.
+  void takeBack(std::string (*change)(Program&, MainView&));
 
   MainView fields() const;
   void setFields(const MainView& view);
@@ -118,6 +126,7 @@ class frmDatosIni : public Form {
   QPushButton* CmdBorrar_ = nullptr;
   QPushButton* CmdGraficarLista_ = nullptr;
   QMenu* mArchivo_ = nullptr;
+  QMenu* mEdicion_ = nullptr;
   QMenu* mOpciones_ = nullptr;
   QMenu* mLenguaje_ = nullptr;
   QMenu* mAyuda_ = nullptr;

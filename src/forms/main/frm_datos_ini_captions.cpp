@@ -19,6 +19,7 @@ void frmDatosIni::assignCaptions() {
   applyControlCaptions();
   applyAccessibleNames();
   listaG_->applyLanguage(program().graphs);
+  updateButtons();
   updateLanguageMenu();
   updateTitle();
 }
@@ -33,6 +34,13 @@ void frmDatosIni::applyMenuCaptions() {
   set("mGuardar", "G&uardar", "&Save");
   set("mGuardarComo", "Guardar &como...", "Save &As...");
   set("mSalir", "&Salir", "Exit");
+  mEdicion_->setTitle(caption("&Edición", "Edit"));
+  set("mDeshacer", "&Deshacer", "&Undo");
+  set("mRehacer", "&Rehacer", "&Redo");
+  set("mAgregar", "&Agregar...", "&Add...");
+  set("mModificar", "&Modificar...", "&Edit...");
+  set("mDuplicar", "D&uplicar", "&Duplicate");
+  set("mBorrar", "&Borrar", "Re&move");
   mOpciones_->setTitle(caption("&Opciones", "Options"));
   set("mConfirmarBorrado", "&Pedir confirmación para borrar funciones",
       "&Confirm before removing functions");

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSlider>
 
 #include "forms/main/frm_datos_ini.h"
@@ -52,6 +53,8 @@ void frmDatosIni::buildMenus() {
   mArchivo_->addSeparator();
   addCommand(mArchivo_, "mSalir", &frmDatosIni::mSalir_Click)->setShortcut(QKeySequence::Quit);
 
+  buildEditMenu();
+
   mOpciones_ = menuBar()->addMenu(QString());
   addCommand(mOpciones_, "mConfirmarBorrado", &frmDatosIni::mConfirmarBorrado_Click)
       ->setCheckable(true);
@@ -73,6 +76,33 @@ void frmDatosIni::buildMenus() {
   mOpciones_->setObjectName("mOpciones");
   mLenguaje_->setObjectName("mLenguaje");
   mAyuda_->setObjectName("mAyuda");
+}
+
+void frmDatosIni::buildEditMenu() {
+  mEdicion_ = menuBar()->addMenu(QString());
+  mEdicion_->setObjectName("mEdicion");
+  addCommand(mEdicion_, "mDeshacer", &frmDatosIni::mDeshacer_Click)
+      ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+  addCommand(mEdicion_, "mRehacer", &frmDatosIni::mRehacer_Click)
+      ->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+  mEdicion_->addSeparator();
+  addCommand(mEdicion_, "mAgregar", &frmDatosIni::CmdAgregar_Click)->setShortcut(Qt::Key_Insert);
+  addCommand(mEdicion_, "mModificar", &frmDatosIni::CmdModificar_Click)->setShortcut(Qt::Key_F2);
+  addCommand(mEdicion_, "mDuplicar", &frmDatosIni::mDuplicar_Click)
+      ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
+  addCommand(mEdicion_, "mBorrar", &frmDatosIni::CmdBorrar_Click)->setShortcut(Qt::Key_Delete);
+}
+
+/// What can be done with the graphs is the list's context menu, too, and its keys are the list's
+/// own: elsewhere Delete is a box's.
+void frmDatosIni::buildListMenu() {
+  for (const char* name : {"mModificar", "mDuplicar", "mBorrar", "mAgregar"}) {
+    auto* action = findChild<QAction*>(QString::fromLatin1(name));
+    if (action->shortcut().count() == 1 && action->shortcut()[0].keyboardModifiers() == 0)
+      action->setShortcutContext(Qt::WidgetShortcut);
+    listaG_->addAction(action);
+  }
+  listaG_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void frmDatosIni::buildControls() {
@@ -97,12 +127,14 @@ void frmDatosIni::buildControls() {
   columns->addLayout(settings);
   setCentralWidget(centre);
   constexpr int kRoomForFormulas = 260;  // beside what the controls need
-  resize(sizeHint() + QSize(kRoomForFormulas, 0));
+  const QSize wanted = sizeHint() + QSize(kRoomForFormulas, 0);
+  resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 QLineEdit* frmDatosIni::makeNumberBox(const char* name, bool refuses_minus) {
   auto* box = makeTextBox(name);
   filterNumericKeys(*box, refuses_minus);
+  box->setAcceptDrops(false);  // a drop on it is the window's
   return box;
 }
 
@@ -162,11 +194,15 @@ QGroupBox* frmDatosIni::buildGraphs() {
   graph_frame_->setObjectName("fraGraficos");
   listaG_ = new GraphList;
   listaG_->setObjectName("listaG");
+  buildListMenu();
   CmdAgregar_ = makeButton("CmdAgregar");
   CmdModificar_ = makeButton("CmdModificar");
   CmdBorrar_ = makeButton("CmdBorrar");
   auto* buttons = new QHBoxLayout;
-  for (QPushButton* button : {CmdAgregar_, CmdModificar_, CmdBorrar_}) buttons->addWidget(button);
+  for (QPushButton* button : {CmdAgregar_, CmdModificar_, CmdBorrar_}) {
+    button->setAutoDefault(true);  // Enter clicks it while it has the focus
+    buttons->addWidget(button);
+  }
   buttons->addStretch();
   auto* column = new QVBoxLayout(graph_frame_);
   column->addWidget(listaG_, 1);
@@ -182,7 +218,6 @@ void frmDatosIni::connectControls() {
   connect(chkProporcional_, &QCheckBox::clicked, this, &frmDatosIni::actProporcional);
   connect(Slider1_, &QSlider::valueChanged, this, &frmDatosIni::Slider1_Change);
   connect(listaG_, &GraphList::editRequested, this, &frmDatosIni::CmdModificar_Click);
-  connect(listaG_, &GraphList::deleteRequested, this, &frmDatosIni::CmdBorrar_Click);
   connect(listaG_, &QTreeWidget::itemSelectionChanged, this, &frmDatosIni::updateButtons);
 }
 

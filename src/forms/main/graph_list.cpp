@@ -2,7 +2,10 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
 
 #include "forms/form.h"
 #include "forms/kind_captions.h"
@@ -16,23 +19,27 @@ enum Column { kName, kKind, kText };
 
 char letterOf(const QTreeWidgetItem& item) { return item.text(kName).at(0).toLatin1(); }
 
+/// The same in every state of its row: a style would tint it where the row is selected.
 QIcon swatch(std::int32_t colour) {
   constexpr int kSide = 32;
   constexpr qreal kRadius = 8;
+  constexpr QColor kEdge(128, 128, 128);  // seen on light and on dark
   QPixmap pixmap(kSide, kSide);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
+  painter.setPen(QPen(kEdge, 2));
   painter.setBrush(QColor(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF));
-  painter.drawRoundedRect(QRectF(2, 2, kSide - 4, kSide - 4), kRadius, kRadius);
+  painter.drawRoundedRect(QRectF(3, 3, kSide - 6, kSide - 6), kRadius, kRadius);
   painter.end();
-  return pixmap;
+  QIcon icon(pixmap);
+  icon.addPixmap(pixmap, QIcon::Selected);
+  return icon;
 }
 
 }  // namespace
 
-GraphList::GraphList(QWidget* parent) : QTreeWidget(parent) {
+GraphList::GraphList(QWidget* parent) : QTreeWidget(parent), hint_(new QLabel) {
   setColumnCount(3);
   setRootIsDecorated(false);
   setUniformRowHeights(true);
@@ -40,6 +47,11 @@ GraphList::GraphList(QWidget* parent) : QTreeWidget(parent) {
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   header()->setStretchLastSection(true);
   header()->setSectionsMovable(false);
+  hint_->setObjectName("LblVacia");
+  hint_->setAlignment(Qt::AlignCenter);
+  hint_->setWordWrap(true);
+  hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  (new QVBoxLayout(viewport()))->addWidget(hint_);
   connect(this, &QTreeWidget::itemDoubleClicked, this, [this] { emit editRequested(); });
 }
 
@@ -47,31 +59,42 @@ void GraphList::listGraphs(const GraphTable& graphs) {
   const std::string selected = selectedLetters();
   const QTreeWidgetItem* current = currentItem();
   const char current_letter = current ? letterOf(*current) : '\0';
+  const int place = selected.empty() ? -1 : indexOfTopLevelItem(selectedItems().constFirst());
   clear();
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const auto def = graphs.graph(letter);
-    if (!def || !def->defined) continue;
-    auto* item = new QTreeWidgetItem(this);
-    item->setText(kName, QString(QChar::fromLatin1(letter)));
-    item->setIcon(kName, swatch(def->color));
-    item->setForeground(kName,
-                        QColor(def->color & 0xFF, def->color >> 8 & 0xFF, def->color >> 16 & 0xFF));
-    QFont bold = font();
-    bold.setBold(true);
-    item->setFont(kName, bold);
-    item->setText(kKind, kindCaption(def->tipo));
-    item->setText(kText, inOneLine(toQt(displayText(*def))));
-    item->setToolTip(kText, toolTipOf(item->text(kText)));
-    if (letter == current_letter) setCurrentItem(item);
-    item->setSelected(selected.find(letter) != std::string::npos);
+    if (def && def->defined) addRow(*def);
   }
+  hint_->setVisible(topLevelItemCount() == 0);
   resizeColumnToContents(kName);
   resizeColumnToContents(kKind);
+  selectLetters(selected);
+  for (int row = 0; row < topLevelItemCount(); ++row) {
+    if (letterOf(*topLevelItem(row)) == current_letter)
+      setCurrentItem(topLevelItem(row), 0, QItemSelectionModel::NoUpdate);
+  }
+  const bool all_have_gone = place >= 0 && selectedItems().isEmpty();
+  if (all_have_gone && topLevelItemCount() > 0)
+    selectRows({topLevelItem(std::min(place, topLevelItemCount() - 1))});
+}
+
+void GraphList::addRow(const GraphDef& def) {
+  auto* item = new QTreeWidgetItem(this);
+  item->setText(kName, QString(QChar::fromLatin1(def.nombre)));
+  item->setIcon(kName, swatch(def.color));
+  QFont bold = font();
+  bold.setBold(true);
+  item->setFont(kName, bold);
+  item->setText(kKind, kindCaption(def.tipo));
+  item->setText(kText, inOneLine(toQt(displayText(def))));
+  item->setToolTip(kText, toolTipOf(item->text(kText)));
 }
 
 void GraphList::applyLanguage(const GraphTable& graphs) {
   setHeaderLabels(
       {caption("Nombre", "Name"), caption("Tipo", "Type"), caption("Declaración", "Definition")});
+  hint_->setText(caption("Agregue un gráfico, o suelte aquí un documento",
+                         "Add a graph, or drop a document here"));
   listGraphs(graphs);
 }
 
@@ -82,17 +105,30 @@ std::string GraphList::selectedLetters() const {
   return letters;
 }
 
-void GraphList::selectLetter(char letter) {
-  for (int row = 0; row < topLevelItemCount(); ++row)
-    if (letterOf(*topLevelItem(row)) == letter) setCurrentItem(topLevelItem(row));
+void GraphList::selectLetters(std::string_view letters) {
+  QList<QTreeWidgetItem*> rows;
+  for (int row = 0; row < topLevelItemCount(); ++row) {
+    if (letters.find(letterOf(*topLevelItem(row))) != std::string_view::npos)
+      rows << topLevelItem(row);
+  }
+  if (!rows.isEmpty()) selectRows(rows);
+}
+
+void GraphList::selectFirst() {
+  if (topLevelItemCount() > 0) selectRows({topLevelItem(0)});
+}
+
+/// By commands of their own: what is selected must not depend on the keys that are held down.
+void GraphList::selectRows(const QList<QTreeWidgetItem*>& rows) {
+  setCurrentItem(rows.constFirst(), 0,
+                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  for (QTreeWidgetItem* const row : rows) row->setSelected(true);
+  scrollToItem(rows.constFirst());
 }
 
 void GraphList::keyPressEvent(QKeyEvent* event) {
-  const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (is_enter && !selectedLetters().empty())
-    emit editRequested();
-  else if (event->key() == Qt::Key_Delete)
-    emit deleteRequested();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    emit editRequested();  // and the window's default button hears nothing of it
   else
     QTreeWidget::keyPressEvent(event);
 }

@@ -3,42 +3,13 @@
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 #include <QSignalSpy>
 
-#include "forms/main/graph_list.h"
-#include "forms/window_fixture.h"
-#include "support/patience.h"
+#include "frm_datos_ini_fixture.h"
 
 namespace zel::test {
 namespace {
-
-class MainWindow : public WindowTest {
- protected:
-  MainWindow() {
-    window.load();
-    window.setTargets({&editor, &plot, &about});
-  }
-
-  void click(const char* name) {
-    QTest::mouseClick(&control<QPushButton>(window, name), Qt::LeftButton);
-  }
-  void choose(const char* name) { control<QAction>(window, name).trigger(); }
-  void type(const char* box, const char* keys) {
-    QTest::keyClicks(&control<QLineEdit>(window, box), keys);
-  }
-  std::string typed(const char* box, const char* before, const char* keys) {
-    control<QLineEdit>(window, box).setText(before);
-    type(box, keys);
-    return text(window, box);
-  }
-  GraphList& list() { return control<GraphList>(window, "listaG"); }
-  std::string title() { return fromQt(window.windowTitle()); }
-
-  NotedWindow editor;
-  NotedWindow plot;
-  NotedWindow about;
-  frmDatosIni window{program};
-};
 
 TEST_F(MainWindow, BeginsWithTheDefaultsOfANewDocument) {
   window.showForm();
@@ -68,6 +39,7 @@ TEST_F(MainWindow, HasItsCaptionsInBothLanguages) {
                         {"fraRango", "RANGO", "Range"},
                         {"fraEscala", "ESCALA", "Ruler"}};
   const Row menus[] = {{"mArchivo", "A&rchivo", "File"},
+                       {"mEdicion", "&Edición", "Edit"},
                        {"mOpciones", "&Opciones", "Options"},
                        {"mLenguaje", "&Lenguaje", "Language"},
                        {"mAyuda", "&Ayuda", "Help"}};
@@ -77,6 +49,12 @@ TEST_F(MainWindow, HasItsCaptionsInBothLanguages) {
       {"mGuardar", "G&uardar", "&Save"},
       {"mGuardarComo", "Guardar &como...", "Save &As..."},
       {"mSalir", "&Salir", "Exit"},
+      {"mDeshacer", "&Deshacer", "&Undo"},
+      {"mRehacer", "&Rehacer", "&Redo"},
+      {"mAgregar", "&Agregar...", "&Add..."},
+      {"mModificar", "&Modificar...", "&Edit..."},
+      {"mDuplicar", "D&uplicar", "&Duplicate"},
+      {"mBorrar", "&Borrar", "Re&move"},
       {"mConfirmarBorrado", "&Pedir confirmación para borrar funciones",
        "&Confirm before removing functions"},
       {"mTemasDeAyuda", "Temas de Ayuda", "Contents"},
@@ -174,17 +152,16 @@ TEST_F(MainWindow, ShowsTheQualityAsAPercentage) {
   EXPECT_EQ(program.params.Item("definicion"), FormValue(std::int16_t{37}));
 }
 
-TEST_F(MainWindow, ListsTheGraphsInLetterOrderInTheirColours) {
-  addFunction('f', "x^2", 0x0000FF);
-  addFunction('a', "x", 0xFF0000);
+TEST_F(MainWindow, ListsTheGraphsInLetterOrder) {
+  addFunction('f', "x^2");
+  addFunction('a', "x");
   window.showForm();
   ASSERT_EQ(list().topLevelItemCount(), 2);
   const QTreeWidgetItem& first = *list().topLevelItem(0);
   EXPECT_EQ(fromQt(first.text(0)), "a");
-  EXPECT_EQ(first.foreground(0).color(), QColor(0, 0, 255));
   EXPECT_EQ(fromQt(first.text(1)), "Función");
   EXPECT_EQ(fromQt(first.text(2)), "a(x)=x");
-  EXPECT_EQ(list().topLevelItem(1)->foreground(0).color(), QColor(255, 0, 0));
+  EXPECT_EQ(fromQt(list().topLevelItem(1)->text(0)), "f");
   choose("mEnglish");
   EXPECT_EQ(fromQt(list().topLevelItem(0)->text(1)), "Function");
 }
@@ -197,7 +174,7 @@ TEST_F(MainWindow, OpensTheEditorForANewGraphAndForTheSelectedOne) {
   EXPECT_EQ(callerOf(program.params), &window);
   EXPECT_EQ(editor.shown, 1);
   EXPECT_FALSE(control<QPushButton>(window, "CmdModificar").isEnabled());
-  list().selectLetter('q');
+  list().selectLetters("q");
   click("CmdModificar");
   EXPECT_EQ(program.params.Item("nombre"), FormValue(std::string("q")));
   QTest::keyClick(&list(), Qt::Key_Return);
@@ -235,8 +212,8 @@ TEST_F(MainWindow, AsksBeforeDeletingWhenThatIsChosen) {
   choose("mConfirmarBorrado");
   EXPECT_TRUE(program.configuration.confirm_deletion);
   EXPECT_TRUE(control<QAction>(window, "mConfirmarBorrado").isChecked());
-  list().selectLetter('a');
-  QTest::keyClick(&list(), Qt::Key_Delete);
+  list().selectLetters("a");
+  click("CmdBorrar");
   EXPECT_EQ(program.graphs.count(), 1);
   services.boxes.answers = {BoxAnswer::ok};
   click("CmdBorrar");
@@ -261,6 +238,60 @@ TEST_F(MainWindow, PlotsOnlyWithGraphsAndIncreasingRanges) {
   click("CmdGraficarLista");
   EXPECT_EQ(plot.shown, 1);
   EXPECT_EQ(callerOf(program.params), &window);
+}
+
+TEST_F(MainWindow, PlotsAtEnterInEveryBox) {
+  addFunction('a', "x");
+  int plots = 0;
+  for (const char* name : {"txtRanXi", "txtRanXf", "txtRanYi", "txtRanYf", "txtEscalaX",
+                           "txtEscalaY", "chkProporcional", "Slider1", "CmdGraficarLista"}) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+      window.showForm();
+      QTest::keyClick(&control<QWidget>(window, name), key);
+      EXPECT_EQ(plot.shown, ++plots) << name;
+    }
+  }
+}
+
+TEST_F(MainWindow, DoesNotPlotAtAnEnterThatIsStillHeldDown) {
+  addFunction('a', "x");
+  window.showForm();
+  QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QApplication::sendEvent(&control<QLineEdit>(window, "txtRanXi"), &again);
+  EXPECT_EQ(plot.shown, 0);
+}
+
+TEST_F(MainWindow, ClicksTheButtonThatHasTheFocusAtEnter) {
+  addFunction('a', "x");
+  window.showForm();
+  QTest::keyClick(&control<QPushButton>(window, "CmdAgregar"), Qt::Key_Return);
+  EXPECT_EQ(editor.shown, 1);
+  EXPECT_EQ(plot.shown, 0);
+}
+
+TEST_F(MainWindow, SaysOnItsButtonThatThereIsNothingToPlot) {
+  window.showForm();
+  auto& button = control<QPushButton>(window, "CmdGraficarLista");
+  EXPECT_EQ(fromQt(button.toolTip()), "Todavía no hay gráficos que dibujar");
+  choose("mEnglish");
+  EXPECT_EQ(fromQt(button.toolTip()), "There are no graphs to draw yet");
+  addFunction('a', "x");
+  window.showForm();
+  EXPECT_EQ(fromQt(button.toolTip()), "");
+}
+
+TEST_F(MainWindow, BeginsWithinTheScreensWorkArea) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPointSizeF(before.pointSizeF() * 1.3);
+  QApplication::setFont(large);
+  frmDatosIni other(program);
+  other.load();
+  QApplication::setFont(before);
+  const QSize room = other.screen()->availableSize();
+  EXPECT_GT(other.sizeHint().width() + 260, room.width() * 9 / 10) << "the font is too small";
+  EXPECT_LE(other.width(), room.width() * 9 / 10);
+  EXPECT_LE(other.height(), room.height() * 9 / 10);
 }
 
 TEST_F(MainWindow, ReadsTheRangeWithoutRelationSignsAndBlanksAndLeavesItAsTyped) {
@@ -375,6 +406,30 @@ TEST_F(MainWindow, OpensADocumentThatIsDroppedOnIt) {
   QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   static_cast<QObject&>(window).event(&drop);  // past the drag manager of the application
   EXPECT_EQ(text(window, "txtRanXi"), "-4");
+}
+
+TEST_F(MainWindow, TakesADocumentThatIsDraggedOverABox) {
+  putBytes("d.zel", "");
+  const auto path = std::filesystem::current_path() / "d.zel";
+  QMimeData document;
+  document.setUrls({QUrl::fromLocalFile(toQt(path.string()))});
+  document.setText("d.zel");
+  QMimeData text;
+  text.setText("5");
+  const auto isTaken = [](QLineEdit& box, const QMimeData& data) {
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(&box, &enter);
+    return enter.isAccepted();
+  };
+  window.showForm();
+  for (const char* name :
+       {"txtRanXi", "txtRanXf", "txtRanYi", "txtRanYf", "txtEscalaX", "txtEscalaY"}) {
+    auto& box = control<QLineEdit>(window, name);
+    EXPECT_FALSE(box.acceptDrops()) << name;
+    EXPECT_TRUE(isTaken(box, document)) << name;
+    EXPECT_FALSE(isTaken(box, text)) << name;
+  }
 }
 
 TEST_F(MainWindow, LeadsToHelpWebAndAboutBox) {
