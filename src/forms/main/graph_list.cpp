@@ -68,6 +68,7 @@ void GraphList::listGraphs(const GraphTable& graphs) {
   hint_->setVisible(topLevelItemCount() == 0);
   resizeColumnToContents(kName);
   resizeColumnToContents(kKind);
+  header()->resizeSection(kText, header()->minimumSectionSize());  // and it fills what is left
   selectLetters(selected);
   for (int row = 0; row < topLevelItemCount(); ++row) {
     if (letterOf(*topLevelItem(row)) == current_letter)

@@ -1,5 +1,5 @@
 // The main window's list of graphs, and undo and redo.
-#include <QMenu>
+#include <QScrollBar>
 
 #include "app/graph_editing.h"
 #include "frm_datos_ini_fixture.h"
@@ -55,6 +55,14 @@ TEST_F(ListOfGraphs, SaysWhatToDoWhileItIsEmpty) {
   EXPECT_FALSE(hint.isVisible());
   choose("mNuevo");
   EXPECT_TRUE(hint.isVisible());
+}
+
+TEST_F(ListOfGraphs, HasRoomForItsColumnsInTheSmallestWindow) {
+  window.openCommandLine(std::string(ZEL_EXAMPLES_DIR) + "/all_kinds.zel");
+  window.resize(window.minimumSizeHint());
+  window.showForm();
+  QApplication::processEvents();
+  EXPECT_EQ(list().horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(ListOfGraphs, SelectsTheFirstRowAfterALoadWhateverKeysAreHeldDown) {
