@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
+
+#include "pictures/colour.h"
 
 namespace zel {
 namespace {
@@ -14,13 +17,14 @@ constexpr std::array<std::int32_t, GraphTable::kSlots> kColours = {
     0x558800, 0x000088, 0x664499, 0xFF7733, 0x8833FF, 0xBB2200, 0x440099, 0x5500EE,
 };
 
-template <class Predicate>
-bool anyGraph(const GraphTable& graphs, Predicate predicate) {
+/// To the colour of a graph that looks the most like it; endless where there is no graph.
+double distanceFromGraphs(std::int32_t colour, const GraphTable& graphs) {
+  double smallest = std::numeric_limits<double>::infinity();
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const auto def = graphs.graph(letter);
-    if (def && def->defined && predicate(*def)) return true;
+    if (def && def->defined) smallest = std::min(smallest, perceivedDistance(colour, def->color));
   }
-  return false;
+  return smallest;
 }
 
 Field fieldOf(const char* text) { return {text, {}}; }
@@ -42,13 +46,17 @@ char nextFreeLetter(const GraphTable& graphs) {
 std::span<const std::int32_t> graphColours() { return kColours; }
 
 std::int32_t nextFreshColour(const GraphTable& graphs) {
-  const auto is_fresh = [&](std::int32_t colour) {
-    return !anyGraph(graphs, [colour](const GraphDef& def) {
-      return (def.color & 0xFFFFFF) == colour;  // the highest byte does not count
-    });
-  };
-  const auto found = std::find_if(kColours.begin(), kColours.end(), is_fresh);
-  return found == kColours.end() ? kColours.front() : *found;
+  std::int32_t best = kColours.front();
+  double best_distance = -1;
+  for (const std::int32_t colour : kColours) {
+    const double distance = distanceFromGraphs(colour, graphs);
+    if (distance >= kFreshDistance) return colour;
+    if (distance > best_distance) {
+      best = colour;
+      best_distance = distance;
+    }
+  }
+  return best;
 }
 
 GraphFields newGraphFields(char kind) {

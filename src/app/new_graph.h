@@ -17,7 +17,11 @@ char nextFreeLetter(const GraphTable& graphs);
 /// colour blindness, the first eight clearly so.
 std::span<const std::int32_t> graphColours();
 
-/// The first of them that no graph has; the first of all when there is none.
+/// So far a colour is from those of the graphs, in perceived distance, when it looks like none.
+inline constexpr double kFreshDistance = 0.1;
+
+/// The first of them that looks like no graph's colour; where none is so far from all, the one that
+/// differs the most, the first of several.
 std::int32_t nextFreshColour(const GraphTable& graphs);
 
 /// The fields of a new graph of a kind: empty ones, but a range and a step where the kind has them.

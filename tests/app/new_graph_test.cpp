@@ -6,8 +6,11 @@
 #include <set>
 #include <string>
 #include <variant>
+#include <vector>
 
 #include <gtest/gtest.h>
+
+#include "pictures/colour.h"
 
 namespace zel::test {
 namespace {
@@ -46,6 +49,36 @@ TEST(NextFreshColour, IsTheFirstThatNoGraphHas) {
   EXPECT_EQ(nextFreshColour(graphs), colours[3]) << "the highest byte does not count";
   graphs.freeGraph('k');
   EXPECT_EQ(nextFreshColour(graphs), colours[0]) << "a freed slot keeps its colour";
+}
+
+TEST(NextFreshColour, LooksLikeNoColourInUse) {
+  GraphTable graphs;
+  addFunction(graphs, 'a', 0xB27200);  // nearly the first one
+  EXPECT_EQ(nextFreshColour(graphs), graphColours()[1]);
+  addFunction(graphs, 'b', 0x0A5ADF);  // and the second
+  EXPECT_EQ(nextFreshColour(graphs), graphColours()[2]);
+}
+
+TEST(NextFreshColour, IsFarFromEveryColourInUseWhileOneIs) {
+  constexpr char kLastFar = 'w';
+  GraphTable graphs;
+  std::vector<std::int32_t> used;
+  for (char letter = 'a'; letter < 'z'; ++letter) {
+    const std::int32_t colour = nextFreshColour(graphs);
+    for (const std::int32_t other : used)
+      EXPECT_GE(perceivedDistance(colour, other), letter <= kLastFar ? kFreshDistance : 0.07)
+          << letter;
+    used.push_back(colour);
+    addFunction(graphs, letter, colour);
+  }
+}
+
+TEST(NextFreshColour, IsTheOneThatDiffersTheMostWhenAllLookLikeOneInUse) {
+  GraphTable graphs;
+  for (std::size_t i = 0; i < graphColours().size(); ++i)
+    addFunction(graphs, static_cast<char>('a' + i), graphColours()[i]);
+  addFunction(graphs, 'h', graphColours()[7] ^ 0x001800);  // slightly different
+  EXPECT_EQ(nextFreshColour(graphs), graphColours()[7]);
 }
 
 TEST(NextFreshColour, IsTheFirstOfAllWhenNoneIsLeft) {
@@ -128,7 +161,11 @@ TEST(GraphColours, AreOneForEachLetterAndAllDifferent) {
 }
 
 TEST(GraphColours, StandOutFromWhite) {
-  for (const std::int32_t colour : graphColours()) EXPECT_GE(contrastOnWhite(colour), 3.0);
+  constexpr std::int32_t kPaper = 0xFFFFFF;
+  for (const std::int32_t colour : graphColours()) {
+    EXPECT_GE(contrastOnWhite(colour), 3.0);
+    EXPECT_GE(perceivedDistance(colour, kPaper), 3 * kFreshDistance);
+  }
 }
 
 TEST(GraphColours, AreToldApartWithEveryKindOfColourVision) {
