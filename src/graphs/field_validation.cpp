@@ -5,6 +5,7 @@
 #include "graphs/field_validation.h"
 
 #include <functional>
+#include <vector>
 
 #include "base/language.h"
 #include "base/text.h"
@@ -76,19 +77,22 @@ bool checkParameterUsed(std::string_view formula, std::string_view parameterName
   return false;
 }
 
-bool checkParentheses(std::string_view formula, std::string_view fieldName, std::string& message) {
-  bool balanced = formula.find("()") == std::string_view::npos;
-  std::size_t open = 0;
-  for (const char character : formula) {
-    if (character == '(') ++open;
-    if (character != ')') continue;
-    if (open == 0) {
-      balanced = false;
-      break;
-    }
-    --open;
+std::optional<ParenthesisFault> findParenthesisFault(std::string_view formula) {
+  using Kind = ParenthesisFault::Kind;
+  std::vector<std::size_t> open;
+  for (std::size_t i = 0; i < formula.size(); ++i) {
+    if (formula[i] == '(') open.push_back(i);
+    if (formula[i] != ')') continue;
+    if (open.empty()) return ParenthesisFault{Kind::closes_nothing, i};
+    if (open.back() + 1 == i) return ParenthesisFault{Kind::holds_nothing, i - 1};
+    open.pop_back();
   }
-  if (balanced && open == 0) return true;
+  if (open.empty()) return std::nullopt;
+  return ParenthesisFault{Kind::stays_open, open.back()};
+}
+
+bool checkParentheses(std::string_view formula, std::string_view fieldName, std::string& message) {
+  if (!findParenthesisFault(formula)) return true;
   message.append(LocalizeWithArg("Error en paréntesis en el campo %1.", fieldName));
   message.append(kLineBreak);
   return false;

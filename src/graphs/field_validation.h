@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,6 +33,18 @@ bool checkIncreasing(const Field& low, const Field& high, std::string& message);
 /// The name must occur in the formula, case ignored.
 bool checkParameterUsed(std::string_view formula, std::string_view parameterName,
                         std::string& message);
+
+/// The first parenthesis of a formula that does not fit.
+struct ParenthesisFault {
+  enum class Kind { closes_nothing, holds_nothing, stays_open };
+
+  Kind kind = Kind::stays_open;
+  std::size_t place = 0;  // in bytes
+};
+
+/// One that closes nothing or holds nothing ("()"), or else the last of those that stay open;
+/// nothing when all fit.
+std::optional<ParenthesisFault> findParenthesisFault(std::string_view formula);
 
 /// Refuses a formula that closes more parentheses than it has opened, leaves one open, or holds
 /// "()".

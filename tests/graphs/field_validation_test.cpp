@@ -142,6 +142,25 @@ TEST_F(FieldValidation, RefusesParenthesesThatDoNotMatchAndEmptyPairs) {
     EXPECT_FALSE(checkParentheses(formula, "", message)) << formula;
 }
 
+TEST_F(FieldValidation, FindsTheParenthesisThatDoesNotFit) {
+  using Kind = ParenthesisFault::Kind;
+  struct Row {
+    const char* formula;
+    Kind kind;
+    std::size_t place;
+  };
+  for (const Row& row :
+       {Row{"(x+1))", Kind::closes_nothing, 5}, Row{")x(", Kind::closes_nothing, 0},
+        Row{"(x)*(2+x", Kind::stays_open, 4}, Row{"((x", Kind::stays_open, 1},
+        Row{"sen()+(x", Kind::holds_nothing, 3}, Row{"x)+()", Kind::closes_nothing, 1}}) {
+    const auto fault = findParenthesisFault(row.formula);
+    ASSERT_TRUE(fault) << row.formula;
+    EXPECT_EQ(fault->kind, row.kind) << row.formula;
+    EXPECT_EQ(fault->place, row.place) << row.formula;
+  }
+  EXPECT_FALSE(findParenthesisFault("((x+1)*2)"));
+}
+
 TEST_F(FieldValidation, NamesTheFieldWithTheParentheses) {
   message = "before";
   EXPECT_FALSE(checkParentheses("(x+1))", "Función", message));
