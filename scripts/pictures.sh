@@ -55,6 +55,7 @@ walk() {
   take main
   opens "$3" alt+a
   xdotool type --delay 40 'raiz2(x^2+1)'
+  sleep 1 # the preview follows after a pause
   take editor
   opens "$2" Escape
   eval "$(xdotool getwindowgeometry --shell "$(xdotool getactivewindow)")"

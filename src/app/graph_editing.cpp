@@ -86,9 +86,12 @@ std::string formulaHeader(char letter, char kind) {
   return {};
 }
 
-Insertion functionInsertion(std::string_view name) {
-  if (name == PostfixFunctions.front()) return {std::string(name), 0};
-  return {std::string(name) + "()", 1};
+Insertion functionInsertion(std::string_view name, std::string_view selected) {
+  const bool is_postfix = name == PostfixFunctions.front();
+  const std::string function(name);
+  if (selected.empty()) return is_postfix ? Insertion{function, 0} : Insertion{function + "()", 1};
+  const std::string argument = "(" + std::string(selected) + ")";
+  return {is_postfix ? argument + function : function + argument, 0};
 }
 
 bool acceptEdited(Program& program, char letter, std::int32_t colour, const GraphFields& fields) {

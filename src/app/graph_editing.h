@@ -44,9 +44,9 @@ struct Insertion {
   std::size_t caret_back = 0;
 };
 
-/// A name and its parentheses, with the caret between them. The factorial follows its argument and
-/// so stands alone.
-Insertion functionInsertion(std::string_view name);
+/// A name and its parentheses, with the caret between them, or with what was selected there and the
+/// caret behind. The factorial follows its argument and so stands alone, behind the parentheses.
+Insertion functionInsertion(std::string_view name, std::string_view selected = {});
 
 /// The accept: checks the fields and stores the graph, or says why not. True when it is stored and
 /// the editor closes; "nombre" is its letter in FormParams then. An arithmetic failure says

@@ -30,7 +30,8 @@ struct Program {
   GraphHistory history;
   Engine engine{[this](char letter) { return graphs.codeOf(letter); }};
   FormParams params = makeFormParams();
-  ScaleMarks marks;  // set by the main window, read by the plot window
+  ScaleMarks marks;    // set by the main window, read by the plot window
+  MainView main_view;  // what the main window held when it opened the editor last
   DocumentHeader header;
   std::string document_name;  // the file name alone; empty when there is no document
   std::string document_path;

@@ -80,12 +80,15 @@ void Form::takePlace() {
 
 void Form::moveOver(const QWidget& caller) {
   const bool has_size = testAttribute(Qt::WA_Resized);
-  if (!has_size) adjustSize();
   const QRect screen = caller.screen()->availableGeometry();
   // This window's frame is not known yet, and is taken to be like its caller's.
   const QRect outside = caller.frameGeometry();
   const QSize frame = outside.size() - caller.size();
   const QPoint inside = caller.geometry().topLeft() - outside.topLeft();
+  if (!has_size) {
+    adjustSize();  // to two thirds of the screen at the most
+    resize(size().expandedTo(sizeHint()).boundedTo(screen.size() - frame));
+  }
   QRect place(QPoint(), size() + frame);
   place.moveCenter(outside.center());
   // Where it does not fit, its title and its left edge are seen.

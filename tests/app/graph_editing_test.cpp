@@ -147,6 +147,13 @@ TEST_F(GraphEditing, InsertsNamesWithTheCaretBetweenTheParentheses) {
   }
 }
 
+TEST_F(GraphEditing, InsertsNamesAroundWhatIsSelected) {
+  EXPECT_EQ(functionInsertion("sen", "x+1").text, "sen(x+1)");
+  EXPECT_EQ(functionInsertion("sen", "x+1").caret_back, 0u);
+  EXPECT_EQ(functionInsertion("!", "x+1").text, "(x+1)!");
+  EXPECT_EQ(functionInsertion("!", "x+1").caret_back, 0u);
+}
+
 TEST_F(GraphEditing, StoresWhatIsAccepted) {
   EXPECT_TRUE(accept('g', FunctionFields{field("raiz2(x^2+1)")}, 0x0000FF));
   EXPECT_EQ(graph('g').ecuacion, "raiz2(x^2+1)");

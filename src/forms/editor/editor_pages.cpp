@@ -2,10 +2,14 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "forms/editor/hint_line.h"
 #include "forms/numeric_keys.h"
 #include "forms/text_box.h"
 
@@ -14,46 +18,79 @@ namespace {
 
 enum class Holds { formula, coordinate, distance };
 
-/// A grid of five columns: a heading, and two fields with a label before each.
+constexpr int kColumns = 4;  // two fields with a label before each
+constexpr int kWide = kColumns - 1;
+
+/// A page that is scrolled where the window is too low for it, and always as wide as it needs.
+class Scroller : public QScrollArea {
+ public:
+  explicit Scroller(QWidget* content) {
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(content);
+    // The tab's own background is seen.
+    viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+  }
+
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize minimumSizeHint() const override {
+    constexpr int kLeastLines = 4;
+    const int bar = verticalScrollBar()->sizeHint().width();
+    return {widget()->minimumSizeHint().width() + bar, fontMetrics().height() * kLeastLines};
+  }
+};
+
+/// Rows of fields with a line for hints under each; a place for the preview stands beside them.
 class Page {
  public:
   /// An empty frame name makes a page without a frame.
-  explicit Page(const char* frame_name) : widget_(new QWidget) {
-    auto* column = new QVBoxLayout(widget_);
+  Page(const char* frame_name, QSize preview) {
+    auto* row = new QHBoxLayout(content_);
+    auto* column = new QVBoxLayout;
     QWidget* holder = frameFor(frame_name);
     grid_ = new QGridLayout(holder);
     if (*frame_name == '\0') grid_->setContentsMargins(0, 0, 0, 0);
-    grid_->setColumnStretch(2, 1);
-    grid_->setColumnStretch(4, 1);
+    grid_->setVerticalSpacing(2);
+    grid_->setColumnStretch(1, 1);
+    grid_->setColumnStretch(3, 1);
     column->addWidget(holder);
     column->addStretch();
+    row->addLayout(column, 1);
+    row->addWidget(previewPlace(preview), 0, Qt::AlignTop);
   }
 
-  QWidget* widget() const { return widget_; }
+  /// The whole page, when all is there.
+  QWidget* widget() const { return new Scroller(content_); }
 
-  void heading(int row, const char* name, int columns = 1) {
-    grid_->addWidget(makeLabel(name, {}), row, 0, 1, columns);
-  }
+  /// Above the next row.
+  void heading(const char* name) { grid_->addWidget(makeLabel(name, {}), row_++, 0, 1, kColumns); }
 
-  /// A label that says the same in all languages.
-  void fixedLabel(int row, int column, const char* name, const char* text) {
-    grid_->addWidget(makeLabel(name, QString::fromLatin1(text)), row, column,
-                     Qt::AlignRight | Qt::AlignVCenter);
+  void label(int column, const char* name, const char* text = "") {
+    auto* label = makeLabel(name, QString::fromLatin1(text));
+    grid_->addWidget(label, row_, column, Qt::AlignRight | Qt::AlignVCenter);
   }
 
   /// What stands between the ends of a range.
-  void between(int row, const char* name, const char* text) {
-    grid_->addWidget(makeLabel(name, QString::fromLatin1(text)), row, 3, Qt::AlignCenter);
+  void between(const char* name, const char* text) {
+    grid_->addWidget(makeLabel(name, QString::fromLatin1(text)), row_, 2, Qt::AlignCenter);
   }
 
-  void label(int row, int column, const char* name) { fixedLabel(row, column, name, ""); }
-
-  void field(int row, int column, const char* name, const char* tag, Holds holds, int columns = 1) {
+  void field(int column, const char* name, const char* tag, Holds holds, int columns = 1) {
     auto* box = makeTextBox(name);
     box->setProperty("Tag", QString::fromLatin1(tag));
     if (holds != Holds::formula) filterNumericKeys(*box, holds == Holds::distance);
-    grid_->addWidget(box, row, column, 1, columns);
+    grid_->addWidget(box, row_, column, 1, columns);
+    auto* hint = new HintLine;
+    hint->setObjectName(hintName(name));
+    // Under its label, too, where the field is not wide.
+    const int before = columns == kWide ? 0 : 1;
+    grid_->addWidget(hint, row_ + 1, column - before, 1, columns + before);
   }
+
+  void endRow() { row_ += 2; }
 
  private:
   static QWidget* frameFor(const char* name) {
@@ -63,6 +100,16 @@ class Page {
     return frame;
   }
 
+  /// It keeps its room while another page has the preview.
+  static QWidget* previewPlace(QSize size) {
+    auto* place = new QWidget;
+    place->setObjectName(QString::fromLatin1(kPreviewPlace));
+    place->setFixedSize(size);
+    auto* layout = new QVBoxLayout(place);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return place;
+  }
+
   static QLabel* makeLabel(const char* name, const QString& text) {
     auto* label = new QLabel(text);
     label->setObjectName(QString::fromLatin1(name));
@@ -70,111 +117,127 @@ class Page {
     return label;
   }
 
-  QWidget* widget_;
+  QWidget* content_ = new QWidget;
   QGridLayout* grid_;
+  int row_ = 0;
 };
 
-QWidget* functionPage() {
-  Page page("");
-  page.heading(0, "LblFuncion", 5);
-  page.label(1, 0, "LblF");
-  page.field(1, 1, "txtF", "LblFuncion", Holds::formula, 4);
+void addPoint(Page& page, const char* x, const char* x_label, const char* y, const char* y_label) {
+  page.label(0, x_label, "X=");
+  page.field(1, x, x_label, Holds::coordinate);
+  page.label(2, y_label, "Y=");
+  page.field(3, y, y_label, Holds::coordinate);
+  page.endRow();
+}
+
+void addDistances(Page& page, const char* first, const char* first_label, const char* second,
+                  const char* second_label) {
+  page.label(0, first_label);
+  page.field(1, first, first_label, Holds::distance);
+  page.label(2, second_label);
+  page.field(3, second, second_label, Holds::distance);
+  page.endRow();
+}
+
+void addFormula(Page& page, const char* label, const char* text, const char* name,
+                const char* tag) {
+  page.label(0, label, text);
+  page.field(1, name, tag, Holds::formula, kWide);
+  page.endRow();
+}
+
+QWidget* functionPage(QSize preview) {
+  Page page("", preview);
+  page.heading("LblFuncion");
+  addFormula(page, "LblF", "", "txtF", "LblFuncion");
   return page.widget();
 }
 
-QWidget* circumferencePage() {
-  Page page("fraCircunferencia");
-  page.heading(0, "LblCCentro");
-  page.fixedLabel(0, 1, "LblCX", "X=");
-  page.field(0, 2, "txtCX", "LblCX", Holds::coordinate);
-  page.fixedLabel(0, 3, "LblCY", "Y=");
-  page.field(0, 4, "txtCY", "LblCY", Holds::coordinate);
-  page.label(1, 1, "LblCRadio");
-  page.field(1, 2, "txtCRadio", "LblCRadio", Holds::distance);
+QWidget* circumferencePage(QSize preview) {
+  Page page("fraCircunferencia", preview);
+  page.heading("LblCCentro");
+  addPoint(page, "txtCX", "LblCX", "txtCY", "LblCY");
+  page.label(0, "LblCRadio");
+  page.field(1, "txtCRadio", "LblCRadio", Holds::distance);
   return page.widget();
 }
 
-QWidget* ellipsePage() {
-  Page page("fraElipse");
-  page.heading(0, "LblECentro");
-  page.fixedLabel(0, 1, "LblEX", "X=");
-  page.field(0, 2, "txtEX", "LblEX", Holds::coordinate);
-  page.fixedLabel(0, 3, "LblEY", "Y=");
-  page.field(0, 4, "txtEY", "LblEY", Holds::coordinate);
-  page.heading(1, "LblESemiEje");
-  page.label(1, 1, "LblEMayor");
-  page.field(1, 2, "txtEMayor", "LblEMayor", Holds::distance);
-  page.label(1, 3, "LblEMenor");
-  page.field(1, 4, "txtEMenor", "LblEMenor", Holds::distance);
+QWidget* ellipsePage(QSize preview) {
+  Page page("fraElipse", preview);
+  page.heading("LblECentro");
+  addPoint(page, "txtEX", "LblEX", "txtEY", "LblEY");
+  page.heading("LblESemiEje");
+  addDistances(page, "txtEMayor", "LblEMayor", "txtEMenor", "LblEMenor");
   return page.widget();
 }
 
-QWidget* parabolaPage() {
-  Page page("fraParabola");
-  page.heading(0, "LblPFoco");
-  page.fixedLabel(0, 1, "LblPX", "X=");
-  page.field(0, 2, "txtPX", "LblPX", Holds::coordinate);
-  page.fixedLabel(0, 3, "LblPY", "Y=");
-  page.field(0, 4, "txtPY", "LblPY", Holds::coordinate);
-  page.heading(1, "LblPDirectriz");
-  page.field(1, 2, "txtPDirectriz", "LblPDirectriz", Holds::distance);
+QWidget* parabolaPage(QSize preview) {
+  Page page("fraParabola", preview);
+  page.heading("LblPFoco");
+  addPoint(page, "txtPX", "LblPX", "txtPY", "LblPY");
+  page.heading("LblPDirectriz");
+  page.field(1, "txtPDirectriz", "LblPDirectriz", Holds::distance);
   return page.widget();
 }
 
-QWidget* hyperbolaPage() {
-  Page page("fraHiperbola");
-  page.heading(0, "LblHCentro");
-  page.fixedLabel(0, 1, "LblHX", "X=");
-  page.field(0, 2, "txtHX", "LblHX", Holds::coordinate);
-  page.fixedLabel(0, 3, "LblHY", "Y=");
-  page.field(0, 4, "txtHY", "LblHY", Holds::coordinate);
-  page.heading(1, "LblHDistancia");
-  page.label(1, 1, "LblHVertice");
-  page.field(1, 2, "txtHVertice", "LblHVertice", Holds::distance);
-  page.label(1, 3, "LblHFoco");
-  page.field(1, 4, "txtHFoco", "LblHFoco", Holds::distance);
+QWidget* hyperbolaPage(QSize preview) {
+  Page page("fraHiperbola", preview);
+  page.heading("LblHCentro");
+  addPoint(page, "txtHX", "LblHX", "txtHY", "LblHY");
+  page.heading("LblHDistancia");
+  addDistances(page, "txtHVertice", "LblHVertice", "txtHFoco", "LblHFoco");
   return page.widget();
 }
 
-QWidget* parametricPage() {
-  Page page("fraParametrica");
-  page.fixedLabel(0, 0, "LblTx", "X(t)=");
-  page.field(0, 1, "txtTx", "LblTx", Holds::formula, 4);
-  page.fixedLabel(1, 0, "LblTy", "Y(t)=");
-  page.field(1, 1, "txtTy", "LblTy", Holds::formula, 4);
-  page.label(2, 0, "LblTRango");
-  page.field(2, 1, "txtTinicio", "LblTRango", Holds::coordinate, 2);
-  page.between(2, "LblTEntre", "<= t <=");
-  page.field(2, 4, "txtTfin", "LblTRango", Holds::coordinate);
-  page.label(3, 0, "LblTVariacion");
-  page.field(3, 1, "txtTvariacion", "LblTVariacion", Holds::distance, 2);
+QWidget* parametricPage(QSize preview) {
+  Page page("fraParametrica", preview);
+  addFormula(page, "LblTx", "X(t)=", "txtTx", "LblTx");
+  addFormula(page, "LblTy", "Y(t)=", "txtTy", "LblTy");
+  page.label(0, "LblTRango");
+  page.field(1, "txtTinicio", "LblTRango", Holds::coordinate);
+  page.between("LblTEntre", "<= t <=");
+  page.field(3, "txtTfin", "LblTRango", Holds::coordinate);
+  page.endRow();
+  page.label(0, "LblTVariacion");
+  page.field(1, "txtTvariacion", "LblTVariacion", Holds::distance);
   return page.widget();
 }
 
-QWidget* familyPage() {
-  Page page("fraHaz");
-  page.label(0, 0, "LblZ");
-  page.field(0, 1, "txtZ", "fraHaz", Holds::formula, 4);
-  page.label(1, 0, "LblZRango");
-  page.field(1, 1, "txtZinicio", "LblZRango", Holds::coordinate, 2);
-  page.between(1, "LblZEntre", "<= P <=");
-  page.field(1, 4, "txtZfin", "LblZRango", Holds::coordinate);
-  page.label(2, 0, "LblZVariacion");
-  page.field(2, 1, "txtZvariacion", "LblZVariacion", Holds::distance, 2);
+QWidget* familyPage(QSize preview) {
+  Page page("fraHaz", preview);
+  addFormula(page, "LblZ", "", "txtZ", "fraHaz");
+  page.label(0, "LblZRango");
+  page.field(1, "txtZinicio", "LblZRango", Holds::coordinate);
+  page.between("LblZEntre", "<= P <=");
+  page.field(3, "txtZfin", "LblZRango", Holds::coordinate);
+  page.endRow();
+  page.label(0, "LblZVariacion");
+  page.field(1, "txtZvariacion", "LblZVariacion", Holds::distance);
   return page.widget();
 }
 
 }  // namespace
 
-QWidget* makeEditorPage(char kind) {
+QString hintName(const char* field) {
+  return QStringLiteral("LblAviso_%1").arg(QLatin1String(field));
+}
+
+void makeRoom(QWidget& page) {
+  QLayout& layout = *static_cast<Scroller&>(page).widget()->layout();
+  layout.invalidate();
+  layout.activate();  // layouts within it forget their sizes, too
+  page.updateGeometry();
+}
+
+QWidget* makeEditorPage(char kind, QSize preview) {
   switch (kind) {
-    case 'C': return circumferencePage();
-    case 'E': return ellipsePage();
-    case 'P': return parabolaPage();
-    case 'T': return parametricPage();
-    case 'H': return hyperbolaPage();
-    case 'Z': return familyPage();
-    default: return functionPage();
+    case 'C': return circumferencePage(preview);
+    case 'E': return ellipsePage(preview);
+    case 'P': return parabolaPage(preview);
+    case 'T': return parametricPage(preview);
+    case 'H': return hyperbolaPage(preview);
+    case 'Z': return familyPage(preview);
+    default: return functionPage(preview);
   }
 }
 

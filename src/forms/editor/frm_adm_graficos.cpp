@@ -3,6 +3,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,6 +13,7 @@
 
 #include "forms/editor/colour_swatch.h"
 #include "forms/editor/editor_fields.h"
+#include "forms/editor/editor_pages.h"
 
 namespace zel {
 
@@ -28,8 +30,8 @@ frmAdmGraficos::frmAdmGraficos(Program& program) : Form(program, "frmAdmGraficos
 
 void frmAdmGraficos::takeArguments() {
   const EditorStart start = startEditor(program());
-  changes_ = start.changes;
-  setWindowTitle(toQt(editorTitle(changes_)));
+  changed_ = start.changes ? std::optional(start.letter) : std::nullopt;
+  setWindowTitle(toQt(editorTitle(start.changes)));
   markLettersInUse();
   cboNombre_->setCurrentIndex(start.letter - 'a');
   FondoColor_->setColour(start.colour);
@@ -39,18 +41,25 @@ void frmAdmGraficos::takeArguments() {
   last_formula_ = nullptr;
   GraphFields opened = start.fields;
   box(placesOf(opened).front().control)->setFocus(Qt::OtherFocusReason);
+  updateHints();
+  for (int i = 0; i < TabStrip1_->count(); ++i) makeRoom(*TabStrip1_->widget(i));
   layOverCaller();
 }
 
 void frmAdmGraficos::bAceptar_Click() {
-  if (acceptEdited(program(), letter(), FondoColor_->colour(), fields())) returnToCaller();
+  if (acceptEdited(program(), letter(), FondoColor_->colour(), fields()))
+    returnToCaller();
+  else
+    goToFault();
 }
 
 void frmAdmGraficos::bCancelar_Click() { close(); }
 
 void frmAdmGraficos::FondoColor_Click() {
   const auto colour = program().services.colours.askColour(FondoColor_->colour());
-  if (colour) FondoColor_->setColour(*colour);
+  if (!colour) return;
+  FondoColor_->setColour(*colour);
+  updateHints();
 }
 
 void frmAdmGraficos::cboNombre_Click() {
@@ -62,13 +71,15 @@ void frmAdmGraficos::cboNombre_Click() {
 
 void frmAdmGraficos::TabStrip1_Click() {
   mInsertarFuncion_->setEnabled(!formulaControls(kind()).empty());
+  movePreview();
 }
 
 void frmAdmGraficos::mInsertarFuncion_Click(const std::string& name) {
   QLineEdit* const formula = formulaBox();
   if (!formula) return;
-  const Insertion insertion = functionInsertion(name);
-  formula->deselect();  // what is selected stays
+  if (selection_.start >= 0) formula->setSelection(selection_.start, selection_.length);
+  selection_ = {};
+  const Insertion insertion = functionInsertion(name, fromQt(formula->selectedText()));
   formula->insert(toQt(insertion.text));
   formula->setFocus(Qt::OtherFocusReason);
   formula->cursorBackward(false, static_cast<int>(insertion.caret_back));
@@ -89,8 +100,21 @@ void frmAdmGraficos::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmAdmGraficos::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::FocusIn) last_formula_ = static_cast<QLineEdit*>(watched);
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+    followFormula(*static_cast<QLineEdit*>(watched), *static_cast<QFocusEvent*>(event));
   return Form::eventFilter(watched, event);
+}
+
+/// A box forgets its selection when the menu bar takes the focus; it gets it back.
+void frmAdmGraficos::followFormula(QLineEdit& formula, const QFocusEvent& event) {
+  const bool is_menu = event.reason() == Qt::MenuBarFocusReason;
+  if (event.gotFocus()) {
+    last_formula_ = &formula;
+    if (is_menu && selection_.start >= 0) formula.setSelection(selection_.start, selection_.length);
+    selection_ = {};
+  } else if (is_menu) {
+    selection_ = {formula.selectionStart(), formula.selectionLength()};
+  }
 }
 
 }  // namespace zel

@@ -78,6 +78,7 @@ constexpr Caption kAccessibleNames[] = {
     {"cboNombre", "Nombre", "Name"},
     {"FondoColor", "Color", "Color"},
     {"TabStrip1", "Tipo", "Type"},
+    {"picVista", "Vista previa", "Preview"},
     {"txtF", "Declaración de la función", "Function"},
     {"txtCX", "Centro, X", "Center, X"},
     {"txtCY", "Centro, Y", "Center, Y"},
@@ -121,7 +122,7 @@ void frmAdmGraficos::assignCaptions() {
 }
 
 void frmAdmGraficos::applyCaptions() {
-  setWindowTitle(toQt(editorTitle(changes_)));
+  setWindowTitle(toQt(editorTitle(changed_.has_value())));
   for (const Caption& row : kCaptions)
     setCaption(control(row.control), caption(row.spanish, row.english));
   cboNombre_Click();

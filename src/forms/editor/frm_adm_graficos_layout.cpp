@@ -17,6 +17,8 @@
 #include "forms/editor/editor_fields.h"
 #include "forms/editor/editor_pages.h"
 #include "forms/editor/frm_adm_graficos.h"
+#include "forms/editor/hint_line.h"
+#include "forms/editor/preview_box.h"
 
 namespace zel {
 namespace {
@@ -78,20 +80,39 @@ QWidget* frmAdmGraficos::buildHeader() {
   row->addSpacing(2 * fontMetrics().averageCharWidth());
   row->addWidget(makeLabel("LblColor", FondoColor_));
   row->addWidget(FondoColor_);
-  row->addStretch();
+  row->addSpacing(2 * fontMetrics().averageCharWidth());
+  auto* hint = new HintLine;
+  hint->setObjectName(hintName("cboNombre"));
+  row->addWidget(hint, 1);
   return frame;
 }
 
 QWidget* frmAdmGraficos::buildKinds() {
   TabStrip1_ = named(new QTabWidget, "TabStrip1");
   TabStrip1_->setUsesScrollButtons(false);  // the window is as wide as its tabs
-  for (const char kind : kEditorKinds) TabStrip1_->addTab(makeEditorPage(kind), QString());
+  buildPreview();
+  for (const char kind : kEditorKinds)
+    TabStrip1_->addTab(makeEditorPage(kind, preview_->sizeHint()), QString());
+  movePreview();
   auto* kinds = new QWidget;
   auto* column = new QVBoxLayout(kinds);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(makeLabel("LblTipo", TabStrip1_));
   column->addWidget(TabStrip1_, 1);
   return kinds;
+}
+
+void frmAdmGraficos::buildPreview() {
+  preview_ = new QWidget;
+  picVista_ = named(new PreviewBox, "picVista");
+  LblVista_ = named(new QLabel, "LblVista");
+  LblVista_->setTextFormat(Qt::PlainText);
+  LblVista_->setFixedHeight(2 * LblVista_->fontMetrics().lineSpacing());
+  LblVista_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  auto* column = new QVBoxLayout(preview_);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(picVista_);
+  column->addWidget(LblVista_);
 }
 
 QWidget* frmAdmGraficos::buildButtons() {
@@ -117,6 +138,7 @@ void frmAdmGraficos::connectControls() {
   for (const char kind : kEditorKinds) {
     for (const char* formula : formulaControls(kind)) box(formula)->installEventFilter(this);
   }
+  connectHints();
 }
 
 void frmAdmGraficos::setReadingOrder() {

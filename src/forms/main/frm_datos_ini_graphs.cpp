@@ -32,6 +32,7 @@ void frmDatosIni::updateButtons() {
 }
 
 void frmDatosIni::CmdAgregar_Click() {
+  program().main_view = fields();
   prepareNewGraph(program(), this);
   targets_.editor->showForm();
 }
@@ -39,6 +40,7 @@ void frmDatosIni::CmdAgregar_Click() {
 void frmDatosIni::CmdModificar_Click() {
   const std::string selected = listaG_->selectedLetters();
   if (selected.size() != 1) return;
+  program().main_view = fields();
   prepareGraphChange(program(), selected.front(), this);
   targets_.editor->showForm();
 }

@@ -1,3 +1,5 @@
+#include <QMenuBar>
+
 #include "engine/compiler.h"
 #include "frm_adm_graficos_fixture.h"
 
@@ -26,12 +28,39 @@ TEST_F(InsertMenu, PutsTheCaretBetweenTheParentheses) {
   }
 }
 
-TEST_F(InsertMenu, KeepsWhatIsSelected) {
+TEST_F(InsertMenu, PutsWhatIsSelectedBetweenTheParentheses) {
+  openNew();
+  fill({{"txtF", "2*x+1"}});
+  box("txtF").setSelection(2, 3);
+  insert(4);
+  EXPECT_EQ(shown("txtF"), "2*sen(x+1)");
+  QTest::keyClicks(&box("txtF"), "!");
+  EXPECT_EQ(shown("txtF"), "2*sen(x+1)!") << "the caret is behind it";
+  box("txtF").setSelection(6, 3);
+  insert(6);
+  EXPECT_EQ(shown("txtF"), "2*sen((x+1)!)!");
+}
+
+TEST_F(InsertMenu, KnowsWhatWasSelectedBeforeTheKeyboardReachedTheMenu) {
   openNew();
   fill({{"txtF", "x+1"}});
   box("txtF").selectAll();
+  editor.menuBar()->setFocus(Qt::MenuBarFocusReason);
+  ASSERT_FALSE(box("txtF").hasSelectedText()) << "the box forgets it";
   insert(4);
-  EXPECT_EQ(shown("txtF"), "x+1sen()");
+  EXPECT_EQ(shown("txtF"), "sen(x+1)");
+}
+
+TEST_F(InsertMenu, GivesTheSelectionBackWhenTheMenuIsLeft) {
+  openNew();
+  fill({{"txtF", "x+1"}});
+  box("txtF").setSelection(0, 1);
+  editor.menuBar()->setFocus(Qt::MenuBarFocusReason);
+  box("txtF").setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(fromQt(box("txtF").selectedText()), "x");
+  QTest::keyClick(&box("txtF"), Qt::Key_End);
+  insert(4);
+  EXPECT_EQ(shown("txtF"), "x+1sen()") << "nothing is selected any more";
 }
 
 TEST_F(InsertMenu, WritesIntoTheFormulaThatHadTheFocusLast) {
