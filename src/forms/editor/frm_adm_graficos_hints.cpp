@@ -19,7 +19,9 @@ namespace zel {
 
 void frmAdmGraficos::connectHints() {
   pause_.setSingleShot(true);
-  connect(&pause_, &QTimer::timeout, this, &frmAdmGraficos::updateHints);
+  connect(&pause_, &QTimer::timeout, this, [this] {
+    if (isVisible()) updateHints();
+  });
   const auto wait = [this] { pause_.start(kPause); };
   for (const QLineEdit* field : findChildren<QLineEdit*>())
     connect(field, &QLineEdit::textChanged, this, wait);

@@ -202,14 +202,41 @@ TEST_F(EditorCaptions, FitTheWindowInBothLanguages) {
     SetCurrentLanguage(language);
     openNew();
     editor.resize(10, 10);
-    QTest::qWait(0);
-    for (QLabel* label : editor.findChildren<QLabel*>())
-      EXPECT_GE(label->width(), label->isVisible() ? label->sizeHint().width() : 0)
-          << label->objectName().toStdString();
+    for (const char each : kEditorKinds) {
+      chooseKind(each);
+      QTest::qWait(0);
+      for (QLabel* label : editor.findChildren<QLabel*>())
+        EXPECT_GE(label->width(), label->isVisible() ? label->sizeHint().width() : 0)
+            << label->objectName().toStdString();
+      for (QGroupBox* frame : tabs().currentWidget()->findChildren<QGroupBox*>())
+        EXPECT_GE(frame->width(), frame->fontMetrics().horizontalAdvance(frame->title()));
+      for (QLineEdit* field : tabs().currentWidget()->findChildren<QLineEdit*>())
+        EXPECT_GE(field->width(), field->fontMetrics().horizontalAdvance("-1,234E+10")) << each;
+    }
     const QTabBar& bar = *tabs().tabBar();
     EXPECT_LE(bar.tabRect(6).right(), bar.width());
     EXPECT_GE(bar.tabRect(6).width(), bar.fontMetrics().horizontalAdvance(bar.tabText(6)));
   }
+}
+
+TEST_F(EditorCaptions, FitASmallScreenInLargeLetters) {
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSizeF(usual.pointSizeF() * 1.5);
+  QApplication::setFont(large);
+  for (const char* const language : {"ES", "EN"}) {
+    SetCurrentLanguage(language);
+    frmAdmGraficos window(program);
+    prepareNewGraph(program, &caller);
+    window.showForm();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window, kPatience));
+    constexpr QSize kFrame(4, 32);
+    const QSize needed = window.sizeHint() + kFrame;
+    EXPECT_LE(needed.width(), 1024) << language;
+    EXPECT_LE(needed.height(), 768) << language;
+    window.close();
+  }
+  QApplication::setFont(usual);
 }
 
 }  // namespace
