@@ -32,7 +32,7 @@ open_screen "$work"
 take() {
   look_still "$1"
   import -window "$(xdotool getactivewindow)" "$work/window.png"
-  convert "$work/window.png" +dither -colors 160 -strip -define png:compression-level=9 \
+  convert "$work/window.png" +dither -colors 256 -strip -define png:compression-level=9 \
     "$pictures/$1_$language.png"
 }
 away() { xdotool mousemove 1270 1014; }

@@ -86,9 +86,6 @@ std::string unknownNameText(const UnknownName& unknown) {
              : inLanguage("Nombre desconocido: «%1»", "Unknown name: “%1”", unknown.name);
 }
 
-std::string notANumber() { return inLanguage("No es un número", "Not a number"); }
-std::string tooLarge() { return inLanguage("Demasiado grande", "Too large"); }
-
 /// What a number must be beyond a number.
 enum class Must { nothing, fit, not_be_negative };
 
@@ -96,9 +93,10 @@ FieldHint numberHint(const Field& field, Must must) {
   std::string unwanted;
   if (field.text.empty())
     return {HintTone::missing, inLanguage("Falta un número", "A number is needed")};
-  if (!checkNumeric({&field, 1}, unwanted)) return refusal(notANumber());
+  if (!checkNumeric({&field, 1}, unwanted))
+    return refusal(inLanguage("No es un número", "Not a number"));
   if (must == Must::nothing) return {};
-  if (!readNumber(field.text)) return refusal(tooLarge());
+  if (!readNumber(field.text)) return refusal(inLanguage("Demasiado grande", "Too large"));
   if (must == Must::not_be_negative && !checkNonNegative({&field, 1}, unwanted))
     return refusal(inLanguage("No puede ser negativo", "Must not be negative"));
   return {};
