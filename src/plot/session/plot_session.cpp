@@ -18,7 +18,8 @@ void PlotSession::open(const ViewSettings& view, const ScaleMarks& marks) {
   marks_ = marks;
   mode_ = PlotMode::normal;
   cursor_.reset();
-  trace_.reset();
+  trace_x_ = 0;
+  trace_y_.reset();
   rectangle_ = {};
   ignores_press_ = false;
   is_dragging_ = false;

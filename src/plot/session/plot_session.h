@@ -109,6 +109,8 @@ class PlotSession {
   /// The next or the previous graph in use becomes the active one; the mode is "NORMAL".
   void activateNext();
   void activatePrevious();
+  /// The same with a graph that is chosen by its letter; nothing where there is no such graph.
+  void choose(char letter);
   /// Makes a graph in use the active one; false when there is no such graph.
   bool activate(char letter);
   /// The active graph's letter; nothing in a document without graphs.
@@ -119,7 +121,7 @@ class PlotSession {
 
   /// The cursor while it is shown, and the plane x of the last trace point; 0 before the first.
   const std::optional<TraceCursor>& cursor() const { return cursor_; }
-  double tracePosition() const { return trace_ ? trace_->x : 0; }
+  double tracePosition() const { return trace_x_; }
   /// The rectangle while it is dragged.
   std::optional<ZoomRectangle> zoomRectangle() const;
 
@@ -146,6 +148,7 @@ class PlotSession {
 
   void activateFirst();
   void makeActive(const std::optional<GraphDef>& def);
+  void setActive(char letter);
   /// An empty definition in a document without graphs.
   GraphDef activeDef() const;
 
@@ -179,7 +182,8 @@ class PlotSession {
   ScaleMarks marks_;
   PlotMode mode_ = PlotMode::normal;
   std::optional<char> active_;
-  std::optional<PlanePoint> trace_;  // the last trace point
+  double trace_x_ = 0;             // of the last trace point
+  std::optional<double> trace_y_;  // the same, where it was on the active graph
   std::optional<TraceCursor> cursor_;
   ZoomRectangle rectangle_;
   bool is_dragging_ = false;    // the rectangle, which is shown

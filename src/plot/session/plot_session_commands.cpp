@@ -62,6 +62,13 @@ void PlotSession::activatePrevious() {
   makeActive(graphs_.previousDefined(active_));
 }
 
+void PlotSession::choose(char letter) {
+  const auto def = graphs_.graph(letter);
+  if (!isDrawn() || !def || !def->defined) return;
+  setMode(PlotMode::normal);
+  makeActive(def);
+}
+
 bool PlotSession::activate(char letter) {
   const auto def = graphs_.graph(letter);
   if (!def || !def->defined) return false;
@@ -71,9 +78,15 @@ bool PlotSession::activate(char letter) {
 
 void PlotSession::makeActive(const std::optional<GraphDef>& def) {
   if (!def || !def->defined) return;
-  active_ = def->nombre;
+  setActive(def->nombre);
   ++changes_;
   listener_.toolsChanged();
+}
+
+/// Another graph's points say nothing of the slope.
+void PlotSession::setActive(char letter) {
+  if (active_ != letter) trace_y_.reset();
+  active_ = letter;
 }
 
 GraphDef PlotSession::activeDef() const {

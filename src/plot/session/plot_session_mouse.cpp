@@ -73,7 +73,7 @@ void PlotSession::pick(Point mouse) {
     picked = pickGraph(engine_, graphs_, *active_, point, walk);
   if (walk.isEnded()) return;
   if (!picked) return setMode(PlotMode::normal);
-  active_ = picked->letter;
+  setActive(picked->letter);
   listener_.toolsChanged();
   trace(point.x, 1);
 }

@@ -68,10 +68,11 @@ void PlotSession::placeCursor(PlanePoint cursor, PlanePoint traced, bool to_the_
   const bool fits_left = place.x >= kSlopeWidth;
   const bool fits_right = place.x <= viewport_.size.scale_width - kSlopeWidth;
   const bool left = to_the_left ? fits_left || !fits_right : fits_left && !fits_right;
-  const double from_y = trace_ ? trace_->y : traced.y;
+  const double from_y = trace_y_.value_or(traced.y);
   cursor_ =
       TraceCursor{place, slopeBetween(from_y, traced.y, left ? SlopeSide::left : SlopeSide::right)};
-  trace_ = traced;
+  trace_x_ = traced.x;
+  trace_y_ = traced.y;
   listener_.toolsChanged();
 }
 

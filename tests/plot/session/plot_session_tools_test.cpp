@@ -59,6 +59,48 @@ TEST_F(SessionTools, TheFirstTracePointHasNoSlope) {
   EXPECT_EQ(session.cursor()->slope, Slope::igual);
 }
 
+TEST_F(SessionTools, TheFirstTracePointOnAnotherGraphHasNoSlope) {
+  session.execute(PlotCommand::recorrer_adelante);
+  session.activateNext();
+  session.execute(PlotCommand::recorrer_adelante);
+  EXPECT_EQ(shown(), "X=2|Y=0||");
+  EXPECT_EQ(session.cursor()->slope, Slope::igual);
+  session.execute(PlotCommand::recorrer_atras);
+  EXPECT_EQ(session.cursor()->slope, Slope::decreciente_izq);
+  session.mouseDown(MouseButton::left, {1350, 300});  // near "a" at x = 4
+  EXPECT_EQ(session.activeGraph(), 'a');
+  EXPECT_EQ(session.cursor()->slope, Slope::igual);
+}
+
+TEST_F(SessionTools, TheSlopeGoesOnWhereTheActiveGraphIsTheSame) {
+  session.choose('c');
+  session.execute(PlotCommand::recorrer);
+  EXPECT_EQ(shown(), "X=-3|Y=5||");
+  session.choose('c');
+  session.execute(PlotCommand::recorrer_adelante);
+  EXPECT_EQ(shown(), "X=-2|Y=0||");
+  EXPECT_EQ(session.cursor()->slope, Slope::decreciente_der);
+}
+
+TEST_F(SessionTools, AGraphThatIsChosenBecomesTheActiveOneWithoutARedraw) {
+  session.execute(PlotCommand::recorrer);
+  session.choose('c');
+  EXPECT_EQ(session.activeGraph(), 'c');
+  EXPECT_EQ(session.mode(), PlotMode::normal);
+  EXPECT_EQ(shown(), range());
+  EXPECT_EQ(listener.drawn, 1);
+}
+
+TEST_F(SessionTools, ALetterWithoutAGraphIsNotChosen) {
+  session.execute(PlotCommand::recorrer);
+  for (const char letter : {'b', 'A', '\0'}) session.choose(letter);
+  EXPECT_EQ(session.activeGraph(), 'a');
+  EXPECT_EQ(session.mode(), PlotMode::recorrido);
+  session.close();
+  session.choose('c');
+  EXPECT_EQ(session.activeGraph(), 'a');
+}
+
 TEST_F(SessionTools, TheSlopeStandsWhereItIsNotCutOff) {
   session.execute(PlotCommand::recorrer);
   session.execute(PlotCommand::recorrer_atras);
