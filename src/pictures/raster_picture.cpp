@@ -57,13 +57,15 @@ Pixels thickness(double place, int width, int size) {
   return {begin, std::min(begin + width, size)};
 }
 
-/// The pixels of a line along it, both ends among them, as far as they are in the picture.
-Pixels extent(double one, double other, int size) {
+/// The pixels of a line along it, both ends among them, as far as they are in the picture: as many
+/// on either side of those that a line across its middle has, so that a mark is even on its axis.
+Pixels extent(double one, double other, int width, int size) {
+  const double middle = std::floor((one + other) / 2 - (width - 1) / 2.0);
+  const double beside = std::ceil(std::fmax(0, (std::fabs(other - one) - width) / 2));
   const auto pixel = [size](double place) {
-    return static_cast<int>(std::floor(std::fmax(-1, std::fmin(place, size))));
+    return static_cast<int>(std::fmax(0, std::fmin(place, size)));
   };
-  return {std::max(0, pixel(std::fmin(one, other))),
-          std::min(size, pixel(std::fmax(one, other)) + 1)};
+  return {pixel(middle - beside), pixel(middle + width + beside)};
 }
 
 }  // namespace
@@ -170,8 +172,8 @@ void RasterPicture::draw(const Waiting& line, LineEnd end) {
 void RasterPicture::fill(PixelPoint from, PixelPoint to) {
   const bool is_upright = from.x == to.x;
   const Pixels across = is_upright ? thickness(from.x, axis_width_, bitmap_.width)
-                                   : extent(from.x, to.x, bitmap_.width);
-  const Pixels down = is_upright ? extent(from.y, to.y, bitmap_.height)
+                                   : extent(from.x, to.x, axis_width_, bitmap_.width);
+  const Pixels down = is_upright ? extent(from.y, to.y, axis_width_, bitmap_.height)
                                  : thickness(from.y, axis_width_, bitmap_.height);
   if (across.first >= across.last || down.first >= down.last) return;
   mask_.touch(across.first, down.first, across.last - 1, down.last - 1);

@@ -69,8 +69,14 @@ TEST_F(Raster, DrawsATickOverAllItsPixels) {
   picture.beginAxes();
   picture.line(atPixel(12, 10), atPixel(17, 10));
   const Bitmap& bitmap = picture.finish();
-  for (int x = 12; x <= 17; ++x) EXPECT_EQ(ink(bitmap, x, 10), 1) << x;
-  EXPECT_EQ(inkOf(bitmap), 6);
+  for (int x = 12; x < 17; ++x) EXPECT_EQ(ink(bitmap, x, 10), 1) << x;
+  EXPECT_EQ(inkOf(bitmap), 5);
+}
+
+TEST_F(Raster, DrawsATickThatIsShorterThanAPixel) {
+  picture.beginAxes();
+  picture.line({300, 150}, {302, 150});
+  EXPECT_EQ(inkOf(picture.finish()), 1);
 }
 
 TEST_F(Raster, PutsAnAxisOnTheLastTwipOnTheLastPixel) {
@@ -114,6 +120,32 @@ TEST(RasterDensity, DrawsBothAxesInEquallyManyPixels) {
     }
     EXPECT_EQ(wide, std::max(1.0, std::round(density))) << density;
     EXPECT_EQ(high, wide) << density;
+  }
+}
+
+/// How many pixels of a row are black, from a column on in a direction.
+int blackFrom(const Bitmap& bitmap, int x, int y, int direction) {
+  int count = 0;
+  for (; ink(bitmap, x, y) == 1; x += direction) ++count;
+  return count;
+}
+
+TEST(RasterDensity, DrawsATickEvenlyOnItsAxisWhereverThatLies) {
+  for (const double density : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+    for (double place = 600; place < 615; ++place) {
+      RasterPicture picture(200, 200, density);
+      picture.beginAxes();
+      picture.line({place, 0}, {place, 600});
+      picture.line({place - 40, 300}, {place + 40, 300});
+      const Bitmap& bitmap = picture.finish();
+      int first = 0;  // pixel of the axis
+      while (ink(bitmap, first, 0) == 0) ++first;
+      const int width = blackFrom(bitmap, first, 0, 1);
+      const int row = static_cast<int>(20 * density - (width - 1) / 2.0);
+      const int before = blackFrom(bitmap, first - 1, row, -1);
+      EXPECT_GE(before, 2) << density << " at " << place;
+      EXPECT_EQ(blackFrom(bitmap, first + width, row, 1), before) << density << " at " << place;
+    }
   }
 }
 
