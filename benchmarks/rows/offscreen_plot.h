@@ -32,7 +32,7 @@ class OffscreenPlot : private PlotListener {
   std::optional<std::string> askValue(const std::string&, const std::string&) override {
     return std::nullopt;
   }
-  void copyPicture() override {}
+  void copyPicture(bool) override {}
   void openPrint() override {}
   void returnToMain() override {}
 

@@ -50,6 +50,21 @@ void addTools(Json& object, const PlotSession& session) {
     object["enabled"][std::string(keyOf(command))] = session.isEnabled(command);
 }
 
+/// Only while they are shown. Texts are reckoned with the same width for each character.
+void addNumbers(Json& object, const PlotSession& session) {
+  if (!session.showsNumbers()) return;
+  constexpr double kCharacter = 90;  // twips
+  const TextMeasure measure = {165, 195, [](std::string_view text) {
+                                 return static_cast<double>(text.size()) * kCharacter;
+                               }};
+  object["numbers"] = Json::array();
+  for (const PictureLabel& label : session.numbers(measure).labels)
+    object["numbers"].push_back(
+        {{"text", label.text}, {"x", number(label.corner.x)}, {"y", number(label.corner.y)}});
+  const auto coordinates = session.coordinates(measure);
+  object["coordinates"] = coordinates ? Json(coordinates->text) : Json();
+}
+
 void addShown(Json& object, const ShownPlot& shown) {
   object["redraws"] = shown.redraws;
   if (shown.progress) {
@@ -98,6 +113,7 @@ std::string driveObject(const DriveWindow& window, const Engine& engine) {
   object["trace_x"] = number(session.tracePosition());
   object["p"] = number(engine.GetP());
   addTools(object, session);
+  addNumbers(object, session);
   addShown(object, window.shown());
   // What is not UTF-8 can come from the answers that are read.
   return escapeHighControls(object.dump(-1, ' ', false, Json::error_handler_t::replace));

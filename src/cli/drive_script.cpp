@@ -73,6 +73,31 @@ bool previous(DriveWindow& window, std::string_view arguments) {
   return true;
 }
 
+bool choose(DriveWindow& window, std::string_view arguments) {
+  const auto words = wordsOf(arguments);
+  if (words.size() != 1 || words[0].size() != 1) return false;
+  window.session().choose(words[0][0]);
+  return true;
+}
+
+bool numbers(DriveWindow& window, std::string_view arguments) {
+  if (!wordsOf(arguments).empty()) return false;
+  window.session().toggleNumbers();
+  return true;
+}
+
+bool copyWithNumbers(DriveWindow& window, std::string_view arguments) {
+  if (!wordsOf(arguments).empty()) return false;
+  window.session().copyWithNumbers();
+  return true;
+}
+
+bool leave(DriveWindow& window, std::string_view arguments) {
+  if (!wordsOf(arguments).empty()) return false;
+  window.session().mouseLeft();
+  return true;
+}
+
 bool down(DriveWindow& window, std::string_view arguments) {
   const auto mouse = readMouse(arguments);
   if (!mouse || mouse->button == MouseButton::none) return false;
@@ -132,11 +157,19 @@ struct Verb {
 };
 
 constexpr Verb kVerbs[] = {
-    {"CmdGrafSiguiente", "", next},   {"CmdGrafAnterior", "", previous},
-    {"down", "left|right X Y", down}, {"move", "none|left|right X Y", move},
-    {"up", "left|right X Y", up},     {"key", "CODE", key},
-    {"resize", "PX PX", resize},      {"answer", "TEXT", answer},
+    {"CmdGrafSiguiente", "", next},
+    {"CmdGrafAnterior", "", previous},
+    {"down", "left|right X Y", down},
+    {"move", "none|left|right X Y", move},
+    {"up", "left|right X Y", up},
+    {"key", "CODE", key},
+    {"resize", "PX PX", resize},
+    {"answer", "TEXT", answer},
     {"lang", "ES|EN", lang},
+    {"choose", "LETTER", choose},
+    {"leave", "", leave},
+    {"CmdNumeros", "", numbers},
+    {"Copiar_Con_Numeros", "", copyWithNumbers},
 };
 
 std::string expected(std::string_view name, std::string_view arguments) {

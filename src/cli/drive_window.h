@@ -60,7 +60,7 @@ class DriveWindow : private PlotListener, private Screen, private Picture, priva
   void showDrawingError(const std::string& message, std::optional<char> graph) override;
   void showInformation(const std::string& message) override;
   std::optional<std::string> askValue(const std::string&, const std::string&) override;
-  void copyPicture() override {}
+  void copyPicture(bool) override {}
   void openPrint() override { shown_.closed_to = "print"; }
   void returnToMain() override;
 

@@ -10,6 +10,7 @@ void DrawingList::clear() {
   steps_.clear();
   points_.clear();
   is_full_ = false;
+  layer_ = {};
 }
 
 void DrawingList::beginAxes() { begin({.kind = Kind::axes}); }

@@ -3,8 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
+#include "pictures/number_layer.h"
 #include "pictures/picture.h"
 
 namespace zel {
@@ -30,6 +32,11 @@ class DrawingList : public Picture {
   /// More was drawn than it takes, and nothing of it is kept.
   bool isFull() const { return is_full_; }
 
+  /// What is to be seen over it wherever it comes out; nothing at first, and again when it is
+  /// cleared.
+  void layOver(NumberLayer layer) { layer_ = std::move(layer); }
+  const NumberLayer& layer() const { return layer_; }
+
   /// Draws all of it again, in its order; draws nothing when it is full. The other picture is not
   /// cleared.
   void replay(Picture& picture) const;
@@ -54,6 +61,7 @@ class DrawingList : public Picture {
   std::size_t most_points_;
   std::vector<Step> steps_;
   std::vector<Point> points_;
+  NumberLayer layer_;
   bool is_full_ = false;
 };
 

@@ -16,6 +16,35 @@ std::string attribute(const char* name, double value) {
   return std::string(" ") + name + "=\"" + coordinateText(value) + "\"";
 }
 
+std::string gridGroup(const NumberLayer& layer) {
+  if (layer.grid.empty()) return {};
+  std::string group = "<g id=\"grid\" stroke=\"" + colourText(kGridColour) + "\" stroke-width=\"" +
+                      coordinateText(kAxisWidth) + "\">\n";
+  for (const GridLine& line : layer.grid)
+    group += "<line" + attribute("x1", line.from.x) + attribute("y1", line.from.y) +
+             attribute("x2", line.to.x) + attribute("y2", line.to.y) + "/>\n";
+  return group + "</g>\n";
+}
+
+/// Each text fills its box, whatever font a viewer has, and has white behind it.
+std::string numberGroup(const NumberLayer& layer) {
+  if (layer.labels.empty()) return {};
+  constexpr double kBaseline = 0.78;  // of the height of a line, from its top
+  std::string group = "<g id=\"numbers\" font-family=\"sans-serif\"" +
+                      attribute("font-size", layer.font_size) + " fill=\"" +
+                      colourText(kNumberColour) + "\">\n";
+  for (const PictureLabel& label : layer.labels) {
+    const std::string width = attribute("width", label.width);
+    group += "<rect" + attribute("x", label.corner.x) + attribute("y", label.corner.y) + width +
+             attribute("height", label.height) + " fill=\"#ffffff\"" +
+             attribute("fill-opacity", kNumberBackground) + "/>\n<text" +
+             attribute("x", label.corner.x) +
+             attribute("y", label.corner.y + kBaseline * label.height) +
+             attribute("textLength", label.width) + ">" + label.text + "</text>\n";
+  }
+  return group + "</g>\n";
+}
+
 }  // namespace
 
 void SvgPicture::clear() { *this = SvgPicture(width_, height_, max_text_); }
@@ -53,7 +82,7 @@ void SvgPicture::dot(Point centre, double radius) {
            attribute("r", radius) + "/>\n";
 }
 
-std::string SvgPicture::text() {
+std::string SvgPicture::text(const NumberLayer& layer) {
   endGroup();
   if (isFull()) return {};
   const std::string width = std::to_string(width_);
@@ -75,7 +104,7 @@ std::string SvgPicture::text() {
          styles_ +
          "</style>\n"
          "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n" +
-         body_ + "</svg>\n";
+         gridGroup(layer) + body_ + numberGroup(layer) + "</svg>\n";
 }
 
 void SvgPicture::endPiece() {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "pictures/number_layer.h"
 #include "pictures/picture.h"
 
 namespace zel {
@@ -30,8 +31,9 @@ class SvgPicture : public Picture {
   /// The document outgrew its limit and takes nothing more.
   bool isFull() const { return body_.size() + points_.size() + dots_.size() > max_text_; }
 
-  /// The whole document.
-  std::string text();
+  /// The whole document, with a layer over the picture: its grid is the group "grid", below axes
+  /// and graphs, and its numbers are the group "numbers", above them.
+  std::string text(const NumberLayer& layer = {});
 
  private:
   void endPiece();

@@ -59,17 +59,22 @@ void forEachMark(const MarkedRange& range, double first_mark, const Map& map, co
 /// neither has a distance below 0, which leads away from the range.
 template <class Map, class Tick>
 bool drawMarks(const MarkedRange& range, const Map& map, const Tick& tick) {
-  const double width = std::fabs(range.last - range.first);
-  if (width < kNarrowestMarkedRange || width > kWidestMarkedRange) return true;
-  // From a positive end that is no multiple of the distance, the first mark is off the grid on
-  // purpose: marks stand at the end plus its remainder.
-  const double first_mark = range.first + FlooredModulo(std::fabs(range.first), range.distance);
-  if (!std::isfinite(first_mark)) return false;
-  if (range.distance > 0) forEachMark(range, first_mark, map, tick);
+  const auto first_mark = firstMark(range.first, range.last, range.distance);
+  if (!first_mark) return true;
+  if (!std::isfinite(*first_mark)) return false;
+  if (range.distance > 0) forEachMark(range, *first_mark, map, tick);
   return true;
 }
 
 }  // namespace
+
+std::optional<double> firstMark(double first, double last, double distance) {
+  const double width = std::fabs(last - first);
+  if (width < kNarrowestMarkedRange || width > kWidestMarkedRange) return std::nullopt;
+  // From a positive end that is no multiple of the distance, the first mark is off the grid on
+  // purpose: marks stand at the end plus its remainder.
+  return first + FlooredModulo(std::fabs(first), distance);
+}
 
 bool drawAxes(const Viewport& viewport, const ScaleMarks& marks, Picture& picture) {
   const ViewSettings& view = viewport.view;

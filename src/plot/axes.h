@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "pictures/picture.h"
 #include "plot/viewport.h"
 
@@ -14,6 +16,10 @@ struct ScaleMarks {
 
   bool operator==(const ScaleMarks&) const = default;
 };
+
+/// Where the marks of a range begin, in plane units; nothing on a range that is narrower than 1 or
+/// wider than 200 units, and no number for a distance that cannot be divided by.
+std::optional<double> firstMark(double first, double last, double distance);
 
 /// Draws the y axis with its marks, then the x axis with its own, each where it lies on the
 /// picture. Marks are drawn on ranges from 1 to 200 plane units. False, with what was drawn before

@@ -24,6 +24,33 @@ TEST_F(DriveToolbar, TheOnlyGraphStaysActive) {
     EXPECT_EQ(after(plane(block('h', 'F', "x")), command)["active"], "h");
 }
 
+TEST_F(DriveToolbar, AGraphOfTheListIsChosenByItsLetter) {
+  const std::string document = plane(block('b', 'F', "x") + block('f', 'F', "1"));
+  const Json object = after(document, "Recorrer\nchoose f");
+  EXPECT_EQ(object["active"], "f");
+  EXPECT_EQ(object["mode"], "NORMAL");
+  EXPECT_EQ(object["redraws"], 1);
+  EXPECT_EQ(after(document, "choose z")["active"], "b");
+  EXPECT_EQ(drive(document, "choose\nchoose bf\nchoose b f").err.size(),
+            3 * std::string("línea 1: se espera: choose LETTER\n").size());
+}
+
+TEST_F(DriveToolbar, TheNumbersAreTheyOnlyWhileTheyAreShown) {
+  const Driven driven =
+      drive(planeOf("x"), "move none 6500 4000\nCmdNumeros\nleave\nkey 78\nCopiar_Con_Numeros");
+  ASSERT_EQ(driven.objects.size(), 6u);
+  EXPECT_FALSE(driven.objects[1].contains("numbers"));
+  const Json& shown = driven.objects[2];
+  EXPECT_EQ(shown["coordinates"], "X=1  Y=1");
+  const Json seven = {{"text", "7"}, {"x", 9455}, {"y", 4565}};
+  EXPECT_THAT(shown["numbers"], ::testing::Contains(seven));
+  EXPECT_EQ(driven.objects[3]["coordinates"], nullptr);
+  EXPECT_FALSE(driven.objects[4].contains("coordinates"));
+  EXPECT_EQ(
+      driven.last()["messages"],
+      Json({information("Se ha copiado el gráfico de funciones al Portapapeles de Windows.")}));
+}
+
 TEST_F(DriveToolbar, TheTraceFollowsTheNewActiveGraph) {
   const Json object = after(plane(block('b', 'F', "x") + block('f', 'F', "1")),
                             "Recorrer_Adelante\nCmdGrafSiguiente\nRecorrer_Adelante");

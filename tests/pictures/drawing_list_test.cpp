@@ -107,5 +107,16 @@ TEST(DrawingListOfAPlot, TakesTwentySixCurvesOfAWideScreen) {
   EXPECT_EQ(replayed(list).calls.size(), 26u * 1921);
 }
 
+TEST(DrawingListLayer, IsKeptUntilTheListIsCleared) {
+  DrawingList list;
+  EXPECT_EQ(list.layer(), NumberLayer());
+  const NumberLayer layer = {150, {}, {{"7", {0, 0}, 90, 180}}};
+  list.layOver(layer);
+  EXPECT_EQ(list.layer(), layer);
+  EXPECT_EQ(DrawingList(list).layer(), layer);
+  list.clear();
+  EXPECT_EQ(list.layer(), NumberLayer());
+}
+
 }  // namespace
 }  // namespace zel::test

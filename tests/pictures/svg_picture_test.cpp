@@ -218,5 +218,29 @@ TEST(SvgPicture, IsCheckedByATestThatKnowsBadDocuments) {
     EXPECT_FALSE(isWellFormed(declaration + bad)) << bad;
 }
 
+TEST(SvgPicture, HasAGridBelowTheGraphsAndNumbersAboveThemWhereALayerIsLaidOverIt) {
+  SvgPicture picture(100, 50);
+  picture.beginGraph('a', 0xFF);
+  picture.startPiece({0, 0});
+  picture.extendPiece({15, 15});
+  const std::string plain = picture.text();
+  EXPECT_EQ(plain.find("grid"), std::string::npos);
+  EXPECT_EQ(plain.find("<text"), std::string::npos);
+  const NumberLayer layer = {150, {{{300, 0}, {300, 750}}}, {{"-2,5", {100, 200}, 360, 180}}};
+  const std::string text = picture.text(layer);
+  const std::string grid =
+      "<g id=\"grid\" stroke=\"#d9e1ea\" stroke-width=\"15\">\n"
+      "<line x1=\"300\" y1=\"0\" x2=\"300\" y2=\"750\"/>\n</g>\n";
+  const std::string numbers =
+      "<g id=\"numbers\" font-family=\"sans-serif\" font-size=\"150\" fill=\"#3a424c\">\n"
+      "<rect x=\"100\" y=\"200\" width=\"360\" height=\"180\" fill=\"#ffffff\" "
+      "fill-opacity=\"0.8\"/>\n"
+      "<text x=\"100\" y=\"340.4\" textLength=\"360\">-2,5</text>\n</g>\n";
+  ASSERT_NE(text.find(grid), std::string::npos) << text;
+  ASSERT_NE(text.find(numbers), std::string::npos) << text;
+  EXPECT_LT(text.find(grid), text.find("graph-a\" stroke"));
+  EXPECT_GT(text.find(numbers), text.find("<polyline"));
+}
+
 }  // namespace
 }  // namespace zel::test

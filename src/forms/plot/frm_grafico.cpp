@@ -66,7 +66,7 @@ std::optional<std::string> frmGrafico::askValue(const std::string& prompt,
   return program().services.inputs.ask(prompt, title);
 }
 
-void frmGrafico::copyPicture() {
+void frmGrafico::copyPicture(bool) {
   Clipboard& clipboard = program().services.clipboard;
   clipboard.clear();
   clipboard.putBitmap(picGrafico_->bitmap());

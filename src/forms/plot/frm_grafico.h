@@ -50,7 +50,7 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
   void showDrawingError(const std::string& message, std::optional<char> graph) override;
   void showInformation(const std::string& message) override;
   std::optional<std::string> askValue(const std::string& prompt, const std::string& title) override;
-  void copyPicture() override;
+  void copyPicture(bool with_numbers) override;
   void openPrint() override;
   void returnToMain() override;
 

@@ -8,6 +8,7 @@
 #include "pictures/picture.h"
 #include "plot/axes.h"
 #include "plot/drawing.h"
+#include "plot/mark_numbers.h"
 #include "plot/screen.h"
 #include "plot/session/navigation.h"
 #include "plot/session/plot_command.h"
@@ -38,7 +39,8 @@ class PlotListener {
 
   /// The picture has been drawn, or cleared where its range is refused.
   virtual void pictureDrawn() = 0;
-  /// The mode, the cursor, the zoom rectangle or the active graph is no longer what it was.
+  /// The mode, the cursor, the zoom rectangle, the active graph or what is shown of numbers is no
+  /// longer what it was.
   virtual void toolsChanged() = 0;
   /// Why the view was not drawn, in the current language, and the graph that was being drawn, or
   /// the active one where none was. Shown until the user has seen it.
@@ -48,8 +50,8 @@ class PlotListener {
   /// What the user types; nothing, or an empty text, when that was cancelled.
   virtual std::optional<std::string> askValue(const std::string& prompt,
                                               const std::string& title) = 0;
-  /// The picture goes to the clipboard as it is.
-  virtual void copyPicture() = 0;
+  /// The picture goes to the clipboard as it is, or with the numbers over it.
+  virtual void copyPicture(bool with_numbers) = 0;
   /// The view goes to the print window, which is shown.
   virtual void openPrint() = 0;
   /// The view goes back to the main window, which is shown again.
@@ -94,15 +96,20 @@ class PlotSession {
   /// A button of the toolbar. One that is not enabled does nothing.
   void execute(PlotCommand command);
   bool isEnabled(PlotCommand command) const;
+  /// As the button that copies, with the numbers, whether they are shown or not.
+  void copyWithNumbers();
 
   /// A key on the picture, as its character code: Esc and Space stop a long drawing, a capital "C"
-  /// shows the active graph's code, "+" and "-" zoom as the buttons do.
+  /// shows the active graph's code, "+" and "-" zoom as the buttons do, "n" and "N" switch the
+  /// numbers.
   void keyPressed(char32_t key);
 
   /// The mouse on the picture, at a place in twips.
   void mouseDown(MouseButton button, Point mouse);
   void mouseMove(MouseButton held, Point mouse);
   void mouseUp(MouseButton button, Point mouse);
+  /// The mouse is no longer on the picture.
+  void mouseLeft();
   /// Zooms about the place under the mouse.
   void wheelTurned(Zoom zoom, Point mouse);
 
@@ -115,6 +122,15 @@ class PlotSession {
   bool activate(char letter);
   /// The active graph's letter; nothing in a document without graphs.
   std::optional<char> activeGraph() const { return active_; }
+
+  /// Shows numbers at the marks, a grid, and the coordinates beside the pointer, or hides them.
+  /// They are hidden at first, and stay as they are from one opening to the next.
+  void toggleNumbers();
+  bool showsNumbers() const { return shows_numbers_; }
+  /// The numbers and the grid of the view that is drawn, shown or not; none while there is none.
+  NumberLayer numbers(const TextMeasure& measure) const;
+  /// The coordinates beside the pointer, while they are shown.
+  std::optional<PictureLabel> coordinates(const TextMeasure& measure) const;
 
   void setMode(PlotMode mode);
   PlotMode mode() const { return mode_; }
@@ -129,6 +145,8 @@ class PlotSession {
   const ViewSettings& view() const { return viewport_.view; }
   const ViewSettings& openedView() const { return opened_view_; }
   const PictureSize& pictureSize() const { return viewport_.size; }
+  /// How the view lies on the picture, once it has been drawn.
+  const Viewport& viewport() const { return viewport_; }
 
  private:
   enum class State {
@@ -155,6 +173,7 @@ class PlotSession {
   void pan(PlotCommand direction);
   void zoomTo(const ViewSettings& view);
   void toggleZoom();
+  void followMouse(MouseButton held, Point mouse);
   void applyRectangle();
   void pick(Point mouse);
 
@@ -171,6 +190,7 @@ class PlotSession {
   std::string parameterText(const GraphDef& def) const;
   void search();
   void calculateValues();
+  void copy(bool with_numbers);
 
   Engine& engine_;
   const GraphTable& graphs_;
@@ -193,6 +213,8 @@ class PlotSession {
   std::uint64_t opened_count_ = 0;  // tells one opening from the next
   std::uint64_t changes_ = 0;       // of mode, view and active graph
   bool is_walking_ = false;
+  bool shows_numbers_ = false;
+  std::optional<Point> pointer_;  // of the mouse, on the picture
 };
 
 }  // namespace zel

@@ -34,10 +34,7 @@ void PlotSession::execute(PlotCommand command) {
     case PlotCommand::calcular_y: return calculateValues();
     case PlotCommand::buscar_max_min: return walkOnce([this] { search(); });
     case PlotCommand::zoom_a_medida: return toggleZoom();
-    case PlotCommand::copiar_grafico:
-      listener_.copyPicture();
-      return listener_.showInformation(
-          Localize("Se ha copiado el gráfico de funciones al Portapapeles de Windows."));
+    case PlotCommand::copiar_grafico: return copy(false);
     case PlotCommand::imprimir: return listener_.openPrint();
   }
 }
@@ -48,6 +45,31 @@ void PlotSession::keyPressed(char32_t key) {
   if (key == U'C' && active_) listener_.showInformation(activeDef().codigo);
   if (key == U'+') execute(PlotCommand::acercar);
   if (key == U'-') execute(PlotCommand::alejar);
+  if (key == U'n' || key == U'N') toggleNumbers();
+}
+
+void PlotSession::copyWithNumbers() {
+  if (isDrawn()) copy(true);
+}
+
+void PlotSession::copy(bool with_numbers) {
+  listener_.copyPicture(with_numbers);
+  listener_.showInformation(
+      Localize("Se ha copiado el gráfico de funciones al Portapapeles de Windows."));
+}
+
+void PlotSession::toggleNumbers() {
+  shows_numbers_ = !shows_numbers_;
+  listener_.toolsChanged();
+}
+
+NumberLayer PlotSession::numbers(const TextMeasure& measure) const {
+  return isDrawn() ? markNumbers(viewport_, marks_, measure) : NumberLayer();
+}
+
+std::optional<PictureLabel> PlotSession::coordinates(const TextMeasure& measure) const {
+  if (!isDrawn() || !shows_numbers_ || !pointer_) return std::nullopt;
+  return pointerLabel(viewport_, *pointer_, measure);
 }
 
 void PlotSession::activateNext() {

@@ -22,14 +22,27 @@ void PlotSession::mouseDown(MouseButton button, Point mouse) {
 }
 
 void PlotSession::mouseMove(MouseButton held, Point mouse) {
-  if (!isDrawn() || mode_ != PlotMode::zoom) return;
+  if (!isDrawn()) return;
+  pointer_ = mouse;
+  if (mode_ == PlotMode::zoom)
+    followMouse(held, mouse);
+  else if (shows_numbers_)
+    listener_.toolsChanged();
+}
+
+void PlotSession::followMouse(MouseButton held, Point mouse) {
   if (held != MouseButton::none && !ignores_press_) rectangle_.follow(mouse);
   const auto panel = [](const char* name, double value) {
     return std::isfinite(value) ? name + writeNumber(value).str() : "";
   };
   screen_.showStatus(
       {panel("X=", viewport_.planeX(mouse.x)), panel("Y=", viewport_.planeY(mouse.y)), "", ""});
-  if (is_dragging_) listener_.toolsChanged();
+  if (is_dragging_ || shows_numbers_) listener_.toolsChanged();
+}
+
+void PlotSession::mouseLeft() {
+  pointer_.reset();
+  if (shows_numbers_) listener_.toolsChanged();
 }
 
 void PlotSession::mouseUp(MouseButton button, Point) {

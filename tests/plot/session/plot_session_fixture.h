@@ -34,7 +34,7 @@ class RecorderListener : public PlotListener {
     answers.pop_front();
     return answer;
   }
-  void copyPicture() override { ++copies; }
+  void copyPicture(bool with_numbers) override { copies += with_numbers ? "n" : "p"; }
   void openPrint() override { ++prints; }
   void returnToMain() override {
     ++returns;
@@ -49,7 +49,7 @@ class RecorderListener : public PlotListener {
   std::vector<std::string> informations;
   std::vector<std::string> asked;   // "title|prompt"
   std::deque<std::string> answers;  // none left: cancelled
-  int copies = 0;
+  std::string copies;               // "p" for the picture alone, "n" with its numbers
   int prints = 0;
   std::function<void()> on_drawn;
   std::function<void()> on_message;

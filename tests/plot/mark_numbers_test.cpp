@@ -1,0 +1,271 @@
+#include "plot/mark_numbers.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "plot/plot_fixture.h"
+
+namespace zel::test {
+namespace {
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+constexpr double kCharacter = 90;  // twips
+constexpr double kLine = 180;
+
+/// The picture is 12000 x 9000 twips; every character has the same width.
+class MarkNumbers : public PlotTest {
+ protected:
+  MarkNumbers() { viewport.size = PictureSize::ofPixels(800, 600); }
+
+  NumberLayer numbers() {
+    EXPECT_EQ(viewport.prepare(), RangeVerdict::drawable);
+    return markNumbers(viewport, marks, measure);
+  }
+
+  /// The numbers below the x axis, from left to right.
+  Texts xNumbers(double xi, double xf, double distance) {
+    show(xi, xf, -1, 1);
+    marks = {distance, 1, true, true};
+    std::vector<PictureLabel> labels = numbers().labels;
+    std::erase_if(labels, [&](const PictureLabel& label) { return label.corner.y != belowAxis(); });
+    std::ranges::sort(labels, {}, [](const PictureLabel& label) { return label.corner.x; });
+    Texts texts;
+    for (const PictureLabel& label : labels) texts.push_back(label.text);
+    return texts;
+  }
+  double belowAxis() const { return viewport.mapY(0) + 40 + 25; }
+
+  static const PictureLabel& labelled(const NumberLayer& layer, const std::string& text) {
+    const auto found = std::ranges::find(layer.labels, text, &PictureLabel::text);
+    if (found == layer.labels.end()) throw std::runtime_error("no number " + text);
+    return *found;
+  }
+  static Texts textsOf(const NumberLayer& layer) {
+    Texts texts;
+    for (const PictureLabel& label : layer.labels) texts.push_back(label.text);
+    return texts;
+  }
+
+  void expectOnThePictureAndApart(const NumberLayer& layer) {
+    for (const PictureLabel& one : layer.labels) {
+      EXPECT_GE(one.corner.x, 0);
+      EXPECT_GE(one.corner.y, 0);
+      EXPECT_LE(one.corner.x + one.width, viewport.size.scale_width) << one.text;
+      EXPECT_LE(one.corner.y + one.height, viewport.size.scale_height) << one.text;
+      for (const PictureLabel& other : layer.labels) {
+        if (&one == &other) continue;
+        const bool apart = one.corner.x + one.width <= other.corner.x ||
+                           other.corner.x + other.width <= one.corner.x ||
+                           one.corner.y + one.height <= other.corner.y ||
+                           other.corner.y + other.height <= one.corner.y;
+        EXPECT_TRUE(apart) << one.text << " and " << other.text;
+      }
+    }
+  }
+
+  TextMeasure measure{150, kLine, [](std::string_view text) {
+                        return static_cast<double>(text.size()) * kCharacter;
+                      }};
+};
+
+TEST_F(MarkNumbers, StandAtEveryMarkWhereThereIsRoom) {
+  EXPECT_THAT(xNumbers(10, 16, 1), ElementsAre("10", "11", "12", "13", "14", "15", "16"));
+  EXPECT_THAT(xNumbers(-0.5, 0.5, 0.25), ElementsAre("-0,5", "-0,25", "0", "0,25", "0,5"));
+}
+
+TEST_F(MarkNumbers, AreInTheMiddleBelowTheirMarks) {
+  show(10, 16, -1, 1);
+  const NumberLayer layer = numbers();
+  const PictureLabel& twelve = labelled(layer, "12");
+  EXPECT_EQ(twelve.corner, (Point{4000 - kCharacter, belowAxis()}));
+  EXPECT_EQ(twelve.width, 2 * kCharacter);
+  EXPECT_EQ(twelve.height, kLine);
+  EXPECT_EQ(layer.font_size, 150);
+}
+
+TEST_F(MarkNumbers, OfTheYAxisEndBesideTheirMarks) {
+  show(-1, 1, 10, 16);
+  const PictureLabel& twelve = labelled(numbers(), "12");
+  EXPECT_EQ(twelve.corner.x + twelve.width, 6000 - 40 - 25);
+  EXPECT_EQ(twelve.corner.y + kLine / 2, 6000);
+}
+
+TEST_F(MarkNumbers, AreThoseOfTheMarksThatAreDrawnOffTheGridToo) {
+  EXPECT_THAT(xNumbers(2.3, 6.3, 1), ElementsAre("2,6", "3,6", "4,6", "5,6"));
+}
+
+TEST_F(MarkNumbers, HaveNoTraceOfTheNoiseOfRepeatedAddition) {
+  EXPECT_THAT(xNumbers(-0.6, 0.6, 0.1), ElementsAre("-0,5", "-0,4", "-0,3", "-0,2", "-0,1", "0",
+                                                    "0,1", "0,2", "0,3", "0,4", "0,5", "0,6"));
+  EXPECT_THAT(xNumbers(-1, 1, 1.0 / 3),
+              ElementsAre("-1", "-0,66667", "-0,33333", "0", "0,33333", "0,66667", "1"));
+}
+
+TEST_F(MarkNumbers, LeaveMarksOutByRoundStridesWhereTheyAreTooClose) {
+  EXPECT_THAT(xNumbers(-100, 100, 1),
+              ElementsAre("-100", "-90", "-80", "-70", "-60", "-50", "-40", "-30", "-20", "-10",
+                          "0", "10", "20", "30", "40", "50", "60", "70", "80", "90", "100"));
+  EXPECT_THAT(xNumbers(-7, 3, 0.1),
+              ElementsAre("-7", "-6,5", "-6", "-5,5", "-5", "-4,5", "-4", "-3,5", "-3", "-2,5",
+                          "-2", "-1,5", "-1", "-0,5", "0", "0,5", "1", "1,5", "2", "2,5", "3"));
+}
+
+TEST_F(MarkNumbers, StayRoundWhereTheFirstMarkIsNoMultipleOfTheStride) {
+  EXPECT_THAT(xNumbers(-97, 103, 1), ::testing::Contains("-90"));
+  EXPECT_THAT(xNumbers(-97, 103, 1), ::testing::Not(::testing::Contains("-97")));
+}
+
+TEST_F(MarkNumbers, AreRoundOnesWhereARangeHasNoMarks) {
+  EXPECT_THAT(xNumbers(-1000, 1000, 1), ::testing::Contains("500"));
+  EXPECT_THAT(xNumbers(0.25, 0.26, 1), ::testing::Contains("0,255"));
+  EXPECT_THAT(xNumbers(-1e9, 1e9, 1), ::testing::Contains("-400000000"));
+  show(-1, 1, -1, 1);
+  marks = {0, 0, false, false};
+  EXPECT_THAT(textsOf(numbers()), ::testing::IsSupersetOf({"0,5", "-0,5"}));
+}
+
+TEST_F(MarkNumbers, TellTheOriginOnce) {
+  show(-4, 4, -3, 3);
+  const NumberLayer layer = numbers();
+  EXPECT_EQ(std::ranges::count(textsOf(layer), "0"), 1);
+  const PictureLabel& zero = labelled(layer, "0");
+  EXPECT_LT(zero.corner.x + zero.width, viewport.mapX(0));
+  EXPECT_GT(zero.corner.y, viewport.mapY(0));
+}
+
+TEST_F(MarkNumbers, LeaveZeroToTheOneAxisThatIsSeen) {
+  show(2, 6, -1, 1);
+  EXPECT_THAT(textsOf(numbers()), ::testing::Not(::testing::Contains("0")));
+  show(-1, 1, 2, 6);
+  EXPECT_THAT(textsOf(numbers()), ::testing::Not(::testing::Contains("0")));
+  show(-1, 1, -1, 1);
+  EXPECT_THAT(textsOf(numbers()), ::testing::Contains("0"));
+}
+
+TEST_F(MarkNumbers, StandAtTheEdgeBeyondWhichTheirAxisLies) {
+  struct Row {
+    double yi, yf, top;
+  };
+  for (const Row& row : {Row{10, 20, 9000 - kLine - 25}, Row{-20, -10, 25}}) {
+    show(10.5, 11.5, row.yi, row.yf);
+    marks = {0.25, 1, true, true};
+    EXPECT_EQ(labelled(numbers(), "11").corner.y, row.top);
+  }
+  for (const double xi : {10.0, -20.0}) {
+    show(xi, xi + 10, 10.5, 11.5);
+    marks = {1, 0.25, true, true};
+    const PictureLabel& number = labelled(numbers(), "10,75");
+    EXPECT_EQ(xi > 0 ? number.corner.x : number.corner.x + number.width, xi > 0 ? 25 : 12000 - 25);
+  }
+}
+
+TEST_F(MarkNumbers, GoToTheOtherSideOfAnAxisThatIsCloseToTheEdge) {
+  show(-0.1, 7.9, -0.1, 5.9);
+  const NumberLayer layer = numbers();
+  EXPECT_GT(labelled(layer, "2").corner.x, viewport.mapX(0));
+  EXPECT_LT(labelled(layer, "7").corner.y + kLine, viewport.mapY(0));
+}
+
+TEST_F(MarkNumbers, NeitherOverlapNorLeaveThePictureInAnyView) {
+  const double ends[] = {-1e15, -345.678, -100, -7.3, -1, -0.001, 0, 0.4, 2, 9.99, 100, 1e6, 1e15};
+  for (const double xi : ends) {
+    for (const double width : {1e-6, 0.5, 1.0, 3.3, 20.0, 200.0, 201.0, 1e7}) {
+      for (const double distance : {1e-12, 0.07, 1.0, 90.0, 1e9}) {
+        show(xi, xi + width, xi, xi + width);
+        marks = {distance, distance, true, true};
+        if (viewport.prepare() != RangeVerdict::drawable) continue;
+        expectOnThePictureAndApart(markNumbers(viewport, marks, measure));
+      }
+    }
+  }
+}
+
+TEST_F(MarkNumbers, HaveAGridLineEachButOnTheAxes) {
+  show(-2, 2, 1, 3);
+  const NumberLayer layer = numbers();
+  std::vector<double> upright, level;
+  for (const GridLine& line : layer.grid) {
+    if (line.from.x == line.to.x) {
+      upright.push_back(line.from.x);
+      EXPECT_EQ(line.from.y, 0);
+      EXPECT_EQ(line.to.y, 9000);
+    } else {
+      level.push_back(line.from.y);
+      EXPECT_EQ(line.from.x, 0);
+      EXPECT_EQ(line.to.x, 12000);
+    }
+  }
+  EXPECT_THAT(upright, ElementsAre(0, 3000, 9000, 12000));
+  EXPECT_THAT(level, ElementsAre(9000, 4500, 0));
+}
+
+TEST_F(MarkNumbers, StandOnTheTwipsOfTheMarks) {
+  show(-10, 10, -1, 1);
+  marks = {0.3, 1, true, false};
+  ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  ASSERT_TRUE(drawAxes(viewport, marks, picture));
+  std::vector<double> drawn;
+  for (const RecorderPicture::Call& call : picture.calls)
+    if (call.kind == RecorderPicture::Call::Kind::line) drawn.push_back(call.point.x);
+  int upright = 0;
+  for (const GridLine& line : numbers().grid) {
+    if (line.from.x != line.to.x) continue;
+    ++upright;
+    EXPECT_THAT(drawn, ::testing::Contains(line.from.x));
+  }
+  EXPECT_GT(upright, 5);
+}
+
+TEST_F(MarkNumbers, AreNoneOfARangeThatIsUpsideDownOrOnAPictureThatIsTooSmall) {
+  show(5, -5, -1, 1);
+  for (const GridLine& line : numbers().grid) EXPECT_EQ(line.from.y, line.to.y);
+  show(-5, 5, -5, 5);
+  viewport.size = PictureSize::ofPixels(100, 5);
+  EXPECT_THAT(numbers().labels, IsEmpty());
+}
+
+TEST_F(MarkNumbers, EndWhereAStepNoLongerLeadsOn) {
+  show(-1, 1, 1e17, 1e17 + 192);
+  marks = {1, 1, true, true};
+  expectOnThePictureAndApart(numbers());
+}
+
+TEST_F(MarkNumbers, TellThePointerAsExactlyAsAPixelIs) {
+  show(-4, 4, -3, 3);
+  ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  const auto label = pointerLabel(viewport, {6185, 4387}, measure);  // a pixel is 0,01
+  ASSERT_TRUE(label);
+  EXPECT_EQ(label->text, "X=0,12  Y=0,08");
+  EXPECT_EQ(pointerLabel(viewport, {6000, 4500}, measure)->text, "X=0  Y=0");
+  show(-4e6, 4e6, -3, 3);
+  ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  EXPECT_EQ(pointerLabel(viewport, {6185, 4500}, measure)->text, "X=120000  Y=0");
+}
+
+TEST_F(MarkNumbers, ThePointersTextStaysOnThePictureAndOffThePointer) {
+  show(-4, 4, -3, 3);
+  ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  for (const Point pointer : {Point{0, 0}, Point{11999, 0}, Point{0, 8999}, Point{11999, 8999},
+                              Point{6000, 4000}, Point{10800, 8700}}) {
+    const auto label = pointerLabel(viewport, pointer, measure);
+    ASSERT_TRUE(label);
+    expectOnThePictureAndApart({150, {}, {*label}});
+    const bool covers = label->corner.x <= pointer.x &&
+                        pointer.x <= label->corner.x + label->width &&
+                        label->corner.y <= pointer.y && pointer.y <= label->corner.y + kLine;
+    EXPECT_FALSE(covers) << label->text;
+  }
+}
+
+TEST_F(MarkNumbers, APointerBeyondTheLargestDoubleHasNoText) {
+  show(-4, 4, -3, 3);
+  ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  EXPECT_FALSE(pointerLabel(viewport, {1e308 * 10, 0}, measure));
+}
+
+}  // namespace
+}  // namespace zel::test
