@@ -7,10 +7,10 @@ declare -A groups=(
   [build]="cmake ninja-build g++ qt6-base-dev qt6-translations-l10n
     libgmock-dev libgtest-dev libisal-dev libmpfr-dev libcli11-dev nlohmann-json3-dev pkg-config
     zlib1g-dev"
-  [test]="acl appstream cups-daemon desktop-file-utils dpkg-dev fish g++-mingw-w64-x86-64-posix git
-    imagemagick libglib2.0-bin libxml2-utils libz-mingw-w64-dev lintian locales mandoc openbox
-    poppler-utils python3 qpdf shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool
-    xvfb zsh"
+  [test]="acl appstream at-spi2-core cups-daemon dbus-daemon desktop-file-utils dpkg-dev fish
+    g++-mingw-w64-x86-64-posix git imagemagick libglib2.0-bin libxml2-utils libz-mingw-w64-dev
+    lintian locales mandoc openbox poppler-utils python3 python3-pyatspi python3-xlib qpdf
+    shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool xvfb zsh"
   [package]="dpkg-dev gzip"
   [chroot]="debootstrap"
   [pictures]="librsvg2-bin"

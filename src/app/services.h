@@ -104,7 +104,8 @@ class Clipboard {
  public:
   virtual ~Clipboard() = default;
   virtual void clear() = 0;
-  virtual void putBitmap(const Bitmap& bitmap) = 0;
+  /// A picture in pixels and the same as an SVG document, which is empty where there is none.
+  virtual void putPicture(const Bitmap& bitmap, const std::string& svg) = 0;
 };
 
 /// Lengths on paper are in twips, 1440 to an inch.

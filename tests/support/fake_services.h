@@ -163,14 +163,17 @@ class FakeClipboard : public Clipboard {
   void clear() override {
     calls.push_back("clear");
     bitmap.reset();
+    svg.clear();
   }
-  void putBitmap(const Bitmap& put) override {
-    calls.push_back("bitmap");
-    bitmap = put;
+  void putPicture(const Bitmap& pixels, const std::string& document) override {
+    calls.push_back("picture");
+    bitmap = pixels;
+    svg = document;
   }
 
-  std::vector<std::string> calls;  // "clear" or "bitmap"
+  std::vector<std::string> calls;  // "clear" or "picture"
   std::optional<Bitmap> bitmap;    // what is on the clipboard
+  std::string svg;
 };
 
 /// A printer with upright A4 paper, unless a test takes it away.

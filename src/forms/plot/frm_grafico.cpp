@@ -9,6 +9,7 @@
 #include "forms/plot/picture_box.h"
 #include "forms/plot/plot_overlay.h"
 #include "forms/plot/plot_toolbar.h"
+#include "pictures/svg_picture.h"
 
 namespace zel {
 
@@ -69,7 +70,9 @@ std::optional<std::string> frmGrafico::askValue(const std::string& prompt,
 void frmGrafico::copyPicture(bool) {
   Clipboard& clipboard = program().services.clipboard;
   clipboard.clear();
-  clipboard.putBitmap(picGrafico_->bitmap());
+  SvgPicture svg(picGrafico_->width(), picGrafico_->height());
+  picGrafico_->drawing().replay(svg);
+  clipboard.putPicture(picGrafico_->bitmap(), picGrafico_->drawing().isFull() ? "" : svg.text());
 }
 
 void frmGrafico::openPrint() {

@@ -81,7 +81,7 @@ TEST_F(GraficoNavigation, KeysWorkWhereverTheFocusIsInTheWindow) {
   QTest::keyClick(&parar, '+');
   expectView(-10 + kSixth, 10 - kSixth, -10 + kSixth, 10 - kSixth);
   QTest::keyClick(&parar, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_THAT(services.clipboard.calls, ElementsAre("clear", "bitmap"));
+  EXPECT_THAT(services.clipboard.calls, ElementsAre("clear", "picture"));
   openUsual();
   window.setFocus();
   QTest::keyClick(&window, Qt::Key_Up);

@@ -2,6 +2,7 @@
 
 #include "forms/print/frm_imprimir.h"
 #include "frm_grafico_fixture.h"
+#include "pictures/svg_picture.h"
 #include "platform/qt/bitmap_image.h"
 
 /// How the picture leaves the plot window: to the clipboard and to the print window.
@@ -27,9 +28,18 @@ TEST_F(GraficoOutput, CopiesThePictureWithoutWhatLiesOverIt) {
   click("Recorrer_Adelante");
   ASSERT_TRUE(window.session().cursor());
   click("Copiar_Grafico");
-  EXPECT_THAT(services.clipboard.calls, ElementsAre("clear", "bitmap"));
+  EXPECT_THAT(services.clipboard.calls, ElementsAre("clear", "picture"));
   ASSERT_TRUE(services.clipboard.bitmap);
   EXPECT_EQ(toImage(*services.clipboard.bitmap).convertToFormat(QImage::Format_RGB32), before);
+}
+
+TEST_F(GraficoOutput, CopiesTheSamePictureAsSvg) {
+  openUsual();
+  click("Copiar_Grafico");
+  SvgPicture expected(400, 400);
+  picture->drawing().replay(expected);
+  EXPECT_EQ(services.clipboard.svg, expected.text());
+  EXPECT_THAT(services.clipboard.svg, ::testing::HasSubstr("<g id=\"graph-a\""));
 }
 
 TEST_F(GraficoOutput, TellsThatItHasCopiedInTheLanguageOfTheUser) {
