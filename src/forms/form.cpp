@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QToolButton>
 #include <QWindow>
 #include <algorithm>
 
@@ -26,12 +27,25 @@ QString caption(const char* spanish, const char* english) {
 
 QPixmap windowIconPixmap(int side) { return QApplication::windowIcon().pixmap(side); }
 
+namespace {
+
+/// The toolkit's own buttons that show what a bar has no room for.
+void nameExtensions(const QWidget& window) {
+  for (const char* const name : {"qt_menubar_ext_button", "qt_toolbar_ext_button"})
+    for (auto* const button : window.findChildren<QToolButton*>(QString::fromLatin1(name)))
+      button->setAccessibleName(caption("Más", "More"));
+}
+
+}  // namespace
+
 Form::Form(Program& program, const char* name) : program_(program) {
   setObjectName(QString::fromLatin1(name));
 }
 
 void Form::ApplyLanguage() {
-  if (CurrentLanguage() == "ES" || CurrentLanguage() == "EN") assignCaptions();
+  if (CurrentLanguage() != "ES" && CurrentLanguage() != "EN") return;
+  assignCaptions();
+  nameExtensions(*this);
 }
 
 void Form::showForm() {

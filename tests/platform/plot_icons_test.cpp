@@ -44,8 +44,9 @@ class PlotIcons : public ::testing::Test {
 
   static std::vector<std::string> keys() {
     std::vector<std::string> keys(kPlotCommandKeys.begin(), kPlotCommandKeys.end());
-    for (const char* const more : {"CmdGrafAnterior", "CmdGrafSiguiente", "creciente_der",
-                                   "creciente_izq", "decreciente_der", "decreciente_izq", "igual"})
+    for (const char* const more :
+         {"CmdGrafAnterior", "CmdGrafSiguiente", "CmdNumeros", "creciente_der", "creciente_izq",
+          "decreciente_der", "decreciente_izq", "igual"})
       keys.emplace_back(more);
     return keys;
   }

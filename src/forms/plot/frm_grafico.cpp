@@ -6,10 +6,13 @@
 #include "app/messages.h"
 #include "app/plot_arguments.h"
 #include "forms/plot/graph_bar.h"
+#include "forms/plot/graph_legend.h"
 #include "forms/plot/picture_box.h"
 #include "forms/plot/plot_overlay.h"
 #include "forms/plot/plot_toolbar.h"
 #include "pictures/svg_picture.h"
+#include "platform/qt/bitmap_image.h"
+#include "platform/qt/number_painter.h"
 
 namespace zel {
 
@@ -28,6 +31,9 @@ void frmGrafico::takeArguments() {
     return;
   }
   opener_ = callerOf(params);
+  legend_->listGraphs(program().graphs);
+  needLeastSize();
+  is_resized_ = true;  // the list may need room, or give it back
   session_.open(viewIn(params), program().marks);
 }
 
@@ -50,6 +56,9 @@ void frmGrafico::toolsChanged() {
   picGrafico_->setCursor(session_.mode() == PlotMode::zoom ? Qt::CrossCursor : Qt::ArrowCursor);
   const auto active = session_.activeGraph();
   graph_bar_->showGraph(active ? program().graphs.graph(*active) : std::nullopt);
+  legend_->showActive(active);
+  if (shows_numbers_ != session_.showsNumbers()) showNumbers();
+  showCoordinates();
   // While a point is traced the panels follow, and then it is described.
   if (session_.mode() != PlotMode::recorrido) describePicture();
 }
@@ -67,12 +76,31 @@ std::optional<std::string> frmGrafico::askValue(const std::string& prompt,
   return program().services.inputs.ask(prompt, title);
 }
 
-void frmGrafico::copyPicture(bool) {
-  Clipboard& clipboard = program().services.clipboard;
-  clipboard.clear();
+void frmGrafico::showNumbers() {
+  shows_numbers_ = session_.showsNumbers();
+  graph_bar_->showNumbers(shows_numbers_);
+  overlay_->showNumbers(shows_numbers_ ? numbers() : NumberLayer());
+}
+
+NumberLayer frmGrafico::numbers() const { return session_.numbers(numberMeasure()); }
+
+void frmGrafico::showCoordinates() {
+  if (!shows_numbers_) return overlay_->showCoordinates(std::nullopt, 0);
+  const TextMeasure measure = numberMeasure();
+  overlay_->showCoordinates(session_.coordinates(measure), measure.font_size);
+}
+
+void frmGrafico::copyPicture(bool with_numbers) {
+  const NumberLayer layer = with_numbers ? numbers() : NumberLayer();
+  QImage image = picGrafico_->image();
+  QPainter painter(&image);
+  paintOver(painter, layer, picGrafico_->rect());
+  painter.end();
   SvgPicture svg(picGrafico_->width(), picGrafico_->height());
   picGrafico_->drawing().replay(svg);
-  clipboard.putPicture(picGrafico_->bitmap(), picGrafico_->drawing().isFull() ? "" : svg.text());
+  Clipboard& clipboard = program().services.clipboard;
+  clipboard.clear();
+  clipboard.putPicture(toBitmap(image), picGrafico_->drawing().isFull() ? "" : svg.text(layer));
 }
 
 void frmGrafico::openPrint() {

@@ -14,6 +14,7 @@ class QWheelEvent;
 namespace zel {
 
 class GraphBar;
+class GraphLegend;
 class PanelBar;
 class PictureBox;
 class PlotOverlay;
@@ -36,6 +37,7 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
   void showForm() override;
 
   PictureBox& picture() override { return *picGrafico_; }
+  NumberLayer numbers() const override;
   const PlotSession& session() const { return session_; }
 
  protected:
@@ -57,8 +59,10 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
   void buildControls();
   void orderTabs();
   void connectControls();
-  /// The room for the picture, which lies below the row with the active graph.
+  /// The room for the picture, which lies below the row with the active graph and beside the list.
   QRect pictureRoom() const;
+  /// The window stops at a size with a picture that can be drawn.
+  void needLeastSize();
   void placeControls(const QRect& picture);
   void Form_Resize();
 
@@ -71,6 +75,7 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
   void Toolbar1_ButtonClick(PlotCommand command);
   void CmdGrafAnterior_Click();
   void CmdGrafSiguiente_Click();
+  void CmdNumeros_Click();
   /// A key that stands for a button; false for any other.
   bool pressButtonOf(const QKeyEvent& event);
   void showHelp();
@@ -79,6 +84,9 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
   void leaveButton(const QString& name);
 
   void describePicture();
+  /// Numbers and grid of what is shown, where they are wanted.
+  void showNumbers();
+  void showCoordinates();
   /// Ends the drawing, hands this view over and shows the caller.
   void leave(const ViewSettings& view);
 
@@ -86,6 +94,7 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
   PictureBox* picGrafico_;
   PlotOverlay* overlay_;
   GraphBar* graph_bar_;
+  GraphLegend* legend_;
   PlotToolbar* Toolbar1_;
   PanelBar* StatusBar1_;
   PlotScreen screen_;
@@ -95,6 +104,7 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
   QTimer draws_soon_;
   WheelNotches wheel_;
   bool is_resized_ = true;  // since the picture was fitted in
+  bool shows_numbers_ = false;
 };
 
 }  // namespace zel

@@ -1,6 +1,7 @@
 // The plot window's captions in both languages, and what it tells those who cannot see it.
 #include "forms/plot/frm_grafico.h"
 #include "forms/plot/graph_bar.h"
+#include "forms/plot/graph_legend.h"
 #include "forms/plot/panel_bar.h"
 #include "forms/plot/picture_box.h"
 #include "forms/plot/plot_toolbar.h"
@@ -13,6 +14,8 @@ void frmGrafico::assignCaptions() {
   picGrafico_->setAccessibleName(caption("Gráfico de funciones", "Function graphic"));
   Toolbar1_->assignCaptions();
   graph_bar_->assignCaptions();
+  legend_->assignCaptions();
+  needLeastSize();  // which depends on the row's captions
   describePicture();
 }
 

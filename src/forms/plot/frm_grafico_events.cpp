@@ -44,6 +44,7 @@ bool frmGrafico::picGrafico_Event(QEvent& event) {
     case QEvent::MouseButtonRelease:
       picGrafico_MouseUp(static_cast<const QMouseEvent&>(event));
       return true;
+    case QEvent::Leave: session_.mouseLeft(); return false;
     case QEvent::Wheel: picGrafico_MouseWheel(static_cast<const QWheelEvent&>(event)); return true;
     case QEvent::KeyPress: return pressButtonOf(static_cast<const QKeyEvent&>(event));
     default: return false;
@@ -90,12 +91,21 @@ bool frmGrafico::pressButtonOf(const QKeyEvent& event) {
     session_.execute(PlotCommand::imprimir);
     return true;
   }
+  if (event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier) && event.key() == Qt::Key_C) {
+    session_.copyWithNumbers();
+    return true;
+  }
   if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+  const bool steps = event.modifiers() & Qt::ShiftModifier;
   switch (event.key()) {
     case Qt::Key_Up: session_.execute(PlotCommand::arriba); return true;
     case Qt::Key_Down: session_.execute(PlotCommand::abajo); return true;
-    case Qt::Key_Left: session_.execute(PlotCommand::izquierda); return true;
-    case Qt::Key_Right: session_.execute(PlotCommand::derecha); return true;
+    case Qt::Key_Left:
+      session_.execute(steps ? PlotCommand::recorrer_atras : PlotCommand::izquierda);
+      return true;
+    case Qt::Key_Right:
+      session_.execute(steps ? PlotCommand::recorrer_adelante : PlotCommand::derecha);
+      return true;
     case Qt::Key_PageUp: session_.activatePrevious(); return true;
     case Qt::Key_PageDown: session_.activateNext(); return true;
     case Qt::Key_F1: showHelp(); return true;
@@ -122,6 +132,11 @@ void frmGrafico::CmdGrafAnterior_Click() {
 void frmGrafico::CmdGrafSiguiente_Click() {
   leaveButton("CmdGrafSiguiente");
   session_.activateNext();
+}
+
+void frmGrafico::CmdNumeros_Click() {
+  leaveButton("CmdNumeros");
+  session_.toggleNumbers();
 }
 
 void frmGrafico::leaveButton(const QString& name) {

@@ -2,12 +2,12 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 
 #include "forms/editor/colour_swatch.h"
 #include "forms/form.h"
-#include "forms/tool_tip.h"
+#include "forms/plot/elided_label.h"
+#include "forms/plot/key_tip.h"
 #include "platform/icons/plot_icons.h"
 #include "platform/qt/one_line.h"
 
@@ -30,15 +30,20 @@ GraphBar::GraphBar(QWidget* parent)
       CmdGrafAnterior_(makeButton("CmdGrafAnterior")),
       CmdGrafSiguiente_(makeButton("CmdGrafSiguiente")),
       swatch_(new QFrame),
-      LblGrafico_(new QLabel) {
+      LblGrafico_(new ElidedLabel),
+      CmdNumeros_(makeButton("CmdNumeros")) {
   LblGrafico_->setObjectName("LblGrafico");
-  LblGrafico_->setTextFormat(Qt::PlainText);
   LblGrafico_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  LblGrafico_->setIndent(0);
+  CmdNumeros_->setCheckable(true);
   swatch_->setObjectName("LblColor");
   swatch_->setFrameStyle(QFrame::Box | QFrame::Plain);
   swatch_->setAutoFillBackground(true);
   const int side = fontMetrics().height();
   swatch_->setFixedSize(side, side);
+  QSizePolicy policy = swatch_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);  // the row needs the same room with a graph and without
+  swatch_->setSizePolicy(policy);
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(CmdGrafAnterior_);
@@ -46,16 +51,24 @@ GraphBar::GraphBar(QWidget* parent)
   row->addSpacing(side / 2);
   row->addWidget(swatch_);
   row->addWidget(LblGrafico_, 1);
+  row->addWidget(CmdNumeros_);
   connect(CmdGrafAnterior_, &QPushButton::clicked, this, [this] { emit previousClicked(); });
   connect(CmdGrafSiguiente_, &QPushButton::clicked, this, [this] { emit nextClicked(); });
+  connect(CmdNumeros_, &QPushButton::clicked, this, [this] { emit numbersClicked(); });
 }
 
 void GraphBar::assignCaptions() {
   CmdGrafAnterior_->setText(caption("Anterior", "Previous"));
   CmdGrafAnterior_->setToolTip(caption("Gráfico anterior", "Previous graph"));
+  nameKey(*CmdGrafAnterior_, caption("Re Pág", "Page Up"));
   CmdGrafSiguiente_->setText(caption("Siguiente", "Next"));
   CmdGrafSiguiente_->setToolTip(caption("Gráfico siguiente", "Next graph"));
-  for (QPushButton* const button : {CmdGrafAnterior_, CmdGrafSiguiente_})
+  nameKey(*CmdGrafSiguiente_, caption("Av Pág", "Page Down"));
+  CmdNumeros_->setText(caption("Números", "Numbers"));
+  CmdNumeros_->setToolTip(caption("Números, cuadrícula y coordenadas sobre el gráfico",
+                                  "Numbers, grid and coordinates over the graphic"));
+  nameKey(*CmdNumeros_, QStringLiteral("N"));
+  for (QPushButton* const button : {CmdGrafAnterior_, CmdGrafSiguiente_, CmdNumeros_})
     button->setAccessibleName(button->toolTip());
   LblGrafico_->setAccessibleDescription(caption("Gráfico activo", "Active graph"));
 }
@@ -64,25 +77,16 @@ void GraphBar::showGraph(const std::optional<GraphDef>& graph) {
   CmdGrafAnterior_->setEnabled(graph.has_value());
   CmdGrafSiguiente_->setEnabled(graph.has_value());
   swatch_->setVisible(graph.has_value());
-  text_ = graph ? inOneLine(toQt(displayText(*graph))) : QString();
   QPalette palette = this->palette();
   if (graph) palette.setColor(QPalette::Window, qtColour(graph->color));
-  swatch_->setPalette(palette);
-  LblGrafico_->setAccessibleName(text_);
-  fitText();
+  if (palette != swatch_->palette()) swatch_->setPalette(palette);
+  const QString text = graph ? inOneLine(toQt(displayText(*graph))) : QString();
+  LblGrafico_->showText(text);
+  LblGrafico_->setAccessibleName(text);
 }
 
-void GraphBar::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  layout()->activate();
-  fitText();
-}
+QString GraphBar::graphText() const { return LblGrafico_->text(); }
 
-void GraphBar::fitText() {
-  const int room = LblGrafico_->width();
-  const QString fitted = LblGrafico_->fontMetrics().elidedText(text_, Qt::ElideRight, room);
-  LblGrafico_->setText(fitted);
-  LblGrafico_->setToolTip(fitted == text_ ? QString() : toolTipOf(text_));
-}
+void GraphBar::showNumbers(bool shown) { CmdNumeros_->setChecked(shown); }
 
 }  // namespace zel

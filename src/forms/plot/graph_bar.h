@@ -7,13 +7,14 @@
 #include "graphs/graph_def.h"
 
 class QFrame;
-class QLabel;
 class QPushButton;
 
 namespace zel {
 
-/// The row above the picture of the plot window: the buttons that change the active graph, and its
-/// colour and text. A text without room ends in dots.
+class ElidedLabel;
+
+/// The row above the picture of the plot window: the buttons that change the active graph, its
+/// colour and text, and the button that switches the numbers over the picture.
 class GraphBar : public QWidget {
   Q_OBJECT
 
@@ -24,23 +25,21 @@ class GraphBar : public QWidget {
   /// Shows the active graph; nothing in a document without graphs, whose buttons are not enabled.
   void showGraph(const std::optional<GraphDef>& graph);
   /// The text of the active graph, as a whole.
-  const QString& graphText() const { return text_; }
+  QString graphText() const;
+  /// The button of the numbers is pressed while they are shown.
+  void showNumbers(bool shown);
 
  signals:
   void previousClicked();
   void nextClicked();
-
- protected:
-  void resizeEvent(QResizeEvent* event) override;
+  void numbersClicked();
 
  private:
-  void fitText();
-
   QPushButton* CmdGrafAnterior_;
   QPushButton* CmdGrafSiguiente_;
   QFrame* swatch_;
-  QLabel* LblGrafico_;
-  QString text_;
+  ElidedLabel* LblGrafico_;
+  QPushButton* CmdNumeros_;
 };
 
 }  // namespace zel

@@ -1,8 +1,7 @@
 #include "forms/plot/panel_bar.h"
 
-#include <QLabel>
-
 #include "forms/form.h"
+#include "forms/plot/elided_label.h"
 
 namespace zel {
 namespace {
@@ -14,9 +13,8 @@ constexpr int kIndent = 4;  // pixels beside a text
 PanelBar::PanelBar(const char* name) {
   setObjectName(QString::fromLatin1(name));
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    auto* panel = new QLabel;
+    auto* panel = new ElidedLabel;
     panel->setObjectName(objectName() + "_Panel" + QString::number(i + 1));
-    panel->setTextFormat(Qt::PlainText);
     // The panels share the room, and a long text does not keep the window wide.
     panel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     panel->setMinimumWidth(1);
@@ -31,7 +29,7 @@ void PanelBar::showPanels(const StatusPanels& panels) {
   const std::array<const std::string*, 4> texts = {&panels.first, &panels.second, &panels.third,
                                                    &panels.fourth};
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    panels_[i]->setText(toQt(*texts[i]));
+    panels_[i]->showText(toQt(*texts[i]));
     panels_[i]->setVisible(i == 0 || !texts[i]->empty());
   }
   emit panelsShown();
@@ -39,7 +37,7 @@ void PanelBar::showPanels(const StatusPanels& panels) {
 
 QString PanelBar::text() const {
   QStringList texts;
-  for (const QLabel* const panel : panels_)
+  for (const ElidedLabel* const panel : panels_)
     if (!panel->text().isEmpty()) texts.append(panel->text().trimmed());
   return texts.join("; ");
 }

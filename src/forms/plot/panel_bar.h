@@ -5,12 +5,13 @@
 
 #include "plot/screen.h"
 
-class QLabel;
-
 namespace zel {
 
-/// A status bar of four panels. The first is always visible, the others only with text. The panels
-/// are named as the bar with "_Panel1" to "_Panel4" behind it.
+class ElidedLabel;
+
+/// A status bar of four panels. The first is always visible, the others only with text; a text
+/// without room ends in dots. The panels are named as the bar with "_Panel1" to "_Panel4" behind
+/// it.
 class PanelBar : public QStatusBar {
   Q_OBJECT
 
@@ -25,7 +26,7 @@ class PanelBar : public QStatusBar {
   void panelsShown();
 
  private:
-  std::array<QLabel*, 4> panels_{};
+  std::array<ElidedLabel*, 4> panels_{};
 };
 
 }  // namespace zel

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+#include "forms/accessible_graphic.h"
 #include "platform/qt/bitmap_image.h"
 
 namespace zel {
@@ -32,6 +33,7 @@ QSize sizeOf(const Bitmap& bitmap) { return {bitmap.width, bitmap.height}; }
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  showAsGraphic(*this);
 }
 
 /// What is shown stays, on pixels that are taken back when the next picture is shown.
@@ -86,6 +88,7 @@ void PictureBox::showDrawn() {
   drawn_.finish();
   shows_drawn_ = true;
   update();
+  emit shownAnew();
 }
 
 void PictureBox::showProgress() {
@@ -94,6 +97,7 @@ void PictureBox::showProgress() {
   shows_drawn_ = false;
   since_shown_.start();
   update();
+  emit shownAnew();
 }
 
 QImage PictureBox::image() const {

@@ -48,6 +48,8 @@ class PictureBox : public QWidget, public Picture {
 
  signals:
   void graphBegun(char letter);
+  /// What is shown is another picture than before, or more of it.
+  void shownAnew();
   /// A character code: 27 for Esc.
   void KeyPress(char32_t key);
   /// The device has another resolution than the image, which should be drawn again.

@@ -1,11 +1,14 @@
 #include "forms/plot/plot_overlay.h"
 
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/icons/plot_icons.h"
+#include "platform/qt/number_painter.h"
 #include "plot/session/plot_session.h"
 
 namespace zel {
@@ -14,6 +17,7 @@ namespace {
 constexpr int kReach = PlotOverlay::kCursorLength / 2;  // of a line, to each side of its centre
 constexpr int kSlopeGap = 4;                            // between cursor and slope
 constexpr int kHaloWidth = 3;
+constexpr QRgb kFrame = 0xFFA0AAB4;  // of the pointer's coordinates
 constexpr std::array<Slope, 5> kSlopes = {Slope::creciente_der, Slope::creciente_izq,
                                           Slope::decreciente_der, Slope::decreciente_izq,
                                           Slope::igual};
@@ -28,6 +32,11 @@ std::optional<QPoint> pixelOf(Point twips, QSize picture) {
   return QPoint(static_cast<int>(x), static_cast<int>(y));
 }
 
+QRectF outlineOf(const ZoomRectangle& twips) {
+  return {twips.left / kTwipsPerPixel, twips.top / kTwipsPerPixel, twips.width / kTwipsPerPixel,
+          twips.height / kTwipsPerPixel};
+}
+
 }  // namespace
 
 PlotOverlay::PlotOverlay(QWidget& picture) : QWidget(&picture) {
@@ -40,13 +49,42 @@ PlotOverlay::PlotOverlay(QWidget& picture) : QWidget(&picture) {
 
 void PlotOverlay::show(const std::optional<TraceCursor>& cursor,
                        const std::optional<ZoomRectangle>& rectangle) {
+  const QRegion before = toolsRegion();
   place_.reset();
   if (cursor) {
     place_ = cursor->place;
     slope_ = cursor->slope;
   }
   rectangle_ = rectangle;
+  update(before + toolsRegion());
+}
+
+void PlotOverlay::showNumbers(NumberLayer layer) {
+  if (layer == numbers_) return;
+  numbers_ = std::move(layer);
   update();
+}
+
+void PlotOverlay::showCoordinates(const std::optional<PictureLabel>& label, double font_size) {
+  if (label == coordinates_) return;
+  for (const auto& shown : {coordinates_, label})
+    if (shown) update(boxOf(*shown).toAlignedRect().adjusted(-2, -2, 2, 2));
+  coordinates_ = label;
+  coordinates_size_ = font_size;
+}
+
+QRegion PlotOverlay::toolsRegion() const {
+  QRegion region;
+  if (const auto centre = place_ ? pixelOf(*place_, size()) : std::nullopt) {
+    const int reach = kReach + kHaloWidth;
+    region += QRect(*centre - QPoint(reach, reach), *centre + QPoint(reach, reach));
+    region += slopePlace(*centre, slope_);
+  }
+  if (rectangle_) {
+    constexpr int kPen = 2;
+    region += outlineOf(*rectangle_).toAlignedRect().adjusted(-kPen, -kPen, kPen, kPen);
+  }
+  return region;
 }
 
 QRect PlotOverlay::slopePlace(QPoint cursor, Slope slope) const {
@@ -65,10 +103,15 @@ bool PlotOverlay::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-void PlotOverlay::paintEvent(QPaintEvent*) {
+void PlotOverlay::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
+  paintOver(painter, numbers_, event->rect());
   paintCursor(painter);
   paintRectangle(painter);
+  if (!coordinates_) return;
+  paintNumber(painter, *coordinates_, coordinates_size_);
+  painter.setPen(QColor::fromRgb(kFrame));
+  painter.drawRect(boxOf(*coordinates_).toAlignedRect());
 }
 
 void PlotOverlay::paintCursor(QPainter& painter) const {
@@ -86,8 +129,7 @@ void PlotOverlay::paintCursor(QPainter& painter) const {
 
 void PlotOverlay::paintRectangle(QPainter& painter) const {
   if (!rectangle_) return;
-  const QRectF outline(rectangle_->left / kTwipsPerPixel, rectangle_->top / kTwipsPerPixel,
-                       rectangle_->width / kTwipsPerPixel, rectangle_->height / kTwipsPerPixel);
+  const QRectF outline = outlineOf(*rectangle_);
   painter.setPen(QPen(Qt::white, 1));
   painter.drawRect(outline);
   painter.setPen(QPen(Qt::black, 1, Qt::DashLine));

@@ -1,9 +1,11 @@
 #include "forms/plot/plot_toolbar.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QToolButton>
 
 #include "forms/form.h"
+#include "forms/plot/key_tip.h"
 #include "platform/icons/plot_icons.h"
 #include "plot/session/plot_session.h"
 
@@ -49,24 +51,56 @@ bool beginsGroup(PlotCommand command) {
   }
 }
 
+/// The key that does the same; empty where there is none.
+QString keyTo(PlotCommand command) {
+  switch (command) {
+    case PlotCommand::recorrer_atras: return caption("Mayús+Izquierda", "Shift+Left");
+    case PlotCommand::recorrer_adelante: return caption("Mayús+Derecha", "Shift+Right");
+    case PlotCommand::arriba: return caption("Arriba", "Up");
+    case PlotCommand::abajo: return caption("Abajo", "Down");
+    case PlotCommand::izquierda: return caption("Izquierda", "Left");
+    case PlotCommand::derecha: return caption("Derecha", "Right");
+    case PlotCommand::acercar: return QStringLiteral("+");
+    case PlotCommand::alejar: return QStringLiteral("-");
+    case PlotCommand::copiar_grafico: return QStringLiteral("Ctrl+C");
+    case PlotCommand::imprimir: return QStringLiteral("Ctrl+P");
+    default: return {};
+  }
+}
+
 }  // namespace
 
-PlotToolbar::PlotToolbar() {
+PlotToolbar::PlotToolbar() : copy_with_numbers_(new QAction(this)) {
   setObjectName("Toolbar1");
   setMovable(false);
   setIconSize(kIconSize);
-  for (std::size_t i = 0; i < actions_.size(); ++i) {
-    const auto command = static_cast<PlotCommand>(i);
-    if (beginsGroup(command)) addSeparator();
-    QAction* const action = addAction(plotIcon(keyOf(command)), QString());
-    action->setObjectName(toQt(keyOf(command)));
-    connect(action, &QAction::triggered, this, [this, command] { emit ButtonClick(command); });
-    QWidget* const button = widgetForAction(action);
-    button->setObjectName(action->objectName());
-    button->setFocusPolicy(Qt::TabFocus);
-    actions_[i] = action;
-  }
+  for (std::size_t i = 0; i < actions_.size(); ++i) makeButton(static_cast<PlotCommand>(i));
   actions_[static_cast<std::size_t>(PlotCommand::zoom_a_medida)]->setCheckable(true);
+  for (const PlotCommand step : {PlotCommand::recorrer_atras, PlotCommand::recorrer_adelante}) {
+    buttonOf(step).setAutoRepeat(true);
+    buttonOf(step).setAutoRepeatInterval(kStepInterval);
+  }
+  copy_with_numbers_->setObjectName("Copiar_Con_Numeros");
+  connect(copy_with_numbers_, &QAction::triggered, this, [this] { emit copyWithNumbersClicked(); });
+  auto* const menu = new QMenu(this);
+  menu->addAction(copy_with_numbers_);
+  buttonOf(PlotCommand::copiar_grafico).setMenu(menu);
+  buttonOf(PlotCommand::copiar_grafico).setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+void PlotToolbar::makeButton(PlotCommand command) {
+  if (beginsGroup(command)) addSeparator();
+  QAction* const action = addAction(plotIcon(keyOf(command)), QString());
+  action->setObjectName(toQt(keyOf(command)));
+  connect(action, &QAction::triggered, this, [this, command] { emit ButtonClick(command); });
+  actions_[static_cast<std::size_t>(command)] = action;
+  QToolButton& button = buttonOf(command);
+  button.setObjectName(action->objectName());
+  button.setFocusPolicy(Qt::TabFocus);
+}
+
+QToolButton& PlotToolbar::buttonOf(PlotCommand command) {
+  return *static_cast<QToolButton*>(widgetForAction(actions_[static_cast<std::size_t>(command)]));
 }
 
 void PlotToolbar::assignCaptions() {
@@ -75,7 +109,12 @@ void PlotToolbar::assignCaptions() {
     const QString text = caption(kToolTips[i].spanish, kToolTips[i].english);
     actions_[i]->setText(text);
     actions_[i]->setToolTip(text);
+    const auto command = static_cast<PlotCommand>(i);
+    const QString key = keyTo(command);
+    if (!key.isEmpty()) nameKey(buttonOf(command), key);
   }
+  copy_with_numbers_->setText(
+      caption("Copiar con números\tCtrl+Mayús+C", "Copy with numbers\tCtrl+Shift+C"));
 }
 
 void PlotToolbar::follow(const PlotSession& session) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pictures/number_layer.h"
+
 namespace zel {
 
 class PictureBox;
@@ -9,6 +11,8 @@ class PrintedWindow {
  public:
   virtual ~PrintedWindow() = default;
   virtual PictureBox& picture() = 0;
+  /// What can be printed over the picture.
+  virtual NumberLayer numbers() const { return {}; }
 };
 
 }  // namespace zel

@@ -1,5 +1,7 @@
 #include <QAccessible>
 
+#include "forms/plot/elided_label.h"
+#include "forms/shown_tip.h"
 #include "frm_grafico_fixture.h"
 
 /// What the plot window tells those who cannot see it.
@@ -23,6 +25,31 @@ TEST_F(GraficoAccess, ThePictureHasANameAndItsRange) {
   open(view);
   EXPECT_EQ(text(picture, QAccessible::Name), "Function graphic");
   EXPECT_EQ(description(), "x from -10 to 2,5; y from -10 to 10");
+}
+
+TEST_F(GraficoAccess, ThePictureIsAGraphic) {
+  open(view);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(picture)->role(), QAccessible::Graphic);
+}
+
+TEST_F(GraficoAccess, ThePanelsAreReadWholeWhereTheyHaveNoRoom) {
+  addFunction('a', "x/3");
+  view.xi = -1.23456789012345e-300;
+  openUsual();
+  resizeFor({150, 200});
+  auto& panel = control<ElidedLabel>("StatusBar1_Panel1");
+  ASSERT_TRUE(panel.isElided());
+  EXPECT_EQ(text(&panel, QAccessible::Name), " Xmin=-1,23456789012345E-300  ");
+  EXPECT_EQ(shownTip(panel.toolTip()), "Xmin=-1,23456789012345E-300");
+  const QImage seen = panel.grab().toImage();
+  const QColor background = seen.pixelColor(1, 1);
+  int ink = 0;  // in the last pixels of the panel, which the dots leave free
+  for (int y = 0; y < seen.height(); ++y)
+    if (seen.pixelColor(seen.width() - 1, y) != background) ++ink;
+  EXPECT_EQ(ink, 0);
+  resizeFor({1600, 200});
+  EXPECT_FALSE(panel.isElided());
+  EXPECT_EQ(panel.toolTip(), "");
 }
 
 TEST_F(GraficoAccess, ThePictureTellsTheActiveGraph) {

@@ -127,7 +127,7 @@ TEST_F(GraficoDrawing, ManyResizesInTheMiddleEndInTheLastOne) {
   int resizes = 0;
   const std::function<void()> resize = [&] {
     ++resizes;
-    window.resize(700 - 10 * resizes, 600 - 5 * resizes);
+    window.resize(700 - 5 * resizes, 600 - 5 * resizes);
     if (resizes < 40)
       later(2, resize);
     else
@@ -135,7 +135,7 @@ TEST_F(GraficoDrawing, ManyResizesInTheMiddleEndInTheLastOne) {
   };
   inside('a', 1, resize);
   open(view);
-  EXPECT_EQ(window.size(), QSize(300, 400));
+  EXPECT_EQ(window.size(), QSize(500, 400));
   EXPECT_EQ(picture->image().size(), picture->size());
   EXPECT_EQ(window.session().pictureSize(),
             PictureSize::ofPixels(picture->width(), picture->height()));

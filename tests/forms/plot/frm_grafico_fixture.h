@@ -68,14 +68,20 @@ class GraficoTest : public ::testing::Test {
     for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
   }
 
-  /// The size that a picture would have that fills the window but for its margins.
+  /// The size that a picture would have that fills the window but for its margins and the list.
   QSize room() const {
     const QSize inside = picture->parentWidget()->size();
-    return {inside.width() - 2 * picture->x(), inside.height() - picture->x() - picture->y()};
+    const auto* const list = window.findChild<QWidget*>("LstGraficos");
+    const int taken = list->isHidden() ? 0 : list->width() + picture->x();
+    return {inside.width() - 2 * picture->x() - taken,
+            inside.height() - picture->x() - picture->y()};
   }
 
-  /// Resizes the window so that its picture would have this size.
+  /// Resizes the window so that its picture would have this size, as a window manager does that
+  /// heeds no least size.
   void resizeFor(QSize size) {
+    picture->parentWidget()->setMinimumSize(1, 1);
+    settle();
     window.resize(window.size() + size - room());
     settle();
   }

@@ -1,3 +1,4 @@
+#include <QAction>
 #include <QWindow>
 
 #include "forms/print/frm_imprimir.h"
@@ -40,6 +41,30 @@ TEST_F(GraficoOutput, CopiesTheSamePictureAsSvg) {
   picture->drawing().replay(expected);
   EXPECT_EQ(services.clipboard.svg, expected.text());
   EXPECT_THAT(services.clipboard.svg, ::testing::HasSubstr("<g id=\"graph-a\""));
+}
+
+TEST_F(GraficoOutput, CopiesTheNumbersOnlyWhereTheyAreAskedFor) {
+  openUsual();
+  const QImage before = picture->image();
+  press(Qt::Key_N);
+  ASSERT_TRUE(window.session().showsNumbers());
+  click("Copiar_Grafico");
+  EXPECT_EQ(toImage(*services.clipboard.bitmap).convertToFormat(QImage::Format_RGB32), before);
+  EXPECT_THAT(services.clipboard.svg, ::testing::Not(::testing::HasSubstr("<text")));
+  press(Qt::Key_N);
+  control<QAction>("Copiar_Con_Numeros").trigger();
+  EXPECT_NE(toImage(*services.clipboard.bitmap).convertToFormat(QImage::Format_RGB32), before);
+  EXPECT_THAT(services.clipboard.svg, ::testing::HasSubstr(">7</text>"));
+  EXPECT_EQ(picture->image(), before);
+  EXPECT_FALSE(window.session().showsNumbers());
+  EXPECT_EQ(services.boxes.shown.size(), 2u);
+}
+
+TEST_F(GraficoOutput, CtrlShiftCCopiesWithNumbers) {
+  openUsual();
+  QTest::keyClick(picture, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_THAT(services.clipboard.svg, ::testing::HasSubstr("<text"));
+  EXPECT_EQ(services.boxes.shown.size(), 1u);
 }
 
 TEST_F(GraficoOutput, TellsThatItHasCopiedInTheLanguageOfTheUser) {

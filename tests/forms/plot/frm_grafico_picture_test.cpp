@@ -74,12 +74,36 @@ TEST_F(GraficoPicture, OfLessThan100PixelsHasNoSamplesAndIsRefused) {
   EXPECT_EQ(caller.shown, 1);
 }
 
-TEST_F(GraficoPicture, AWindowThatWasSmallWhenItOpenedHasAPictureAllTheSame) {
+TEST_F(GraficoPicture, AWindowStopsAtASizeWithAPictureThatCanBeDrawn) {
   addFunction('a', "x");
-  window.resize(50, 60);
+  addFunction('b', "-x");
+  for (const std::string code : {"ES", "EN"}) {
+    SetCurrentLanguage(code);
+    open(view);
+    begun.clear();
+    window.resize(50, 60);
+    settle();
+    EXPECT_GT(window.width(), 400);
+    EXPECT_GE(picture->width(), 240);
+    EXPECT_EQ(picture->height(), 180);
+    expectPicture(room());
+    EXPECT_EQ(begun, "ab");
+    EXPECT_EQ(caller.shown, 0);
+    for (const char* name : {"CmdGrafAnterior", "CmdGrafSiguiente", "CmdNumeros"}) {
+      const QWidget& button = control<QWidget>(name);
+      EXPECT_GE(button.width(), button.minimumSizeHint().width()) << name;
+    }
+    window.resize(900, 700);
+    settle();
+  }
+}
+
+TEST_F(GraficoPicture, AWindowThatIsForcedBelowItsLeastSizeKeepsThePictureItHad) {
+  addFunction('a', "x");
   open(view);
-  EXPECT_EQ(begun, "a");
-  expectPicture({800, 600});
+  const QSize before = picture->size();
+  resizeFor({30, 40});
+  expectPicture(before);
 }
 
 TEST_F(GraficoPicture, LastsWithoutARedraw) {

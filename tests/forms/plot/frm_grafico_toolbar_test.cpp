@@ -1,8 +1,13 @@
 #include <QAccessible>
+#include <QHelpEvent>
+#include <QListWidget>
 #include <QToolBar>
+#include <QToolTip>
 
+#include "forms/plot/elided_label.h"
 #include "forms/shown_tip.h"
 #include "frm_grafico_fixture.h"
+#include "support/patience.h"
 
 /// The toolbar of the plot window and the row with the active graph.
 namespace zel::test {
@@ -163,7 +168,11 @@ TEST_F(GraficoToolbar, CanBeReachedWithTheTabKey) {
   EXPECT_TRUE(button("Recorrer_Atras").hasFocus());
   picture->setFocus();
   QTest::keyClick(picture, Qt::Key_Backtab);
-  EXPECT_TRUE(control<QWidget>("CmdGrafSiguiente").hasFocus());
+  EXPECT_TRUE(control<QWidget>("CmdNumeros").hasFocus());
+  addFunction('b', "-x");
+  open(view);
+  QTest::keyClick(picture, Qt::Key_Backtab);
+  EXPECT_TRUE(control<QWidget>("LstGraficos").hasFocus());
   for (const Row& row : kButtons) EXPECT_EQ(button(row.key).focusPolicy(), Qt::TabFocus);
 }
 
@@ -249,15 +258,121 @@ TEST_F(GraficoToolbar, OffersNoOtherGraphWhereThereIsNone) {
 TEST_F(GraficoToolbar, TheRowIsAsWideAsThePictureAndEndsALongTextInDots) {
   addFunction('a', "x+1+2+3+4+5+6+7+8+9+10+11+12+13+14+15+16+17+18+19+20+21+22+23+24+25+26+27+28");
   openUsual();
-  const auto& label = control<QLabel>("LblGrafico");
+  auto& label = control<ElidedLabel>("LblGrafico");
   EXPECT_EQ(label.parentWidget()->width(), 400);
-  EXPECT_TRUE(label.text().endsWith(QChar(0x2026)));
+  EXPECT_TRUE(label.isElided());
   EXPECT_TRUE(shownTip(label.toolTip()).ends_with("+28"));
-  EXPECT_TRUE(label.accessibleName().endsWith("+28"));
-  const qsizetype before = label.text().size();
-  resizeFor({500, 400});
-  EXPECT_EQ(label.parentWidget()->width(), 500);
-  EXPECT_GT(label.text().size(), before);
+  EXPECT_TRUE(name(label).ends_with("+28"));
+  resizeFor({1000, 400});
+  EXPECT_EQ(label.parentWidget()->width(), 1000);
+  EXPECT_FALSE(label.isElided());
+  EXPECT_EQ(label.toolTip(), "");
+}
+
+TEST_F(GraficoToolbar, TheStepButtonsRepeatWhileTheyAreHeld) {
+  addFunction('a', "x");
+  openUsual();
+  for (const auto& [key, direction] : {std::pair("Recorrer_Adelante", 1), {"Recorrer_Atras", -1}}) {
+    const double before = window.session().tracePosition();
+    QTest::mousePress(&button(key), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&, step = direction] { return (window.session().tracePosition() - before) * step >= 2; },
+        kPatience))
+        << key;
+    QTest::mouseRelease(&button(key), Qt::LeftButton);
+    const double after = window.session().tracePosition();
+    settle();
+    EXPECT_EQ(window.session().tracePosition(), after);
+  }
+  for (const Row& row : kButtons) {
+    const bool steps = std::string(row.key).starts_with("Recorrer_");
+    EXPECT_EQ(button(row.key).autoRepeat(), steps) << row.key;
+  }
+}
+
+TEST_F(GraficoToolbar, ATipNamesTheKeyBelowTheTextOfTheButton) {
+  struct KeyRow {
+    const char* name;
+    const char* spanish;
+    const char* english;
+  };
+  const KeyRow rows[] = {
+      {"Recorrer_Atras", "Recorrer hacia la Izquierda\nTecla: Mayús+Izquierda",
+       "Step back\nKey: Shift+Left"},
+      {"Arriba", "Mover pantalla hacia Arriba\nTecla: Arriba", "Screen up\nKey: Up"},
+      {"Acercar", "Zoom Acercar\nTecla: +", "Zoom(+)\nKey: +"},
+      {"Imprimir", "Imprimir gráfico\nTecla: Ctrl+P", "Print graphic\nKey: Ctrl+P"},
+      {"CmdGrafAnterior", "Gráfico anterior\nTecla: Re Pág", "Previous graph\nKey: Page Up"},
+      {"Parar", "Detener", "Stop"},
+  };
+  for (const std::string code : {"ES", "EN"}) {
+    SetCurrentLanguage(code);
+    open(view);
+    for (const KeyRow& row : rows) {
+      auto& control = this->control<QWidget>(row.name);
+      QHelpEvent event(QEvent::ToolTip, {3, 3}, control.mapToGlobal(QPoint(3, 3)));
+      QApplication::sendEvent(&control, &event);
+      EXPECT_EQ(fromQt(QToolTip::text()), code == "ES" ? row.spanish : row.english);
+    }
+  }
+  QToolTip::hideText();
+}
+
+TEST_F(GraficoToolbar, TheListHasASwatchAndTheTextOfEveryGraph) {
+  addFunction('b', "x", 0x0000FF);
+  addFunction('d', "x^2", 0x00FF00);
+  openUsual();
+  auto& list = control<QListWidget>("LstGraficos");
+  ASSERT_EQ(list.count(), 2);
+  EXPECT_TRUE(list.isVisible());
+  EXPECT_EQ(list.geometry().left(), picture->geometry().right() + 9);
+  EXPECT_EQ(list.height(), picture->height());
+  EXPECT_EQ(fromQt(list.item(0)->text()), "b(x)=x");
+  EXPECT_EQ(fromQt(list.item(1)->text()), "d(x)=x^2");
+  EXPECT_EQ(shownTip(list.item(1)->toolTip()), "d(x)=x^2");
+  for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) {
+    const QImage swatch = list.item(1)->icon().pixmap(16, mode).toImage();
+    EXPECT_EQ(swatch.pixelColor(swatch.rect().center()), QColor(0, 255, 0));
+  }
+  EXPECT_TRUE(list.item(0)->isSelected());
+  EXPECT_FALSE(list.item(1)->isSelected());
+}
+
+TEST_F(GraficoToolbar, AClickInTheListMakesAGraphTheActiveOneWithoutARedraw) {
+  addFunction('b', "x");
+  addFunction('d', "x^2");
+  openUsual();
+  auto& list = control<QListWidget>("LstGraficos");
+  click("Recorrer");
+  const QPoint place = list.visualItemRect(list.item(1)).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  EXPECT_EQ(window.session().activeGraph(), 'd');
+  EXPECT_EQ(window.session().mode(), PlotMode::normal);
+  EXPECT_EQ(graphText(), "d(x)=x^2");
+  EXPECT_EQ(begun, "");
+  EXPECT_TRUE(picture->hasFocus());
+  previous();
+  EXPECT_TRUE(list.item(0)->isSelected());
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  EXPECT_EQ(window.session().activeGraph(), 'd');
+  previous();
+  list.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(window.session().activeGraph(), 'd');
+}
+
+TEST_F(GraficoToolbar, OneGraphNeedsNoListAndThePictureHasItsRoom) {
+  addFunction('a', "x");
+  open(view);
+  const int alone = picture->width();
+  EXPECT_FALSE(control<QWidget>("LstGraficos").isVisible());
+  addFunction('b', "-x");
+  open(view);
+  EXPECT_TRUE(control<QWidget>("LstGraficos").isVisible());
+  EXPECT_LT(picture->width(), alone);
+  program.graphs.freeGraph('b');
+  open(view);
+  EXPECT_EQ(picture->width(), alone);
 }
 
 TEST_F(GraficoToolbar, TheRowSpeaksTheCurrentLanguage) {
@@ -269,6 +384,9 @@ TEST_F(GraficoToolbar, TheRowSpeaksTheCurrentLanguage) {
   const Caption captions[] = {
       {"CmdGrafAnterior", {"Anterior", "Gráfico anterior"}, {"Previous", "Previous graph"}},
       {"CmdGrafSiguiente", {"Siguiente", "Gráfico siguiente"}, {"Next", "Next graph"}},
+      {"CmdNumeros",
+       {"Números", "Números, cuadrícula y coordenadas sobre el gráfico"},
+       {"Numbers", "Numbers, grid and coordinates over the graphic"}},
   };
   for (const std::string code : {"ES", "EN"}) {
     SetCurrentLanguage(code);

@@ -54,6 +54,23 @@ TEST_F(GraficoTrace, WalksAlongTheActiveGraph) {
   EXPECT_EQ(pixelsOver(), 0);
 }
 
+TEST_F(GraficoTrace, ShiftAndAnArrowKeyWalkAsTheStepButtonsDo) {
+  addFunction('a', "x");
+  openUsual();
+  QTest::keyClick(picture, Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(mode(), PlotMode::recorrido);
+  EXPECT_THAT(panels(), ElementsAre("X=0,5", "Y=0,5"));
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Right, Qt::ShiftModifier, QString(), true);
+  for (int i = 0; i < 3; ++i) QApplication::sendEvent(picture, &held);
+  EXPECT_THAT(panels(), ElementsAre("X=2", "Y=2"));
+  QTest::keyClick(picture, Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_THAT(panels(), ElementsAre("X=1,5", "Y=1,5"));
+  expectView(-10, 10, -10, 10);
+  window.setFocus();
+  QTest::keyClick(&window, Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_THAT(panels(), ElementsAre("X=1", "Y=1"));
+}
+
 TEST_F(GraficoTrace, BeginsAt0WhereNothingWasTracedYet) {
   addFunction('a', "x");
   openUsual();

@@ -1,14 +1,30 @@
 #include "forms/plot/plot_overlay.h"
 
 #include <QImage>
+#include <QPaintEvent>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 #include "plot/session/plot_session.h"
+#include "support/patience.h"
 #include "support/qt_application.h"
 
 namespace zel::test {
 namespace {
+
+/// What a widget is asked to paint.
+class PaintedRegion : public QObject {
+ public:
+  explicit PaintedRegion(QWidget& widget) { widget.installEventFilter(this); }
+  QRegion region;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+};
 
 class Overlay : public ::testing::Test {
  protected:
@@ -75,6 +91,39 @@ TEST_F(Overlay, PutsTheSlopeOnItsSideOfTheCursorAndWithinThePicture) {
   for (const QPoint cursor : {QPoint(0, 0), QPoint(199, 149), QPoint(199, 0), QPoint(0, 149)})
     for (const Slope slope : {Slope::creciente_der, Slope::creciente_izq})
       EXPECT_TRUE(overlay->rect().contains(place(cursor, slope)));
+}
+
+TEST_F(Overlay, ShowsNumbersAndAGridThatLeavesTheCurvesAsDarkAsTheyAre) {
+  const QImage empty = seen(Qt::white);
+  overlay->showNumbers({150, {{{1500, 0}, {1500, 2250}}}, {{"7", {300, 600}, 150, 180}}});
+  const QImage white = seen(Qt::white);
+  EXPECT_EQ(white.pixelColor(100, 100), QColor(0xD9, 0xE1, 0xEA));
+  EXPECT_EQ(white.pixelColor(99, 100), QColor(Qt::white));
+  EXPECT_GT(differences(white.copy(20, 40, 10, 12), empty.copy(20, 40, 10, 12)), 5);
+  EXPECT_EQ(seen(Qt::black).pixelColor(100, 100), QColor(Qt::black));
+  overlay->showNumbers({});
+  EXPECT_EQ(seen(Qt::white), empty);
+}
+
+TEST_F(Overlay, ShowsCoordinatesUntilThereAreNone) {
+  const QImage empty = seen(Qt::white);
+  overlay->showCoordinates(PictureLabel{"X=1  Y=2", {300, 600}, 900, 180}, 150);
+  EXPECT_GT(differences(seen(Qt::white), empty), 20);
+  overlay->showCoordinates(std::nullopt, 0);
+  EXPECT_EQ(seen(Qt::white), empty);
+}
+
+TEST_F(Overlay, PaintsNoMoreThanWhatAStepOfAWalkChanges) {
+  paper.show();
+  overlay->show(TraceCursor{{1500, 900}, Slope::creciente_der}, std::nullopt);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&paper, kPatience));
+  QCoreApplication::processEvents();
+  PaintedRegion painted(*overlay);
+  overlay->show(TraceCursor{{1515, 900}, Slope::creciente_der}, std::nullopt);
+  QCoreApplication::processEvents();
+  ASSERT_FALSE(painted.region.isEmpty());
+  EXPECT_LT(painted.region.boundingRect().width(), 80);
+  EXPECT_LT(painted.region.boundingRect().height(), 50);
 }
 
 TEST_F(Overlay, ShowsADifferentImageForEachSlope) {

@@ -1,0 +1,86 @@
+#include "forms/plot/graph_legend.h"
+
+#include <QPainter>
+#include <QSignalBlocker>
+
+#include "forms/editor/colour_swatch.h"
+#include "forms/form.h"
+#include "forms/tool_tip.h"
+#include "platform/qt/one_line.h"
+
+namespace zel {
+namespace {
+
+constexpr int kLetterRole = Qt::UserRole;
+
+/// The same in a selected row: the colour is that of the graph.
+QIcon swatch(std::int32_t colour) {
+  constexpr int kSide = 32;
+  QPixmap pixmap(kSide, kSide);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setPen(QPen(Qt::white, 2));
+  painter.setBrush(qtColour(colour));
+  painter.drawRect(1, 1, kSide - 2, kSide - 2);
+  painter.end();
+  QIcon icon(pixmap);
+  icon.addPixmap(pixmap, QIcon::Selected);
+  return icon;
+}
+
+char letterOf(const QListWidgetItem& item) {
+  return static_cast<char>(item.data(kLetterRole).toInt());
+}
+
+}  // namespace
+
+GraphLegend::GraphLegend(QWidget* parent) : QListWidget(parent) {
+  setObjectName("LstGraficos");
+  setFocusPolicy(Qt::TabFocus);
+  setUniformItemSizes(true);
+  setTextElideMode(Qt::ElideRight);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  const int side = fontMetrics().height();
+  setIconSize({side, side});
+  hide();
+  connect(this, &QListWidget::itemSelectionChanged, this, [this] {
+    if (!selectedItems().isEmpty()) emit chosen(letterOf(*selectedItems().front()));
+  });
+}
+
+void GraphLegend::assignCaptions() { setAccessibleName(caption("Gráficos", "Graphs")); }
+
+void GraphLegend::listGraphs(const GraphTable& graphs) {
+  const QSignalBlocker blocker(this);
+  clear();
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    const auto def = graphs.graph(letter);
+    if (!def || !def->defined) continue;
+    const QString text = inOneLine(toQt(displayText(*def)));
+    auto* const item = new QListWidgetItem(swatch(def->color), text, this);
+    item->setData(kLetterRole, static_cast<int>(letter));
+    item->setToolTip(toolTipOf(text));
+  }
+  setVisible(count() > 1);
+}
+
+/// The row is selected and not made the current one, which assistive technology would take for a
+/// move of the focus.
+void GraphLegend::showActive(std::optional<char> letter) {
+  const QSignalBlocker blocker(this);
+  for (int row = 0; row < count(); ++row) item(row)->setSelected(letter == letterOf(*item(row)));
+}
+
+/// The arrow keys go on from the active graph.
+void GraphLegend::focusInEvent(QFocusEvent* event) {
+  const QSignalBlocker blocker(this);
+  if (!selectedItems().isEmpty()) setCurrentItem(selectedItems().front());
+  QListWidget::focusInEvent(event);
+}
+
+int GraphLegend::wantedWidth() const {
+  constexpr int kLetters = 22;
+  return fontMetrics().averageCharWidth() * kLetters + iconSize().width();
+}
+
+}  // namespace zel
