@@ -1,11 +1,13 @@
 #include "forms/print/frm_imprimir.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -16,6 +18,7 @@
 #include "forms/print/printed_window.h"
 #include "pictures/picture_size.h"
 #include "platform/qt/bitmap_image.h"
+#include "platform/qt/number_painter.h"
 
 namespace zel {
 namespace {
@@ -41,12 +44,14 @@ frmImprimir::frmImprimir(Program& program)
       FraVistaPrevia_(new QGroupBox),
       page_(new PageView),
       LblMensaje_(new QLabel),
+      chkNumeros_(new QCheckBox),
       cmdImprimir_(new QPushButton),
       cmdSalir_(new QPushButton) {
   setWindowFlags(Qt::Dialog);
   setWindowModality(Qt::ApplicationModal);
   buildControls();
   connect(page_, &PageView::moved, this, [this] { place_ = page_->preview()->position(); });
+  connect(chkNumeros_, &QCheckBox::clicked, this, &frmImprimir::chkNumeros_Click);
   connect(cmdImprimir_, &QPushButton::clicked, this, &frmImprimir::cmdImprimir_Click);
   connect(cmdSalir_, &QPushButton::clicked, this, [this] { returnToCaller(); });
   assignCaptions();
@@ -63,6 +68,8 @@ void frmImprimir::buildControls() {
   preview->addWidget(page_, 0, 0);
   preview->addWidget(LblMensaje_, 0, 0, Qt::AlignCenter);
   auto* buttons = new QHBoxLayout;
+  chkNumeros_->setObjectName("chkNumeros");
+  buttons->addWidget(chkNumeros_);
   buttons->addStretch();
   buttons->addWidget(cmdImprimir_);
   buttons->addWidget(cmdSalir_);
@@ -76,6 +83,7 @@ void frmImprimir::buildControls() {
 
 void frmImprimir::assignCaptions() {
   setWindowTitle(caption("Imprimir Gráfico", "Print graphics"));
+  chkNumeros_->setText(caption("Con &números", "With &numbers"));
   cmdImprimir_->setText(caption("&Imprimir", "&Print"));
   cmdSalir_->setText(caption("&Cerrar", "&Close"));
   FraVistaPrevia_->setTitle(caption("Vista Previa", "Preview"));
@@ -105,6 +113,10 @@ void frmImprimir::showForm() {
 void frmImprimir::takePicture() {
   image_ = printed_ ? printed_->picture().image() : QImage();
   drawing_ = printed_ ? printed_->picture().drawing() : DrawingList();
+  if (!printed_ || !chkNumeros_->isChecked()) return;
+  drawing_.layOver(printed_->numbers());
+  QPainter painter(&image_);
+  paintOver(painter, drawing_.layer(), QRectF(QPointF(), image_.deviceIndependentSize()));
 }
 
 void frmImprimir::showPreview() {
@@ -118,6 +130,11 @@ void frmImprimir::showPreview() {
     page_->clearPage();
     tellNoPreview(program().services.boxes);
   }
+}
+
+void frmImprimir::chkNumeros_Click() {
+  takePicture();
+  showPreview();
 }
 
 void frmImprimir::cmdImprimir_Click() {

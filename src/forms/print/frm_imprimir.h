@@ -6,6 +6,7 @@
 #include "forms/form.h"
 #include "pictures/drawing_list.h"
 
+class QCheckBox;
 class QGroupBox;
 class QLabel;
 class QPushButton;
@@ -35,14 +36,17 @@ class frmImprimir : public Form {
 
  private:
   void buildControls();
+  /// With its numbers, where that is chosen.
   void takePicture();
   /// Builds the preview of the picture that was taken, or tells that there is none.
   void showPreview();
   void cmdImprimir_Click();
+  void chkNumeros_Click();
 
   QGroupBox* FraVistaPrevia_;
   PageView* page_;
   QLabel* LblMensaje_;
+  QCheckBox* chkNumeros_;
   QPushButton* cmdImprimir_;
   QPushButton* cmdSalir_;
   PrintedWindow* printed_ = nullptr;

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "app/print_preview.h"
+#include "forms/accessible_graphic.h"
 
 namespace zel {
 
@@ -14,7 +15,10 @@ class ScaledImage : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ScaledImage(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::StrongFocus); }
+  explicit ScaledImage(QWidget* parent) : QWidget(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    showAsGraphic(*this);
+  }
 
   void setImage(const QImage& image);
 

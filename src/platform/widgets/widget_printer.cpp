@@ -7,7 +7,9 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include "pictures/picture_size.h"
 #include "platform/qt/bitmap_image.h"
+#include "platform/qt/number_painter.h"
 #include "platform/qt/painter_picture.h"
 #include "platform/widgets/print_job_check.h"
 
@@ -36,6 +38,22 @@ QPrinterInfo firstPrinter(const QStringList& names) {
   return preset.isNull() ? QPrinterInfo::printerInfo(names.value(0)) : preset;
 }
 
+// What lies over a picture is painted in pixels, on a page in twips.
+
+void paintBehind(QPainter& painter, const NumberLayer& layer) {
+  painter.save();
+  painter.scale(kTwipsPerPixel, kTwipsPerPixel);
+  paintGrid(painter, layer);
+  painter.restore();
+}
+
+void paintBefore(QPainter& painter, const NumberLayer& layer, const QRectF& area) {
+  painter.save();
+  painter.scale(kTwipsPerPixel, kTwipsPerPixel);
+  paintNumbers(painter, layer, area);
+  painter.restore();
+}
+
 void paint(QPainter& painter, const PrintJob& job) {
   const QRectF area(0, 0, job.size.width, job.size.height);
   const double units = painter.device()->logicalDpiX() / kTwipsPerInch;
@@ -46,8 +64,12 @@ void paint(QPainter& painter, const PrintJob& job) {
   if (job.drawing.isFull()) {
     painter.drawImage(area, toImage(job.bitmap));
   } else {
-    PainterPicture picture(painter, area, Qt::white, Qt::black);
-    job.drawing.replay(picture);
+    paintBehind(painter, job.drawing.layer());
+    {
+      PainterPicture picture(painter, area, Qt::white, Qt::black);
+      job.drawing.replay(picture);
+    }
+    paintBefore(painter, job.drawing.layer(), area);
   }
 }
 

@@ -1,4 +1,5 @@
 #include <QPrintDialog>
+#include <algorithm>
 #include <filesystem>
 
 #include "platform/widgets/modal_driver.h"
@@ -15,6 +16,20 @@ class PrinterOfFiles : public PrinterTest {
     return printer_.print({orientation, position, kPicture, drawing, bitmap});
   }
   QImage page() { return pageOf(file); }
+  /// The texts of a PDF document; none where there is no document.
+  static std::string textOf(const std::string& pdf) {
+    QProcess process;
+    process.start("pdftotext", {QString::fromStdString(pdf), "-"});
+    EXPECT_TRUE(process.waitForFinished()) << "pdftotext (package poppler-utils) is needed";
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed().toStdString();
+  }
+  static int darkest(const QImage& image) {
+    int lightness = 255;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        lightness = std::min(lightness, image.pixelColor(x, y).lightness());
+    return lightness;
+  }
 
   TemporaryFolder folder;
   std::string file = folder / "page.pdf";
@@ -33,6 +48,20 @@ TEST_F(PrinterOfFiles, PutsThePictureAtItsPlaceInItsSize) {
   EXPECT_EQ(print(frame(kPicture), {1000, 2000}), PrintOutcome::printed);
   EXPECT_EQ(page().size(), QSize(1684, 1190));
   expectInk(page(), 1000, 2000, 7000, 5000);
+}
+
+TEST_F(PrinterOfFiles, PutsWhatIsLaidOverThePictureOnThePage) {
+  DrawingList list = frame(kPicture);
+  EXPECT_EQ(textOf(file), "");
+  list.layOver({150, {{{3000, 0}, {3000, 3000}}}, {{"-2,5", {1500, 1500}, 450, 180}}});
+  EXPECT_EQ(print(list, {1000, 2000}), PrintOutcome::printed);
+  EXPECT_EQ(textOf(file), "-2,5");
+  const QImage page = this->page();
+  EXPECT_LT(page.pixelColor(400, 250).lightness(), 245);  // on the grid, in the picture's middle
+  EXPECT_GT(page.pixelColor(390, 250).lightness(), 250);
+  const QRect number(250, 350, 45, 18);
+  EXPECT_LT(darkest(page.copy(number)), 128);
+  EXPECT_GT(darkest(page.copy(number.translated(0, 30))), 250);
 }
 
 TEST_F(PrinterOfFiles, MeasuresFromTheEdgesOfThePaper) {
