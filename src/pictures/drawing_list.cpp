@@ -1,6 +1,7 @@
 // Points lie in one array, and steps say what the next so many of them are: that keeps a long curve
-// at 16 bytes a point, and replaying it is one walk over both. A list that would outgrow its bound
-// is emptied rather than cut, because half a drawing looks like a whole one.
+// at 16 bytes a point, and replaying it is one walk over both. Of a run of points that one line
+// passes, the last one takes the place of the one before it. A list that would outgrow its bound is
+// emptied rather than cut, because half a drawing looks like a whole one.
 
 #include "pictures/drawing_list.h"
 
@@ -11,9 +12,13 @@ void DrawingList::clear() {
   points_.clear();
   is_full_ = false;
   layer_ = {};
+  run_.reset();
 }
 
-void DrawingList::beginAxes() { begin({.kind = Kind::axes}); }
+void DrawingList::beginAxes() {
+  run_.reset();
+  begin({.kind = Kind::axes});
+}
 
 void DrawingList::line(Point from, Point to) {
   if (!isIn(Kind::lines)) begin({.kind = Kind::lines});
@@ -22,17 +27,29 @@ void DrawingList::line(Point from, Point to) {
 }
 
 void DrawingList::beginGraph(char letter, std::int32_t colour) {
+  run_.reset();
   begin({.kind = Kind::graph, .letter = letter, .colour = colour});
 }
 
 void DrawingList::startPiece(Point point) {
   begin({.kind = Kind::piece});
   addPoint(point);
+  run_ = Run{LineJoiner(point)};
 }
 
 void DrawingList::extendPiece(Point point) {
-  if (!isIn(Kind::piece) && !isIn(Kind::more_of_piece)) begin({.kind = Kind::more_of_piece});
+  const bool goes_on = isIn(Kind::piece) || isIn(Kind::more_of_piece);
+  if (!goes_on) begin({.kind = Kind::more_of_piece});
+  const bool turns = !run_ || run_->joiner.extendTo(point).has_value();
+  if (goes_on && !turns && run_->has_end && !is_full_) {
+    points_.back() = point;
+    return;
+  }
   addPoint(point);
+  if (run_)
+    run_->has_end = true;
+  else
+    run_ = Run{LineJoiner(point)};
 }
 
 void DrawingList::dot(Point centre, double radius) {

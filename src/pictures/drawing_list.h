@@ -2,18 +2,21 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <utility>
 #include <vector>
 
+#include "pictures/line_joiner.h"
 #include "pictures/number_layer.h"
 #include "pictures/picture.h"
 
 namespace zel {
 
-/// A picture kept as the list of what was drawn on it, to be drawn again on another one. It takes a
-/// bounded number of points: a longer drawing is forgotten, and the list is full until it is
-/// cleared.
+/// A picture kept as the list of what was drawn on it, to be drawn again on another one. Of points
+/// of a curve that one line passes within a twip the first and the last are kept (LineJoiner). It
+/// takes a bounded number of points: a longer drawing is forgotten, and the list is full until it
+/// is cleared.
 class DrawingList : public Picture {
  public:
   /// At most 20 MB.
@@ -53,6 +56,12 @@ class DrawingList : public Picture {
     double radius = 0;
   };
 
+  /// The points of the piece that one line passes so far.
+  struct Run {
+    LineJoiner joiner;
+    bool has_end = false;  // another point than the first one has been kept
+  };
+
   static void replayStep(const Step& step, std::span<const Point> points, Picture& picture);
   bool isIn(Kind kind) const { return !steps_.empty() && steps_.back().kind == kind; }
   void begin(const Step& step);
@@ -62,6 +71,7 @@ class DrawingList : public Picture {
   std::vector<Step> steps_;
   std::vector<Point> points_;
   NumberLayer layer_;
+  std::optional<Run> run_;
   bool is_full_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "pictures/drawing_list.h"
 
+#include <cmath>
 #include <limits>
 
 #include <gmock/gmock.h>
@@ -24,7 +25,7 @@ void drawEverything(Picture& picture) {
   picture.dot({4, 4}, 20);
   picture.dot({5, 5}, 30);
   picture.extendPiece({8, 8});
-  picture.extendPiece({9, 9});
+  picture.extendPiece({9, 30});
   picture.beginGraph('d', 0xFF);
   picture.extendPiece({1, 1});
 }
@@ -101,7 +102,7 @@ TEST(DrawingListOfAPlot, TakesTwentySixCurvesOfAWideScreen) {
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     list.beginGraph(letter, 0);
     list.startPiece({0, 0});
-    for (int i = 1; i < 1920; ++i) list.extendPiece({i * 15.0, 0});
+    for (int i = 1; i < 1920; ++i) list.extendPiece({i * 15.0, i % 2 * 100.0});
   }
   EXPECT_FALSE(list.isFull());
   EXPECT_EQ(replayed(list).calls.size(), 26u * 1921);
@@ -116,6 +117,45 @@ TEST(DrawingListLayer, IsKeptUntilTheListIsCleared) {
   EXPECT_EQ(DrawingList(list).layer(), layer);
   list.clear();
   EXPECT_EQ(list.layer(), NumberLayer());
+}
+
+/// Some 1.9 million samples, floored as a plot floors them.
+TEST(DrawingListOfAPlot, TakesAThousandWavesOfAWideScreen) {
+  DrawingList list;
+  for (int wave = 1; wave <= 1000; ++wave) {
+    list.startPiece({0, 8000});
+    for (int i = 1; i < 1920; ++i)
+      list.extendPiece({i * 15.0, 8000 + std::floor(wave * 8 * std::sin(i * 0.0065))});
+  }
+  EXPECT_FALSE(list.isFull());
+}
+
+TEST(DrawingListOfAPlot, KeepsTheEndsOfWhatOneLinePasses) {
+  DrawingList list(5);
+  list.startPiece({0, 0});
+  for (int i = 1; i <= 1000; ++i) list.extendPiece({i * 15.0, i % 2 * 1.0});
+  for (int i = 1; i <= 1000; ++i) list.extendPiece({15000, i * 15.0});
+  list.startPiece({7, 7});
+  list.extendPiece({7, 7});
+  EXPECT_THAT(replayed(list).texts(), ElementsAre("start 0,0", "extend 15000,0",
+                                                  "extend 15000,15000", "start 7,7", "extend 7,7"));
+}
+
+TEST(DrawingListOfAPlot, JoinsNoPointsAcrossDotsOrGraphs) {
+  DrawingList list;
+  list.beginGraph('a', 0);
+  list.startPiece({0, 0});
+  list.extendPiece({10, 10});
+  list.dot({10, 10}, 5);
+  list.extendPiece({20, 20});
+  list.beginGraph('b', 0);
+  list.extendPiece({30, 30});
+  list.extendPiece({40, 40});
+  list.extendPiece({50, 50});
+  std::vector<std::string> places;
+  for (const std::string& text : replayed(list).texts())
+    if (text.starts_with("extend")) places.push_back(text);
+  EXPECT_THAT(places, ElementsAre("extend 10,10", "extend 20,20", "extend 30,30", "extend 50,50"));
 }
 
 }  // namespace
