@@ -7,12 +7,12 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
-#include "cli/file_picture.h"
 #include "cli/input_output.h"
 #include "cli/progress.h"
 #include "cli/render_many.h"
 #include "cli/render_one.h"
 #include "cli/view_options.h"
+#include "pictures/file_picture.h"
 
 namespace zel {
 namespace {

@@ -11,9 +11,6 @@
 namespace zel {
 namespace {
 
-constexpr long long kMostPixels = 1 << 27;  // of the whole picture
-constexpr int kLeastWidth = 100;            // pixels; samples are counted by whole hundreds of them
-
 std::vector<double> numbers(const char* name, const std::vector<std::string>& arguments) {
   std::vector<double> result;
   for (const std::string& argument : arguments) result.push_back(numberArgument(name, argument));

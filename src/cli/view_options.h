@@ -9,12 +9,9 @@
 
 #include "cli/console.h"
 #include "files/document.h"
-#include "plot/axes.h"
-#include "plot/viewport.h"
+#include "plot/picture_file.h"
 
 namespace zel {
-
-inline constexpr int kLongestSide = 32767;  // pixels
 
 /// The options of a command that draws a document, as they were typed; empty where they were not.
 struct ViewOptions {
@@ -44,12 +41,6 @@ WantedView readViewOptions(const ViewOptions& options);
 
 /// Whether not one sample fits into the picture; then says so, with the width that it needs.
 bool tellNarrowPicture(const WantedView& wanted, const Console& console);
-
-/// What the plot window opens with.
-struct OpenedView {
-  ViewSettings view;
-  ScaleMarks marks;
-};
 
 /// Nothing when a field of the document that counts is no number. Its scale texts are read as the
 /// main window reads them; of the command line, a distance of 0 means no marks.

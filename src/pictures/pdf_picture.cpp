@@ -61,15 +61,16 @@ class Document {
 
 }  // namespace
 
-PdfPicture::PdfPicture(int width, int height, std::size_t max_content)
-    : width_(width), height_(height), max_content_(max_content) {
-  const std::string twip = coordinateText(kPointsPerPixel / kTwipsPerPixel);
-  write(twip + " 0 0 -" + twip + " 0 " + coordinateText(height * kPointsPerPixel) +
-        " cm\n1 g 0 0 " + place({width * kTwipsPerPixel, height * kTwipsPerPixel}) +
-        " re f\n1 j\n");
+PdfPicture::PdfPicture(int width, int height, std::size_t max_content, double scale)
+    : width_(width), height_(height), max_content_(max_content), points_(kPointsPerPixel * scale) {
+  const std::string twip = coordinateText(points_ / kTwipsPerPixel);
+  write(twip + " 0 0 -" + twip + " 0 " + coordinateText(height * points_) + " cm\n1 g 0 0 " +
+        place({width * kTwipsPerPixel, height * kTwipsPerPixel}) + " re f\n1 j\n");
 }
 
-void PdfPicture::clear() { *this = PdfPicture(width_, height_, max_content_); }
+void PdfPicture::clear() {
+  *this = PdfPicture(width_, height_, max_content_, points_ / kPointsPerPixel);
+}
 
 void PdfPicture::beginAxes() {
   endGroup();
@@ -117,7 +118,7 @@ std::string PdfPicture::bytes() {
   const std::string content = content_.finish();
   if (isFull() || content.empty()) return {};
   const std::string box =
-      coordinateText(width_ * kPointsPerPixel) + " " + coordinateText(height_ * kPointsPerPixel);
+      coordinateText(width_ * points_) + " " + coordinateText(height_ * points_);
   Document document;
   document.add("<</Type/Catalog/Pages 2 0 R>>");
   document.add("<</Type/Pages/Kids[3 0 R]/Count 1>>");

@@ -17,8 +17,8 @@ class PdfPicture : public Picture {
   /// In bytes before they are compressed: a longer document is not made, and bytes() is then empty.
   static constexpr std::size_t kMaxContent = std::size_t{256} << 20;
 
-  /// The size in pixels of 15 twips.
-  PdfPicture(int width, int height, std::size_t max_content = kMaxContent);
+  /// The size in pixels of 15 twips, and how many times as large as that the page is.
+  PdfPicture(int width, int height, std::size_t max_content = kMaxContent, double scale = 1);
 
   void clear() override;
   void beginAxes() override;
@@ -50,6 +50,7 @@ class PdfPicture : public Picture {
   int width_;
   int height_;
   std::size_t max_content_;
+  double points_;  // of the page to a pixel
   Deflate content_;
   std::size_t written_ = 0;  // bytes of the content and of dots_
   std::optional<Piece> piece_;

@@ -47,7 +47,7 @@ std::string numberGroup(const NumberLayer& layer) {
 
 }  // namespace
 
-void SvgPicture::clear() { *this = SvgPicture(width_, height_, max_text_); }
+void SvgPicture::clear() { *this = SvgPicture(width_, height_, max_text_, scale_); }
 
 void SvgPicture::beginAxes() {
   endGroup();
@@ -85,8 +85,8 @@ void SvgPicture::dot(Point centre, double radius) {
 std::string SvgPicture::text(const NumberLayer& layer) {
   endGroup();
   if (isFull()) return {};
-  const std::string width = std::to_string(width_);
-  const std::string height = std::to_string(height_);
+  const std::string width = coordinateText(width_ * scale_);
+  const std::string height = coordinateText(height_ * scale_);
   const std::string box =
       coordinateText(width_ * kTwipsPerPixel) + " " + coordinateText(height_ * kTwipsPerPixel);
   return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"

@@ -16,9 +16,9 @@ class SvgPicture : public Picture {
   /// In bytes: a longer document is not made, and text() is then empty.
   static constexpr std::size_t kMaxText = std::size_t{256} << 20;
 
-  /// The size in pixels.
-  SvgPicture(int width, int height, std::size_t max_text = kMaxText)
-      : width_(width), height_(height), max_text_(max_text) {}
+  /// The size in pixels of 15 twips, and how many times as large as that it is shown.
+  SvgPicture(int width, int height, std::size_t max_text = kMaxText, double scale = 1)
+      : width_(width), height_(height), max_text_(max_text), scale_(scale) {}
 
   void clear() override;
   void beginAxes() override;
@@ -43,6 +43,7 @@ class SvgPicture : public Picture {
   int width_;
   int height_;
   std::size_t max_text_;
+  double scale_;
   std::string styles_;  // the colours of dots, by graph
   std::string body_;
   std::string group_style_;  // the style of the current graph's dots

@@ -23,8 +23,10 @@ class FilePicture {
 /// Whether there are pictures with this ending, in lower case: "svg", "png" and "pdf".
 bool canMakePicture(std::string_view ending);
 
-/// A picture of a size in pixels in the format of a file's ending. Null for any other ending, and
-/// when there is not memory enough.
-std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height);
+/// A picture of a size in pixels of 15 twips in the format of a file's ending, so many times as
+/// large as that when it is shown: a PNG file has more pixels then, the lines of the others are the
+/// same. Null for any other ending, and when there is not memory enough.
+std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height,
+                                             double scale = 1);
 
 }  // namespace zel

@@ -1,5 +1,6 @@
-#include "cli/file_picture.h"
+#include "pictures/file_picture.h"
 
+#include <cmath>
 #include <new>
 
 #include "pictures/pdf_picture.h"
@@ -10,9 +11,12 @@
 namespace zel {
 namespace {
 
+int scaled(int pixels, double scale) { return static_cast<int>(std::lround(pixels * scale)); }
+
 class SvgFile : public FilePicture {
  public:
-  SvgFile(int width, int height) : picture_(width, height) {}
+  SvgFile(int width, int height, double scale)
+      : picture_(width, height, SvgPicture::kMaxText, scale) {}
 
   Picture& picture() override { return picture_; }
   bool isFull() const override { return picture_.isFull(); }
@@ -24,7 +28,8 @@ class SvgFile : public FilePicture {
 
 class PngFile : public FilePicture {
  public:
-  PngFile(int width, int height) : picture_(width, height) {}
+  PngFile(int width, int height, double scale)
+      : picture_(scaled(width, scale), scaled(height, scale), scale) {}
 
   Picture& picture() override { return picture_; }
   std::string bytes() override { return writePng(picture_.finish()); }
@@ -35,7 +40,8 @@ class PngFile : public FilePicture {
 
 class PdfFile : public FilePicture {
  public:
-  PdfFile(int width, int height) : picture_(width, height) {}
+  PdfFile(int width, int height, double scale)
+      : picture_(width, height, PdfPicture::kMaxContent, scale) {}
 
   Picture& picture() override { return picture_; }
   bool isFull() const override { return picture_.isFull(); }
@@ -51,10 +57,11 @@ bool canMakePicture(std::string_view ending) {
   return ending == "svg" || ending == "png" || ending == "pdf";
 }
 
-std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height) try {
-  if (ending == "svg") return std::make_unique<SvgFile>(width, height);
-  if (ending == "png") return std::make_unique<PngFile>(width, height);
-  if (ending == "pdf") return std::make_unique<PdfFile>(width, height);
+std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height,
+                                             double scale) try {
+  if (ending == "svg") return std::make_unique<SvgFile>(width, height, scale);
+  if (ending == "png") return std::make_unique<PngFile>(width, height, scale);
+  if (ending == "pdf") return std::make_unique<PdfFile>(width, height, scale);
   return nullptr;
 } catch (const std::bad_alloc&) {
   return nullptr;
