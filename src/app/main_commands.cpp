@@ -53,13 +53,6 @@ void setDocument(Program& program, const std::string& path) {
   program.document_name = fileName(path);
 }
 
-/// Why a document was not written: the system's error, or the document itself where there is none.
-std::string saveFailure(int error) {
-  if (error == 0) return Localize(messages::kCannotSave);
-  return Localize("Error: No se pudo salvar.") + "\r\n" + Localize("Causa: código ") +
-         std::to_string(error);
-}
-
 constexpr std::string_view kDocumentFilter = "Declaraciones ZEL (*.zel)|*.zel";
 
 }  // namespace

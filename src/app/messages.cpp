@@ -4,6 +4,7 @@
 
 #include "base/language.h"
 #include "base/message_table.h"
+#include "files/document.h"
 
 namespace zel {
 
@@ -44,6 +45,12 @@ void ShowDrawingError(MessageBoxes& boxes, std::string_view message, std::option
     ReportCriticalError(boxes, message, graph);
   else
     ShowAttention(boxes, message);
+}
+
+std::string saveFailure(int error) {
+  if (error == 0) return Localize(messages::kCannotSave);
+  return Localize("Error: No se pudo salvar.") + "\r\n" + Localize("Causa: código ") +
+         std::to_string(error);
 }
 
 }  // namespace zel

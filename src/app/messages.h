@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "app/services.h"
@@ -27,5 +28,9 @@ void ReportCriticalError(MessageBoxes& boxes, std::string_view text, std::option
 
 /// Why a plot was not drawn: a known user error as a critical one, any other as it is.
 void ShowDrawingError(MessageBoxes& boxes, std::string_view message, std::optional<char> graph);
+
+/// Why a file was not written, in the current language: the number of the system's error, or that
+/// it could not be written alone where there is none.
+std::string saveFailure(int error);
 
 }  // namespace zel

@@ -3,6 +3,12 @@
 #include <algorithm>
 
 namespace zel {
+namespace {
+
+/// A quarter of an inch, which printers reach as a rule.
+constexpr double kMargin = 360;
+
+}  // namespace
 
 PageOrientation orientationFor(PaperSize picture) {
   return picture.width > picture.height ? PageOrientation::landscape : PageOrientation::portrait;
@@ -14,11 +20,21 @@ PaperSize scaledInto(PaperSize room, PaperSize paper) {
 }
 
 PrintPreview::PrintPreview(PaperSize paper, PaperSize picture)
-    : paper_(paper),
-      picture_(picture),
-      scaled_page_(paper),
-      position_{(paper.width - picture.width) / 2, (paper.height - picture.height) / 2},
-      outline_(position_) {}
+    : paper_(paper), own_(picture), scaled_page_(paper) {
+  centre();
+}
+
+void PrintPreview::setFitted(bool fitted) {
+  const double margin = std::min(kMargin, std::min(paper_.width, paper_.height) / 8);
+  const PaperSize room = {paper_.width - 2 * margin, paper_.height - 2 * margin};
+  scale_ = fitted && isLarger() ? scaledInto(room, own_).width / own_.width : 1;
+  centre();
+}
+
+void PrintPreview::centre() {
+  position_ = {(paper_.width - picture().width) / 2, (paper_.height - picture().height) / 2};
+  outline_ = position_;
+}
 
 void PrintPreview::press(float x, float y) {
   press_x_ = x;
@@ -45,14 +61,15 @@ bool PrintPreview::moveTo(Point position) {
 }
 
 bool PrintPreview::isOnPage(Point position) const {
-  return position.x >= 0 && position.y >= 0 && position.x + picture_.width <= paper_.width &&
-         position.y + picture_.height <= paper_.height;
+  return position.x >= 0 && position.y >= 0 && position.x + picture().width <= paper_.width &&
+         position.y + picture().height <= paper_.height;
 }
 
 Rectangle PrintPreview::onScaledPage(Point position) const {
   const double across = scaled_page_.width / paper_.width;
   const double down = scaled_page_.height / paper_.height;
-  return {position.x * across, position.y * down, picture_.width * across, picture_.height * down};
+  return {position.x * across, position.y * down, picture().width * across,
+          picture().height * down};
 }
 
 }  // namespace zel

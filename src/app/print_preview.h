@@ -29,7 +29,16 @@ class PrintPreview {
   PrintPreview(PaperSize paper, PaperSize picture);
 
   PaperSize paper() const { return paper_; }
-  PaperSize picture() const { return picture_; }
+  /// As it comes out.
+  PaperSize picture() const { return {own_.width * scale_, own_.height * scale_}; }
+  /// Of the picture on the paper, beside its own size.
+  double scale() const { return scale_; }
+
+  /// Whether the picture in its own size stands out of the page.
+  bool isLarger() const { return own_.width > paper_.width || own_.height > paper_.height; }
+  /// Makes a picture that is larger as large as fits between narrow margins, or gives it its own
+  /// size back; either way it lies in the middle of the page.
+  void setFitted(bool fitted);
 
   /// The size of the page on the screen. Picture and outline stay where they are on the paper.
   void setScaledPage(PaperSize size) { scaled_page_ = size; }
@@ -57,9 +66,11 @@ class PrintPreview {
  private:
   bool isOnPage(Point position) const;
   Rectangle onScaledPage(Point position) const;
+  void centre();
 
   PaperSize paper_;
-  PaperSize picture_;
+  PaperSize own_;  // size of the picture
+  double scale_ = 1;
   PaperSize scaled_page_;
   Point position_;  // on the paper, as is the outline's
   Point outline_;

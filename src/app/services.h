@@ -122,9 +122,10 @@ enum class PageOrientation { portrait, landscape };
 struct PrintJob {
   PageOrientation orientation = PageOrientation::portrait;
   Point position;  // of the picture, in twips from the left and top edges of the paper
-  PaperSize size;  // of the picture; its drawing has the same units
+  PaperSize size;  // of the picture
   const DrawingList& drawing;
   const Bitmap& bitmap;  // the same picture, for a drawing that is full
+  double scale = 1;      // of the drawing on the paper
 };
 
 enum class PrintOutcome {
@@ -137,11 +138,22 @@ enum class PrintOutcome {
 class Printer {
  public:
   virtual ~Printer() = default;
-  /// The paper from edge to edge, as it lies in this orientation; nothing when there is no printer
-  /// or it names no paper.
+  /// The desktop's printers by name; it may have none.
+  virtual std::vector<std::string> names() = 0;
+  /// The one that was chosen last, at first the desktop's own choice; empty when there is none.
+  virtual std::string chosen() = 0;
+  virtual void choose(const std::string& name) = 0;
+  /// The paper of the chosen printer from edge to edge, as it lies in this orientation; nothing
+  /// when there is no printer or it names no paper.
   virtual std::optional<PaperSize> paper(PageOrientation orientation) = 0;
-  /// Lets the user choose the printer first, and ends the job, so that the page comes out.
+  /// Lets the user set the printer up or choose another one first, and ends the job, so that the
+  /// page comes out.
   virtual PrintOutcome print(const PrintJob& job) = 0;
+
+  /// The paper that is usual where the user lives, whether or not there is a printer.
+  virtual PaperSize usualPaper(PageOrientation orientation) = 0;
+  /// The page on that paper as the bytes of a PDF file; nothing when it could not be made.
+  virtual std::optional<std::string> makePdf(const PrintJob& job) = 0;
 };
 
 /// All of them; the objects outlive the program.

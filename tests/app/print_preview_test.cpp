@@ -149,5 +149,47 @@ TEST(PreviewOfALargePicture, APictureOfThePagesSizeFillsIt) {
   EXPECT_FALSE(preview.moveBy(1, 0));
 }
 
+TEST(FittedPicture, IsAsLargeAsThePageLetsItBetweenItsMargins) {
+  PrintPreview preview({11900, 16840}, {18000, 6000});
+  EXPECT_TRUE(preview.isLarger());
+  preview.setFitted(true);
+  EXPECT_NEAR(preview.picture().width, 11900 - 720, 1e-9);
+  EXPECT_NEAR(preview.picture().height, 6000 * 11180.0 / 18000, 1e-9);
+  EXPECT_NEAR(preview.position().x, 360, 1e-9);
+  EXPECT_NEAR(preview.position().y, (16840 - preview.picture().height) / 2, 1e-9);
+  EXPECT_EQ(preview.outline(), preview.image());
+}
+
+TEST(FittedPicture, CanBeMovedWhereItLeavesRoom) {
+  PrintPreview preview({11900, 16840}, {18000, 6000});
+  EXPECT_FALSE(preview.moveBy(0, 100));
+  preview.setFitted(true);
+  EXPECT_TRUE(preview.moveBy(0, 100));
+  EXPECT_FALSE(preview.moveBy(361, 0));
+}
+
+TEST(FittedPicture, GetsItsOwnSizeBack) {
+  PrintPreview preview({11900, 16840}, {18000, 6000});
+  preview.setFitted(true);
+  preview.setFitted(false);
+  EXPECT_EQ(preview.picture(), (PaperSize{18000, 6000}));
+  EXPECT_EQ(preview.position(), (Point{-3050, 5420}));
+  EXPECT_EQ(preview.scale(), 1);
+}
+
+TEST(FittedPicture, StaysAsItIsWhereItIsNotLarger) {
+  PrintPreview preview({11900, 16840}, {11900, 16840});
+  EXPECT_FALSE(preview.isLarger());
+  preview.setFitted(true);
+  EXPECT_EQ(preview.scale(), 1);
+  EXPECT_EQ(preview.position(), (Point{0, 0}));
+}
+
+TEST(FittedPicture, HasAPlaceOnTheSmallestPaper) {
+  PrintPreview preview({80, 80}, {6000, 3000});
+  preview.setFitted(true);
+  EXPECT_EQ(preview.picture(), (PaperSize{60, 30}));
+}
+
 }  // namespace
 }  // namespace zel::test

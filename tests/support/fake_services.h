@@ -185,22 +185,44 @@ class FakePrinter : public Printer {
     PaperSize size;
     DrawingList drawing;
     Bitmap bitmap;
+    double scale;
   };
 
+  std::vector<std::string> names() override { return printers; }
+  std::string chosen() override { return printers.empty() ? "" : chosen_printer; }
+  void choose(const std::string& name) override { chosen_printer = name; }
   std::optional<PaperSize> paper(PageOrientation orientation) override {
     asked.push_back(orientation);
-    if (!upright || orientation == PageOrientation::portrait) return upright;
-    return PaperSize{upright->height, upright->width};
+    return upright ? std::optional(lying(*upright, orientation)) : std::nullopt;
   }
   PrintOutcome print(const PrintJob& job) override {
-    printed.push_back({job.orientation, job.position, job.size, job.drawing, job.bitmap});
+    printed.push_back(pageOf(job));
     return outcome;
   }
+  PaperSize usualPaper(PageOrientation orientation) override { return lying(usual, orientation); }
+  std::optional<std::string> makePdf(const PrintJob& job) override {
+    made_pdfs.push_back(pageOf(job));
+    return pdf;
+  }
 
-  std::optional<PaperSize> upright = PaperSize{11900, 16840};  // nothing: no printer
+  std::vector<std::string> printers = {"Laser", "Office"};
+  std::string chosen_printer = "Laser";
+  std::optional<PaperSize> upright = PaperSize{11900, 16840};  // nothing: it names none
+  PaperSize usual = {12240, 15840};
+  std::optional<std::string> pdf = "%PDF";  // nothing: it cannot be made
+  std::vector<Page> made_pdfs;
   PrintOutcome outcome = PrintOutcome::printed;
   std::vector<PageOrientation> asked;
   std::vector<Page> printed;
+
+ private:
+  static PaperSize lying(PaperSize paper, PageOrientation orientation) {
+    if (orientation == PageOrientation::portrait) return paper;
+    return {paper.height, paper.width};
+  }
+  static Page pageOf(const PrintJob& job) {
+    return {job.orientation, job.position, job.size, job.drawing, job.bitmap, job.scale};
+  }
 };
 
 /// All of them; declare it before the Program that it serves.

@@ -5,15 +5,17 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "forms/paper_shadow.h"
 #include "pictures/picture_size.h"
 
 namespace zel {
 namespace {
 
-constexpr int kMargin = 10;         // pixels around the sheet, for its shadow
-constexpr int kShadow = 5;          // pixels
 constexpr double kArrowStep = 144;  // twips of paper, a tenth of an inch
-constexpr QRgb kEdge = 0xFFB8B8B8;  // of the picture, on white paper in every palette
+/// The edge of the picture: dashes in the light blue of guide lines, which nobody takes for ink, on
+/// white paper in every palette.
+constexpr QRgb kEdge = 0xFF8CC4F0;
+constexpr QRgb kEdgeWithFocus = 0xFF1A6FC4;
 
 PaperSize inTwips(QSize pixels) {
   return {pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
@@ -65,7 +67,7 @@ void ScaledImage::paintEvent(QPaintEvent*) {
   }
   QPainter painter(this);
   painter.drawPixmap(0, 0, scaled_);
-  painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : QColor::fromRgb(kEdge));
+  painter.setPen(QPen(QColor::fromRgb(hasFocus() ? kEdgeWithFocus : kEdge), 1, Qt::DashLine));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
@@ -104,11 +106,17 @@ void PageView::clearPage() {
   update();
 }
 
+void PageView::fitPicture(bool fitted) {
+  if (!preview_) return;
+  preview_->setFitted(fitted);
+  placePicture();
+}
+
 void PageView::resizeEvent(QResizeEvent*) { arrange(); }
 
 void PageView::arrange() {
   if (!preview_) return;
-  const QSize room = (size() - QSize(2 * kMargin, 2 * kMargin)).expandedTo({1, 1});
+  const QSize room = (size() - QSize(2 * kPaperMargin, 2 * kPaperMargin)).expandedTo({1, 1});
   const PaperSize scaled = scaledInto(inTwips(room), preview_->paper());
   QRect sheet = inPixels({0, 0, scaled.width, scaled.height});
   sheet.setSize(sheet.size().expandedTo({1, 1}));
@@ -127,14 +135,7 @@ void PageView::placePicture() {
 void PageView::paintEvent(QPaintEvent*) {
   if (!preview_) return;
   QPainter painter(this);
-  painter.setPen(Qt::NoPen);
-  for (int i = kShadow; i > 0; --i) {
-    painter.setBrush(QColor(0, 0, 0, 14));
-    painter.drawRoundedRect(Picture2_->geometry().adjusted(1 - i, 2 - i, i, i + 1), i, i);
-  }
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(Picture2_->geometry().adjusted(-1, -1, 0, 0));
+  paintPaperShadow(painter, Picture2_->geometry(), palette());
 }
 
 bool PageView::eventFilter(QObject* watched, QEvent* event) {

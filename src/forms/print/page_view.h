@@ -41,6 +41,9 @@ class PageView : public QWidget {
 
   void showPage(const PrintPreview& preview, const QImage& image);
   void clearPage();
+  /// Puts the picture into the middle of the page, made smaller where it is larger than the page
+  /// and that is wanted.
+  void fitPicture(bool fitted);
   /// Nothing while there is no page.
   const std::optional<PrintPreview>& preview() const { return preview_; }
 

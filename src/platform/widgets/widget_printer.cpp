@@ -1,7 +1,10 @@
 #include "platform/widgets/widget_printer.h"
 
 #include <QApplication>
+#include <QBuffer>
+#include <QLocale>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -54,6 +57,20 @@ void paintBefore(QPainter& painter, const NumberLayer& layer, const QRectF& area
   painter.restore();
 }
 
+PaperSize sizeOf(const QPageLayout& layout) {
+  const QSizeF points = layout.fullRect(QPageLayout::Point).size();
+  return {points.width() * kTwipsPerPoint, points.height() * kTwipsPerPoint};
+}
+
+/// Of the paper from edge to edge.
+QPageLayout usualLayout(PageOrientation orientation) {
+  const bool has_inches = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+  QPageLayout layout(QPageSize(has_inches ? QPageSize::Letter : QPageSize::A4), toQt(orientation),
+                     QMarginsF());
+  layout.setMode(QPageLayout::FullPageMode);
+  return layout;
+}
+
 void paint(QPainter& painter, const PrintJob& job) {
   const QRectF area(0, 0, job.size.width, job.size.height);
   const double units = painter.device()->logicalDpiX() / kTwipsPerInch;
@@ -64,12 +81,14 @@ void paint(QPainter& painter, const PrintJob& job) {
   if (job.drawing.isFull()) {
     painter.drawImage(area, toImage(job.bitmap));
   } else {
+    painter.scale(job.scale, job.scale);
+    const QRectF drawn(QPointF(), area.size() / job.scale);
     paintBehind(painter, job.drawing.layer());
     {
-      PainterPicture picture(painter, area, Qt::white, Qt::black);
+      PainterPicture picture(painter, drawn, Qt::white, Qt::black);
       job.drawing.replay(picture);
     }
-    paintBefore(painter, job.drawing.layer(), area);
+    paintBefore(painter, job.drawing.layer(), drawn);
   }
 }
 
@@ -89,19 +108,55 @@ WidgetPrinter::WidgetPrinter(Chooser choose) : choose_(std::move(choose)) {}
 
 WidgetPrinter::~WidgetPrinter() = default;
 
-std::optional<PaperSize> WidgetPrinter::paper(PageOrientation orientation) {
+bool WidgetPrinter::findPrinter() {
   const QStringList names = QPrinterInfo::availablePrinterNames();
-  if (names.isEmpty()) {
+  if (names.isEmpty())
     printer_.reset();
-    return std::nullopt;
-  }
-  if (!printer_ || !names.contains(printer_->printerName()))
+  else if (!printer_ || !names.contains(printer_->printerName()))
     printer_ = std::make_unique<QPrinter>(firstPrinter(names), QPrinter::HighResolution);
+  return printer_ != nullptr;
+}
+
+std::vector<std::string> WidgetPrinter::names() {
+  std::vector<std::string> names;
+  for (const QString& name : QPrinterInfo::availablePrinterNames())
+    names.push_back(name.toStdString());
+  return names;
+}
+
+std::string WidgetPrinter::chosen() {
+  return findPrinter() ? printer_->printerName().toStdString() : "";
+}
+
+void WidgetPrinter::choose(const std::string& name) {
+  if (findPrinter() && printer_->printerName() != QString::fromStdString(name))
+    printer_ = std::make_unique<QPrinter>(QPrinterInfo::printerInfo(QString::fromStdString(name)),
+                                          QPrinter::HighResolution);
+}
+
+std::optional<PaperSize> WidgetPrinter::paper(PageOrientation orientation) {
+  if (!findPrinter()) return std::nullopt;
   QPageLayout layout = printer_->pageLayout();
   layout.setOrientation(toQt(orientation));
-  const QSizeF points = layout.fullRect(QPageLayout::Point).size();
-  if (points.isEmpty()) return std::nullopt;
-  return PaperSize{points.width() * kTwipsPerPoint, points.height() * kTwipsPerPoint};
+  const PaperSize size = sizeOf(layout);
+  return size.width > 0 && size.height > 0 ? std::optional(size) : std::nullopt;
+}
+
+PaperSize WidgetPrinter::usualPaper(PageOrientation orientation) {
+  return sizeOf(usualLayout(orientation));
+}
+
+std::optional<std::string> WidgetPrinter::makePdf(const PrintJob& job) {
+  QBuffer bytes;
+  bytes.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&bytes);
+  writer.setCreator("ZEL");
+  writer.setPageLayout(usualLayout(job.orientation));
+  QPainter painter;
+  if (!painter.begin(&writer)) return std::nullopt;
+  paint(painter, job);
+  if (!painter.end()) return std::nullopt;
+  return bytes.data().toStdString();
 }
 
 PrintOutcome WidgetPrinter::print(const PrintJob& job) {

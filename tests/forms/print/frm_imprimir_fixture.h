@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QComboBox>
+
 #include "forms/plot/picture_box.h"
 #include "forms/print/frm_imprimir.h"
 #include "forms/print/printed_window.h"
@@ -42,6 +44,14 @@ class PrintWindow : public WindowTest {
   QWidget& image() { return control<QWidget>(window, "Image3"); }
   QWidget& outline() { return control<QWidget>(window, "Shape1"); }
   QLabel& message() { return control<QLabel>(window, "LblMensaje"); }
+  QComboBox& printer() { return control<QComboBox>(window, "cboImpresora"); }
+  QCheckBox& fit() { return control<QCheckBox>(window, "chkAjustar"); }
+  /// As the user chooses one in the list.
+  void choose(const char* name) {
+    const int index = printer().findText(QString::fromLatin1(name));
+    printer().setCurrentIndex(index);
+    emit printer().activated(index);
+  }
   QPushButton& print() { return control<QPushButton>(window, "cmdImprimir"); }
 
   /// The mouse on the image: pressed in its middle, then so many pixels away from there.

@@ -74,7 +74,7 @@ TEST_F(PrintWindow, MayBeClosedWhileThePreviewIsBuilt) {
   EXPECT_THAT(services.printer.asked, IsEmpty());
 }
 
-TEST_F(PrintWindow, TellsThatThereIsNoPreviewWithoutAPrinter) {
+TEST_F(PrintWindow, TellsThatThereIsNoPreviewWhereThePrinterNamesNoPaper) {
   services.printer.upright.reset();
   open();
   EXPECT_TRUE(window.isVisible());
@@ -96,7 +96,7 @@ TEST_F(PrintWindow, HasNoPreviewOfAWindowWithoutAPicture) {
   EXPECT_EQ(services.boxes.shown.size(), 1u);
 }
 
-TEST_F(PrintWindow, GetsItsPreviewWhenAPrinterComes) {
+TEST_F(PrintWindow, GetsItsPreviewWhenThePrinterHasPaper) {
   services.printer.upright.reset();
   open();
   services.printer.upright = PaperSize{11900, 16840};

@@ -4,6 +4,8 @@
 #include <QPrintDialog>
 #include <filesystem>
 
+#include <gmock/gmock.h>
+
 #include "platform/widgets/modal_driver.h"
 #include "platform/widgets/printer_fixture.h"
 #include "support/patience.h"
@@ -184,6 +186,18 @@ TEST_F(PrinterOfCups, PrintsWhatTheDialogAcceptsOnThePageAsItLies) {
   const QImage page = pageOf(serverFolder() / "out/page.pdf");
   EXPECT_EQ(page.size(), QSize(1684, 1190));
   expectInk(page, 0, 0, 6000, 3000);
+}
+
+TEST_F(PrinterOfCups, ListsThePrintersAndTakesTheOneThatIsChosen) {
+  WidgetPrinter printer([](QPrinter& chosen) {
+    EXPECT_EQ(chosen.printerName(), "Refuses");
+    return false;
+  });
+  EXPECT_THAT(printer.names(), ::testing::UnorderedElementsAre("Keeps", "Refuses"));
+  EXPECT_EQ(printer.chosen(), "Keeps");
+  printer.choose("Refuses");
+  EXPECT_EQ(printer.chosen(), "Refuses");
+  EXPECT_EQ(print(printer, PageOrientation::portrait, {0, 0}), PrintOutcome::cancelled);
 }
 
 TEST_F(PrinterOfCups, NoticesThatThePrinterRefusesTheJob) {

@@ -125,10 +125,60 @@ TEST_F(PrinterOfFiles, NoticesThatTheDiskIsFull) {
   EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::failed);
 }
 
+/// A PDF document made without any printer.
+class PdfOfNobody : public PrinterTest {
+ protected:
+  std::string make(const DrawingList& drawing, PaperSize size, double scale = 1) {
+    const Bitmap bitmap{2, 1, {0xFF00FF00, 0xFF0000FF}};
+    const auto bytes =
+        printer_.makePdf({PageOrientation::landscape, {1000, 2000}, size, drawing, bitmap, scale});
+    putBytes(file, bytes.value_or(""));
+    return bytes.value_or("");
+  }
+
+  TemporaryFolder folder;
+  std::string file = folder / "page.pdf";
+  PaperSize paper = printer_.usualPaper(PageOrientation::landscape);
+
+ private:
+  WidgetPrinter printer_;
+};
+
+TEST_F(PdfOfNobody, HasThePictureAtItsPlaceOnTheUsualPaper) {
+  make(frame(kPicture), kPicture);
+  const QImage page = pageOf(file);
+  EXPECT_EQ(page.size(), QSizeF(paper.width / 10, paper.height / 10).toSize());
+  expectInk(page, 1000, 2000, 7000, 5000);
+}
+
+TEST_F(PdfOfNobody, HasAFittedPictureSmaller) {
+  make(frame(kPicture), {3000, 1500}, 0.5);
+  expectInk(pageOf(file), 1000, 2000, 4000, 3500);
+}
+
+TEST_F(PdfOfNobody, HasLinesAndNoImage) {
+  DrawingList list = frame(kPicture);
+  list.startPiece({0, 0});
+  for (int i = 1; i < 200000; ++i) list.extendPiece({i % 6000 * 1.0, i % 2 * 1000.0});
+  const std::string bytes = make(list, kPicture);
+  EXPECT_TRUE(bytes.starts_with("%PDF"));
+  EXPECT_EQ(bytes.find("/Subtype /Image"), std::string::npos);
+}
+
+TEST_F(PdfOfNobody, TakesTheBitmapForADrawingThatIsFull) {
+  DrawingList list(1);
+  list.line({0, 0}, {1, 1});
+  EXPECT_NE(make(list, kPicture).find("/Subtype /Image"), std::string::npos);
+  expectInk(pageOf(file), 1000, 2000, 7000, 5000);
+}
+
 using PrinterOfNobody = PrinterTest;
 
 TEST_F(PrinterOfNobody, HasNoPaperWithoutAPrinter) {
   WidgetPrinter printer;
+  EXPECT_TRUE(printer.names().empty());
+  EXPECT_EQ(printer.chosen(), "");
+  printer.choose("Laser");
   EXPECT_EQ(printer.paper(PageOrientation::portrait), std::nullopt);
   EXPECT_EQ(printer.paper(PageOrientation::landscape), std::nullopt);
 }
