@@ -51,6 +51,7 @@ int run(int& argument_count, char** arguments) {
                         *desktop.registry, *desktop.browser, *desktop.mail, widgets.inputs,
                         widgets.clipboard, widgets.printer});
   program.place = zel::programPlace(file.filePath().toStdString());
+  program.last_session = zel::LastSession(zel::stateFolder());
   program.end_process = endProcess;
 
   application.failed = [&] {

@@ -107,5 +107,7 @@ Section "Uninstall"
   ${If} ${Errors}
     Delete "$APPDATA\zel\config.ini"
     RMDir "$APPDATA\zel"
+    Delete "$LOCALAPPDATA\zel\session.zel"
+    RMDir "$LOCALAPPDATA\zel"
   ${EndIf}
 SectionEnd

@@ -6,6 +6,7 @@
 #include "app/desktop.h"
 #include "app/form_params.h"
 #include "app/graph_history.h"
+#include "app/last_session.h"
 #include "app/services.h"
 #include "engine/engine.h"
 #include "files/absolute_path.h"
@@ -35,7 +36,8 @@ struct Program {
   DocumentHeader header;
   std::string document_name;  // the file name alone; empty when there is no document
   std::string document_path;
-  std::string help_file;  // the application's; "mEnglish" does not change it, which is meant
+  LastSession last_session;  // keeps nothing until it is given a folder
+  std::string help_file;     // the application's; "mEnglish" does not change it, which is meant
   std::function<void()> end_process = [] {};
 };
 

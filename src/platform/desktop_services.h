@@ -23,6 +23,10 @@ DesktopServices makeDesktopServices(const std::string& program_path);
 /// "zel" among the user's configurations. UTF-8.
 std::string userFolder();
 
+/// The folder, not always there yet, of what the program itself remembers of the user's work: "zel"
+/// among the user's states. Empty where the user has none. UTF-8.
+std::string stateFolder();
+
 /// Where the program's file lies, written as the platform writes paths: on Windows with "\" alone,
 /// however `program_path` is written.
 ProgramPlace programPlace(const std::string& program_path);

@@ -13,7 +13,8 @@ SCREEN_PICTURE=$(dirname "$(dirname "$1")")/command_line_failed.png
 rm -f "$SCREEN_PICTURE"
 
 work=$(mktemp -d)
-export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
+export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
+export XDG_RUNTIME_DIR=$work
 export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none
 unset WAYLAND_DISPLAY
 mkdir -m 700 "$work/run"

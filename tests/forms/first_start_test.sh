@@ -15,7 +15,8 @@ strace -o /dev/null true 2>/dev/null || skip "strace may not trace here"
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
+export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
+export XDG_RUNTIME_DIR=$work
 export QT_QPA_PLATFORM=offscreen QT_QPA_PLATFORMTHEME=none LC_ALL=C.UTF-8
 export ASAN_OPTIONS=detect_leaks=0
 mkdir -m 700 "$work/run"

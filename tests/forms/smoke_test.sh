@@ -13,7 +13,8 @@ SCREEN_PICTURE=$(dirname "$(dirname "$1")")/smoke_failed.png
 rm -f "$SCREEN_PICTURE"
 
 work=$(mktemp -d)
-export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
+export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state \
+  XDG_RUNTIME_DIR=$work
 export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none
 unset LC_ALL LC_MESSAGES WAYLAND_DISPLAY
 export LANG=en_US.UTF-8
@@ -120,6 +121,7 @@ enter "$work/smoke.zel"
 opens 'ZEL - smoke.zel' Return
 wait_until declared || fail "the document does not hold the function"
 ends_well ctrl+q
+grep -q '^ecuacion=7' "$XDG_STATE_HOME/zel/session.zel" || fail "the session was not kept"
 grep -q '^EN' config.ini || fail "the language was not kept"
 
 start "$work/smoke.zel"

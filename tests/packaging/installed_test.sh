@@ -13,7 +13,8 @@ rm -f "$SCREEN_PICTURE"
 work=$(mktemp -d)
 program=
 trap 'kill $program 2>/dev/null; close_screen; wait 2>/dev/null; rm -rf "$work"' EXIT
-export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
+export HOME=$work XDG_DATA_HOME=$work/data XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
+export XDG_RUNTIME_DIR=$work
 export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME=none LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY
 open_screen "$work"

@@ -159,7 +159,10 @@ void frmDatosIni::mGuardarComo_Click() {
   updateTitle();
 }
 
-void frmDatosIni::mSalir_Click() { shutDown(program()); }
+void frmDatosIni::mSalir_Click() {
+  keepSession();
+  shutDown(program());
+}
 
 void frmDatosIni::mConfirmarBorrado_Click() {
   bool& confirms = program().configuration.confirm_deletion;
@@ -211,6 +214,7 @@ void frmDatosIni::Slider1_Change() {
 }
 
 void frmDatosIni::closeEvent(QCloseEvent* event) {
+  keepSession();
   shutDown(program());
   event->accept();
 }

@@ -75,6 +75,7 @@ class frmDatosIni : public Form {
 
   void mNuevo_Click();
   void mAbrir_Click();
+  void mRecuperar_Click();
   void mGuardar_Click();
   void mGuardarComo_Click();
   void mSalir_Click();
@@ -102,6 +103,10 @@ class frmDatosIni : public Form {
   void updateLanguageMenu();
   void updateTitle();
   void updateList();
+  /// Keeps the declarations for the next session.
+  void keepSession();
+  /// Which commands of the file menu make sense now.
+  void updateFileMenu();
   void updateButtons();
 
   MainWindowTargets targets_;

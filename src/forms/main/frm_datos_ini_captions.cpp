@@ -31,6 +31,7 @@ void frmDatosIni::applyMenuCaptions() {
   mArchivo_->setTitle(caption("A&rchivo", "File"));
   set("mNuevo", "&Nuevo", "New");
   set("mAbrir", "A&brir", "&Open");
+  set("mRecuperar", "Recuperar última sesión", "Recover last session");
   set("mGuardar", "G&uardar", "&Save");
   set("mGuardarComo", "Guardar &como...", "Save &As...");
   set("mSalir", "&Salir", "Exit");

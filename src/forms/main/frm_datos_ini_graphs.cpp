@@ -11,6 +11,7 @@ namespace zel {
 void frmDatosIni::updateList() {
   listaG_->listGraphs(program().graphs);
   updateButtons();
+  keepSession();
 }
 
 void frmDatosIni::updateButtons() {

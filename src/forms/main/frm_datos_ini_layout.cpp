@@ -46,6 +46,8 @@ void frmDatosIni::buildMenus() {
   mArchivo_ = menuBar()->addMenu(QString());
   addCommand(mArchivo_, "mNuevo", &frmDatosIni::mNuevo_Click)->setShortcut(QKeySequence::New);
   addCommand(mArchivo_, "mAbrir", &frmDatosIni::mAbrir_Click)->setShortcut(QKeySequence::Open);
+  addCommand(mArchivo_, "mRecuperar", &frmDatosIni::mRecuperar_Click);
+  connect(mArchivo_, &QMenu::aboutToShow, this, &frmDatosIni::updateFileMenu);
   mArchivo_->addSeparator();
   addCommand(mArchivo_, "mGuardar", &frmDatosIni::mGuardar_Click)->setShortcut(QKeySequence::Save);
   addCommand(mArchivo_, "mGuardarComo", &frmDatosIni::mGuardarComo_Click)

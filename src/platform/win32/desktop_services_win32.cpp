@@ -15,10 +15,22 @@ DesktopServices makeDesktopServices(const std::string& /*program_path*/) {
           std::make_unique<AutomationMailClient>()};
 }
 
-std::string userFolder() {
+namespace {
+
+/// A folder that the environment names; empty where it names none.
+std::string folderOf(const wchar_t* variable) {
   wchar_t folder[MAX_PATH] = L"";
-  const DWORD length = GetEnvironmentVariableW(L"APPDATA", folder, MAX_PATH);
-  return fromWide({folder, length < MAX_PATH ? length : 0}) + "\\zel";
+  const DWORD length = GetEnvironmentVariableW(variable, folder, MAX_PATH);
+  return fromWide({folder, length < MAX_PATH ? length : 0});
+}
+
+}  // namespace
+
+std::string userFolder() { return folderOf(L"APPDATA") + "\\zel"; }
+
+std::string stateFolder() {
+  const std::string folder = folderOf(L"LOCALAPPDATA");
+  return folder.empty() ? folder : folder + "\\zel";
 }
 
 ProgramPlace programPlace(const std::string& program_path) {

@@ -1,5 +1,6 @@
 #include "platform/desktop_services.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -24,6 +25,13 @@ std::string userFolder() {
   const QString configurations =
       QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
   return configurations.toStdString() + "/zel";
+}
+
+std::string stateFolder() {
+  // A path that is not from the root counts as none.
+  const QString states = qEnvironmentVariable("XDG_STATE_HOME");
+  if (QDir::isAbsolutePath(states)) return states.toStdString() + "/zel";
+  return (QDir::homePath() + "/.local/state/zel").toStdString();
 }
 
 ProgramPlace programPlace(const std::string& program_path) {

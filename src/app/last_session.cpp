@@ -1,0 +1,86 @@
+// The file holds what the running session has kept as soon as that keeps anything. So what the
+// session before it has left is read before the first write and stays in memory. A session that is
+// read goes into a table of its own first: one that cannot be read costs nothing.
+#include "app/last_session.h"
+
+#include <filesystem>
+#include <new>
+#include <system_error>
+#include <utility>
+
+#include "app/main_commands.h"
+#include "app/messages.h"
+#include "base/code_page.h"
+#include "base/language.h"
+#include "files/whole_file.h"
+
+namespace zel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kSessionFile = "session.zel";
+
+/// What is the user's own state is nobody else's to read.
+bool makeFolder(const std::string& folder) {
+  const fs::path path(std::u8string(folder.begin(), folder.end()));
+  std::error_code error;
+  if (fs::create_directories(path, error)) fs::permissions(path, fs::perms::owner_all, error);
+  return !error;
+}
+
+}  // namespace
+
+LastSession::LastSession(const std::string& folder)
+    : folder_(folder), path_(folder.empty() ? "" : folder + "/" + kSessionFile) {}
+
+bool LastSession::isThere() const {
+  if (path_.empty()) return false;
+  return previous_ ? !previous_->empty() : fileExists(path_);
+}
+
+void LastSession::keep(const MainView& view, const GraphTable& graphs) {
+  if (path_.empty() || graphs.count() < 1) return;
+  auto bytes = documentBytes(view, graphs);
+  if (!bytes || *bytes == kept_) return;
+  takePrevious();
+  if (makeFolder(folder_) && writeWholeFile(path_, *bytes).written) kept_ = std::move(*bytes);
+}
+
+bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& message) {
+  takePrevious();
+  MainView recovered_view = view;
+  GraphTable recovered;
+  DocumentHeader header;
+  if (!loadDocumentText(fromCodePage(*previous_), recovered_view, recovered, header, message)) {
+    previous_ = "";
+    return false;
+  }
+  view = recovered_view;
+  graphs = std::move(recovered);
+  return true;
+}
+
+void LastSession::takePrevious() {
+  if (previous_) return;
+  try {
+    previous_ = readWholeFile(path_).value_or("");
+  } catch (const std::bad_alloc&) {
+    previous_ = "";
+  }
+}
+
+bool recoverLastSession(Program& program, MainView& view) {
+  const MainView before = view;
+  GraphTable graphs;
+  std::string message;
+  if (!program.last_session.recover(view, graphs, message)) {
+    ShowAttention(program.services.boxes, Localize(openFailureMessage(message)));
+    return false;
+  }
+  newDocument(program, before);
+  program.graphs = std::move(graphs);
+  return true;
+}
+
+}  // namespace zel
