@@ -49,7 +49,7 @@ int run(int& argument_count, char** arguments) {
   const zel::DesktopServices desktop = zel::makeDesktopServices(file.filePath().toStdString());
   zel::Program program({widgets.boxes, widgets.files, widgets.colours, widgets.help,
                         *desktop.registry, *desktop.browser, *desktop.mail, widgets.inputs,
-                        widgets.clipboard, widgets.printer});
+                        widgets.clipboard, widgets.printer, *desktop.recent});
   program.place = zel::programPlace(file.filePath().toStdString());
   program.last_session = zel::LastSession(zel::stateFolder());
   program.end_process = endProcess;

@@ -89,8 +89,17 @@ bool openDocumentAt(Program& program, const std::string& path, MainView& view) {
   program.history.record(wholeState(program, view));
   setDocument(program, path);
   std::string message;
-  if (loadDocument(path, view, program.graphs, program.header, message)) return true;
+  if (loadDocument(path, view, program.graphs, program.header, message)) {
+    program.services.recent.add(program.document_path);
+    return true;
+  }
   ShowAttention(program.services.boxes, Localize(openFailureMessage(message)));
+  return false;
+}
+
+bool openRecent(Program& program, const std::string& path, MainView& view) {
+  if (fileExists(path)) return openDocumentAt(program, path, view);
+  ShowAttention(program.services.boxes, Localize(messages::kCannotOpen));
   return false;
 }
 
@@ -104,8 +113,9 @@ void saveDocument(Program& program, const MainView& view) {
     saveDocumentAs(program, view);
     return;
   }
-  ShowAttention(program.services.boxes,
-                Localize(saveDocument(program.document_path, view, program.graphs)));
+  const auto message = saveDocument(program.document_path, view, program.graphs);
+  if (message.empty()) program.services.recent.add(program.document_path);
+  ShowAttention(program.services.boxes, Localize(message));
 }
 
 void saveDocumentAs(Program& program, const MainView& view) {
@@ -114,7 +124,10 @@ void saveDocumentAs(Program& program, const MainView& view) {
   setDocument(program, *path);
   // Whether the file was there before is not looked at here; only a write that failed is told.
   const WriteResult result = writeDocument(*path, view, program.graphs);
-  if (!result.written) ShowAttention(program.services.boxes, saveFailure(result.error));
+  if (result.written)
+    program.services.recent.add(program.document_path);
+  else
+    ShowAttention(program.services.boxes, saveFailure(result.error));
 }
 
 void newDocument(Program& program, const MainView& view) {

@@ -44,6 +44,9 @@ bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller)
 /// what was there before.
 bool openDocumentAt(Program& program, const std::string& path, MainView& view);
 
+/// Opens a document of the recent ones. One that is gone meanwhile is told, and nothing changes.
+bool openRecent(Program& program, const std::string& path, MainView& view);
+
 /// The Open command: asks for the path first. False when nothing was opened.
 bool openDocument(Program& program, MainView& view);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -156,6 +157,18 @@ class Printer {
   virtual std::optional<std::string> makePdf(const PrintJob& job) = 0;
 };
 
+/// The desktop's list of the documents that were used last, which all programs share.
+class RecentDocuments {
+ public:
+  virtual ~RecentDocuments() = default;
+  /// This program's documents on it that are there, the one used last first; at most kMostRecent.
+  virtual std::vector<std::string> list() = 0;
+  /// Puts a document on the list, or up to its beginning. What cannot be done is passed over.
+  virtual void add(const std::string& path) = 0;
+
+  static constexpr std::size_t kMostRecent = 10;
+};
+
 /// All of them; the objects outlive the program.
 struct Services {
   MessageBoxes& boxes;
@@ -168,6 +181,7 @@ struct Services {
   InputBoxes& inputs;
   Clipboard& clipboard;
   Printer& printer;
+  RecentDocuments& recent;
 };
 
 }  // namespace zel

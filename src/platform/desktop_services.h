@@ -13,6 +13,7 @@ struct DesktopServices {
   std::unique_ptr<ClassRegistry> registry;
   std::unique_ptr<Browser> browser;
   std::unique_ptr<MailClient> mail;
+  std::unique_ptr<RecentDocuments> recent;
 };
 
 /// `program_path` is the program's file, for platforms that open a document by a command of their

@@ -122,6 +122,7 @@ opens 'ZEL - smoke.zel' Return
 wait_until declared || fail "the document does not hold the function"
 ends_well ctrl+q
 grep -q '^ecuacion=7' "$XDG_STATE_HOME/zel/session.zel" || fail "the session was not kept"
+grep -q 'smoke\.zel' "$XDG_DATA_HOME/recently-used.xbel" || fail "no recent document"
 grep -q '^EN' config.ini || fail "the language was not kept"
 
 start "$work/smoke.zel"

@@ -225,6 +225,15 @@ class FakePrinter : public Printer {
   }
 };
 
+class FakeRecentDocuments : public RecentDocuments {
+ public:
+  std::vector<std::string> list() override { return listed; }
+  void add(const std::string& path) override { added.push_back(path); }
+
+  std::vector<std::string> listed;
+  std::vector<std::string> added;
+};
+
 /// All of them; declare it before the Program that it serves.
 struct FakeServices {
   FakeMessageBoxes boxes;
@@ -237,9 +246,11 @@ struct FakeServices {
   FakeInputBoxes inputs;
   FakeClipboard clipboard;
   FakePrinter printer;
+  FakeRecentDocuments recent;
 
   Services services() {
-    return {boxes, files, colours, help, registry, browser, mail, inputs, clipboard, printer};
+    return {boxes, files,  colours,   help,    registry, browser,
+            mail,  inputs, clipboard, printer, recent};
   }
 };
 

@@ -15,6 +15,7 @@ class QSlider;
 namespace zel {
 
 class GraphList;
+class RecentMenu;
 
 /// The windows that the main window opens.
 struct MainWindowTargets {
@@ -100,6 +101,7 @@ class frmDatosIni : public Form {
   void setFields(const MainView& view);
   void fillRangeBoxes();
   void openPath(const std::string& path);
+  void openRecentPath(const std::string& path);
   void updateLanguageMenu();
   void updateTitle();
   void updateList();
@@ -132,6 +134,7 @@ class frmDatosIni : public Form {
   QPushButton* CmdGraficarLista_ = nullptr;
   QMenu* mArchivo_ = nullptr;
   QMenu* mEdicion_ = nullptr;
+  RecentMenu* mRecientes_ = nullptr;
   QMenu* mOpciones_ = nullptr;
   QMenu* mLenguaje_ = nullptr;
   QMenu* mAyuda_ = nullptr;

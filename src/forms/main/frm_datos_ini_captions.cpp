@@ -11,6 +11,7 @@
 #include "base/language.h"
 #include "forms/main/frm_datos_ini.h"
 #include "forms/main/graph_list.h"
+#include "forms/main/recent_menu.h"
 
 namespace zel {
 
@@ -31,6 +32,7 @@ void frmDatosIni::applyMenuCaptions() {
   mArchivo_->setTitle(caption("A&rchivo", "File"));
   set("mNuevo", "&Nuevo", "New");
   set("mAbrir", "A&brir", "&Open");
+  mRecientes_->setTitle(caption("Recientes", "Recent"));
   set("mRecuperar", "Recuperar última sesión", "Recover last session");
   set("mGuardar", "G&uardar", "&Save");
   set("mGuardarComo", "Guardar &como...", "Save &As...");

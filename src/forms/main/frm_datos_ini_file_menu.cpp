@@ -1,14 +1,24 @@
-// What the main window's file menu has beside documents: the last session.
+// What the main window's file menu has beside documents: recent ones and the last session.
 #include <QAction>
 
 #include "app/last_session.h"
 #include "forms/main/frm_datos_ini.h"
 #include "forms/main/graph_list.h"
+#include "forms/main/recent_menu.h"
 
 namespace zel {
 
 void frmDatosIni::updateFileMenu() {
   findChild<QAction*>("mRecuperar")->setEnabled(program().last_session.isThere());
+  mRecientes_->showDocuments(program().services.recent.list());
+}
+
+void frmDatosIni::openRecentPath(const std::string& path) {
+  MainView view = fields();
+  openRecent(program(), path, view);
+  setFields(view);
+  updateTitle();
+  updateList();
 }
 
 void frmDatosIni::mRecuperar_Click() {

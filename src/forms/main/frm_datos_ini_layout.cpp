@@ -14,6 +14,7 @@
 
 #include "forms/main/frm_datos_ini.h"
 #include "forms/main/graph_list.h"
+#include "forms/main/recent_menu.h"
 #include "forms/numeric_keys.h"
 #include "forms/text_box.h"
 
@@ -46,6 +47,11 @@ void frmDatosIni::buildMenus() {
   mArchivo_ = menuBar()->addMenu(QString());
   addCommand(mArchivo_, "mNuevo", &frmDatosIni::mNuevo_Click)->setShortcut(QKeySequence::New);
   addCommand(mArchivo_, "mAbrir", &frmDatosIni::mAbrir_Click)->setShortcut(QKeySequence::Open);
+  mRecientes_ = new RecentMenu(this);
+  mRecientes_->setObjectName("mRecientes");
+  mArchivo_->addMenu(mRecientes_);
+  connect(mRecientes_, &RecentMenu::documentChosen, this, &frmDatosIni::openRecentPath,
+          Qt::QueuedConnection);  // which may fill the menu anew
   addCommand(mArchivo_, "mRecuperar", &frmDatosIni::mRecuperar_Click);
   connect(mArchivo_, &QMenu::aboutToShow, this, &frmDatosIni::updateFileMenu);
   mArchivo_->addSeparator();

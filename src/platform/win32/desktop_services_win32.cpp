@@ -7,12 +7,13 @@
 #include "platform/win32/automation_mail_client.h"
 #include "platform/win32/text_encoding.h"
 #include "platform/win32/win32_class_registry.h"
+#include "platform/win32/win32_recent_documents.h"
 
 namespace zel {
 
 DesktopServices makeDesktopServices(const std::string& /*program_path*/) {
   return {std::make_unique<Win32ClassRegistry>(), std::make_unique<AutomationBrowser>(),
-          std::make_unique<AutomationMailClient>()};
+          std::make_unique<AutomationMailClient>(), std::make_unique<Win32RecentDocuments>()};
 }
 
 namespace {

@@ -8,6 +8,7 @@
 #include "platform/xdg/xdg_browser.h"
 #include "platform/xdg/xdg_class_registry.h"
 #include "platform/xdg/xdg_mail_client.h"
+#include "platform/xdg/xdg_recent_documents.h"
 
 namespace zel {
 
@@ -18,7 +19,8 @@ DesktopServices makeDesktopServices(const std::string& program_path) {
   const Launcher publisher =
       isInstalledProgram(program.absolutePath().toStdString()) ? Launcher() : launch;
   return {std::make_unique<XdgClassRegistry>(data.toStdString(), program_path, publisher),
-          std::make_unique<XdgBrowser>(), std::make_unique<XdgMailClient>()};
+          std::make_unique<XdgBrowser>(), std::make_unique<XdgMailClient>(),
+          std::make_unique<XdgRecentDocuments>(data.toStdString())};
 }
 
 std::string userFolder() {

@@ -1,12 +1,17 @@
-// The main window's file menu: the last session.
+// The main window's file menu: recent documents and the last session.
+#include <QDir>
 #include <QMenu>
 #include <QTreeWidget>
+
+#include <gmock/gmock.h>
 
 #include "forms/main/frm_datos_ini.h"
 #include "forms/window_fixture.h"
 
 namespace zel::test {
 namespace {
+
+using ::testing::ElementsAre;
 
 class FileMenu : public WindowTest {
  protected:
@@ -20,6 +25,10 @@ class FileMenu : public WindowTest {
     auto& menu = control<QMenu>(window, "mArchivo");
     emit menu.aboutToShow();
     return menu;
+  }
+  QMenu& recent() {
+    open();
+    return control<QMenu>(window, "mRecientes");
   }
   bool isEnabled(const char* name) {
     open();
@@ -49,11 +58,13 @@ class FileMenu : public WindowTest {
 
 TEST_F(FileMenu, HasItsCaptionsInBothLanguages) {
   const auto captions = [this] {
-    return actionText(window, "mRecuperar");
+    return std::vector<std::string>{actionText(window, "mRecuperar"),
+                                    fromQt(recent().title())};
   };
-  EXPECT_EQ(captions(), "Recuperar última sesión");
+  EXPECT_THAT(captions(),
+              ElementsAre("Recuperar última sesión", "Recientes"));
   choose("mEnglish");
-  EXPECT_EQ(captions(), "Recover last session");
+  EXPECT_THAT(captions(), ElementsAre("Recover last session", "Recent"));
 }
 
 TEST_F(FileMenu, OffersNoSessionWhereThereIsNone) {
@@ -123,6 +134,57 @@ TEST_F(KeptSession, IsNeverTheDocument) {
   addFunction('a', "x");
   choose("mSalir");
   EXPECT_EQ(bytesOf("d.zel"), before);
+}
+
+TEST_F(FileMenu, OffersNoRecentDocumentsWhereThereAreNone) {
+  open();
+  EXPECT_FALSE(recent().menuAction()->isEnabled());
+}
+
+TEST_F(FileMenu, ListsRecentDocumentsByTheirPaths) {
+  services.recent.listed = {"/srv/a & b.zel", fromQt(QDir::homePath()) + "/waves.zel"};
+  EXPECT_TRUE(recent().menuAction()->isEnabled());
+  ASSERT_EQ(recent().actions().size(), 2);
+  EXPECT_EQ(fromQt(recent().actions()[0]->text()), "&1  /srv/a && b.zel");
+  EXPECT_EQ(fromQt(recent().actions()[1]->text()), "&2  ~/waves.zel");
+}
+
+TEST_F(FileMenu, ShowsHostileNamesOnOneShortLine) {
+  services.recent.listed = {"/srv/a\nb\x01" + std::string(5000, 'x') + ".zel"};
+  const QString shown = recent().actions()[0]->text();
+  EXPECT_FALSE(shown.contains('\n'));
+  EXPECT_LT(shown.size(), 200);
+}
+
+TEST_F(FileMenu, OpensARecentDocument) {
+  putDocument("d.zel");
+  services.recent.listed = {utf8Of(std::filesystem::absolute("d.zel"))};
+  recent().actions()[0]->trigger();
+  QTest::qWait(0);
+  EXPECT_EQ(text(window, "txtRanXi"), "-3");
+  EXPECT_EQ(fromQt(window.windowTitle()), "ZEL - d.zel");
+}
+
+TEST_F(FileMenu, TellsThatARecentDocumentIsGoneAndMakesNone) {
+  services.recent.listed = {"gone.zel"};
+  recent().actions()[0]->trigger();
+  QTest::qWait(0);
+  ASSERT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(services.boxes.shown[0].text, "Error: No se pudo abrir el archivo.");
+  EXPECT_FALSE(std::filesystem::exists("gone.zel"));
+  EXPECT_TRUE(program.document_name.empty());
+}
+
+TEST_F(FileMenu, PutsOpenedAndSavedDocumentsOnTheDesktopsList) {
+  putDocument("d.zel");
+  const std::string folder = utf8Of(std::filesystem::current_path()) + "/";
+  services.files.paths = {folder + "d.zel", folder + "new.zel", folder + "missing/x.zel"};
+  choose("mAbrir");
+  choose("mGuardarComo");
+  choose("mGuardar");
+  choose("mGuardarComo");
+  EXPECT_THAT(services.recent.added,
+              ElementsAre(folder + "d.zel", folder + "new.zel", folder + "new.zel"));
 }
 
 }  // namespace

@@ -1,0 +1,66 @@
+#include "platform/xdg/xdg_recent_documents.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <algorithm>
+#include <filesystem>
+#include <new>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "files/whole_file.h"
+#include "platform/xdg/recent_list.h"
+
+namespace zel {
+namespace {
+
+namespace fs = std::filesystem;
+
+RecentKind zelDocuments() { return {"zel", "zel %f", "application/x-zel", ".zel"}; }
+
+/// An empty text where there is no list yet; nothing where it cannot be looked at.
+std::optional<std::string> readList(const std::string& path) {
+  if (!fileExists(path)) return std::string();
+  std::error_code error;
+  if (fs::file_size(path, error) > XdgRecentDocuments::kLongestList || error) return std::nullopt;
+  return readWholeFile(path);
+}
+
+/// What somebody has opened is nobody else's to read.
+void makePrivateFile(const std::string& path) {
+  std::error_code ignored;
+  if (!fileExists(path) && createMissingFile(path))
+    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write, ignored);
+}
+
+}  // namespace
+
+XdgRecentDocuments::XdgRecentDocuments(std::string data_folder)
+    : data_folder_(std::move(data_folder)), path_(data_folder_ + "/recently-used.xbel") {}
+
+std::vector<std::string> XdgRecentDocuments::list() try {
+  std::vector<std::string> documents =
+      documentsOnList(readList(path_).value_or(""), zelDocuments());
+  documents.resize(std::min(documents.size(), kMostLooks));
+  std::error_code ignored;
+  std::erase_if(documents,
+                [&](const std::string& path) { return !fs::is_regular_file(path, ignored); });
+  documents.resize(std::min(documents.size(), kMostRecent));
+  return documents;
+} catch (const std::bad_alloc&) {
+  return {};
+}
+
+void XdgRecentDocuments::add(const std::string& path) try {
+  const auto list = readList(path_);
+  if (!list || !QDir().mkpath(QString::fromStdString(data_folder_))) return;
+  const std::string now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString();
+  const auto longer = withDocument(*list, path, zelDocuments(), now);
+  if (!longer || longer->size() > kLongestList) return;
+  makePrivateFile(path_);
+  writeWholeFile(path_, *longer);
+} catch (const std::bad_alloc&) {
+}
+
+}  // namespace zel
