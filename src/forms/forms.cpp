@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "forms/editor/frm_adm_graficos.h"
+#include "forms/export/frm_exportar.h"
 #include "forms/frm_controles.h"
 #include "forms/main/frm_datos_ini.h"
 #include "forms/plot/frm_grafico.h"
@@ -60,9 +61,10 @@ void Forms::loadForms() {
   datos_ini_->openCommandLine(command_line_);
   grafico_ = std::make_unique<frmGrafico>(program_);
   imprimir_ = std::make_unique<frmImprimir>(program_);
+  exportar_ = std::make_unique<frmExportar>(program_);
   acerca_de_ = std::make_unique<frmAcercaDe>(program_);
   grafico_->setPrintWindow(imprimir_.get());
-  datos_ini_->setTargets({adm_graficos_.get(), grafico_.get(), acerca_de_.get()});
+  datos_ini_->setTargets({adm_graficos_.get(), grafico_.get(), acerca_de_.get(), exportar_.get()});
 }
 
 }  // namespace zel

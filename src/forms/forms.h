@@ -12,6 +12,7 @@ class frmAcercaDe;
 class frmAdmGraficos;
 class frmControles;
 class frmDatosIni;
+class frmExportar;
 class frmGrafico;
 class frmIdioma;
 class frmImprimir;
@@ -46,6 +47,7 @@ class Forms {
   std::unique_ptr<frmDatosIni> datos_ini_;
   std::unique_ptr<frmGrafico> grafico_;
   std::unique_ptr<frmImprimir> imprimir_;
+  std::unique_ptr<frmExportar> exportar_;
   std::unique_ptr<frmAcercaDe> acerca_de_;
 };
 

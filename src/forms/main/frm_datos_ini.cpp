@@ -191,7 +191,7 @@ void frmDatosIni::mAcercaDeZel_Click() {
   targets_.about->showForm();
 }
 
-void frmDatosIni::CmdGraficarLista_Click() {
+PlotFields frmDatosIni::plotFields() const {
   const auto field = [this](const char* box, const char* label) {
     return Field{ReadFieldText(*this, box), ReadFieldText(*this, label)};
   };
@@ -204,7 +204,11 @@ void frmDatosIni::CmdGraficarLista_Click() {
   plot.escala_y = fromQt(txtEscalaY_->text());
   plot.mantener_prop = chkProporcional_->isChecked();
   plot.definicion = static_cast<std::int16_t>(Slider1_->value());
-  if (!preparePlot(program(), plot, this)) return;
+  return plot;
+}
+
+void frmDatosIni::CmdGraficarLista_Click() {
+  if (!preparePlot(program(), plotFields(), this)) return;
   hide();
   targets_.plot->showForm();
 }

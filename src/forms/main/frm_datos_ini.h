@@ -22,6 +22,7 @@ struct MainWindowTargets {
   FormWindow* editor = nullptr;
   FormWindow* plot = nullptr;
   FormWindow* about = nullptr;
+  FormWindow* exporter = nullptr;
 };
 
 /// The main window: range, scale, quality and the list of graphs of the document. Closing it ends
@@ -77,6 +78,7 @@ class frmDatosIni : public Form {
   void mNuevo_Click();
   void mAbrir_Click();
   void mRecuperar_Click();
+  void mExportar_Click();
   void mGuardar_Click();
   void mGuardarComo_Click();
   void mSalir_Click();
@@ -98,6 +100,7 @@ class frmDatosIni : public Form {
   void takeBack(std::string (*change)(Program&, MainView&));
 
   MainView fields() const;
+  PlotFields plotFields() const;
   void setFields(const MainView& view);
   void fillRangeBoxes();
   void openPath(const std::string& path);

@@ -36,6 +36,7 @@ void frmDatosIni::applyMenuCaptions() {
   set("mRecuperar", "Recuperar última sesión", "Recover last session");
   set("mGuardar", "G&uardar", "&Save");
   set("mGuardarComo", "Guardar &como...", "Save &As...");
+  set("mExportar", "Exportar imagen...", "Export picture...");
   set("mSalir", "&Salir", "Exit");
   mEdicion_->setTitle(caption("&Edición", "Edit"));
   set("mDeshacer", "&Deshacer", "&Undo");

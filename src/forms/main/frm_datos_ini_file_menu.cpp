@@ -1,4 +1,4 @@
-// What the main window's file menu has beside documents: recent ones and the last session.
+// What the main window's file menu has beside documents: recent ones, the last session, pictures.
 #include <QAction>
 
 #include "app/last_session.h"
@@ -32,5 +32,10 @@ void frmDatosIni::mRecuperar_Click() {
 }
 
 void frmDatosIni::keepSession() { program().last_session.keep(fields(), program().graphs); }
+
+/// Of what the plot window would show, and refused like that.
+void frmDatosIni::mExportar_Click() {
+  if (preparePlot(program(), plotFields(), this)) targets_.exporter->showForm();
+}
 
 }  // namespace zel

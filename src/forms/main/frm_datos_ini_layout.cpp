@@ -58,6 +58,8 @@ void frmDatosIni::buildMenus() {
   addCommand(mArchivo_, "mGuardar", &frmDatosIni::mGuardar_Click)->setShortcut(QKeySequence::Save);
   addCommand(mArchivo_, "mGuardarComo", &frmDatosIni::mGuardarComo_Click)
       ->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+  addCommand(mArchivo_, "mExportar", &frmDatosIni::mExportar_Click)
+      ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
   mArchivo_->addSeparator();
   addCommand(mArchivo_, "mSalir", &frmDatosIni::mSalir_Click)->setShortcut(QKeySequence::Quit);
 

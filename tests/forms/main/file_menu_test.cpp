@@ -1,4 +1,4 @@
-// The main window's file menu: recent documents and the last session.
+// The main window's file menu: recent documents, the last session, pictures.
 #include <QDir>
 #include <QMenu>
 #include <QTreeWidget>
@@ -12,12 +12,13 @@ namespace zel::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 class FileMenu : public WindowTest {
  protected:
   FileMenu() {
     window.load();
-    window.setTargets({&editor, &plot, &about});
+    window.setTargets({&editor, &plot, &about, &exporter});
   }
 
   /// As it is when it has been opened.
@@ -53,18 +54,19 @@ class FileMenu : public WindowTest {
   NotedWindow editor;
   NotedWindow plot;
   NotedWindow about;
+  NotedWindow exporter;
   frmDatosIni window{program};
 };
 
 TEST_F(FileMenu, HasItsCaptionsInBothLanguages) {
   const auto captions = [this] {
     return std::vector<std::string>{actionText(window, "mRecuperar"),
-                                    fromQt(recent().title())};
+                                    actionText(window, "mExportar"), fromQt(recent().title())};
   };
   EXPECT_THAT(captions(),
-              ElementsAre("Recuperar última sesión", "Recientes"));
+              ElementsAre("Recuperar última sesión", "Exportar imagen...", "Recientes"));
   choose("mEnglish");
-  EXPECT_THAT(captions(), ElementsAre("Recover last session", "Recent"));
+  EXPECT_THAT(captions(), ElementsAre("Recover last session", "Export picture...", "Recent"));
 }
 
 TEST_F(FileMenu, OffersNoSessionWhereThereIsNone) {
@@ -185,6 +187,28 @@ TEST_F(FileMenu, PutsOpenedAndSavedDocumentsOnTheDesktopsList) {
   choose("mGuardarComo");
   EXPECT_THAT(services.recent.added,
               ElementsAre(folder + "d.zel", folder + "new.zel", folder + "new.zel"));
+}
+
+TEST_F(FileMenu, ExportsWhatWouldBePlotted) {
+  addFunction('a', "x");
+  window.showForm();
+  control<QLineEdit>(window, "txtRanXi").setText("-4");
+  choose("mExportar");
+  EXPECT_EQ(exporter.shown, 1);
+  EXPECT_EQ(program.params.Item("xi"), FormValue(-4.0));
+  EXPECT_EQ(callerOf(program.params), &window);
+  EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(FileMenu, ExportsNothingWhereNothingWouldBePlotted) {
+  window.showForm();
+  choose("mExportar");
+  EXPECT_THAT(services.boxes.shown, IsEmpty());
+  addFunction('a', "x");
+  control<QLineEdit>(window, "txtRanXi").setText("40");
+  choose("mExportar");
+  EXPECT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(exporter.shown, 0);
 }
 
 }  // namespace
