@@ -51,8 +51,7 @@ bool isSame(const GraphDef& one, const GraphDef& other) {
 }
 
 /// Takes the last state off one stack, and puts the present one on the other.
-template <class From, class To>
-GraphsState exchange(From& from, To& to, GraphsState now) {
+GraphsState exchange(std::deque<GraphsState>& from, std::deque<GraphsState>& to, GraphsState now) {
   GraphsState then = std::move(from.back());
   from.pop_back();
   to.push_back(std::move(now));

@@ -4,7 +4,6 @@
 #include <deque>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "files/document.h"
 #include "graphs/graph_table.h"
@@ -44,8 +43,8 @@ class GraphHistory {
   GraphsState redo(GraphsState now);
 
  private:
-  std::deque<GraphsState> done_;     // the last change at the end
-  std::vector<GraphsState> undone_;  // what was undone last at the end
+  std::deque<GraphsState> done_;    // the last change at the end
+  std::deque<GraphsState> undone_;  // what was undone last at the end
 };
 
 /// The letters under which the two tables differ in what the user sees or a document holds, from

@@ -56,6 +56,7 @@ class Monkey : public WindowTest {
   /// What the dialogs will answer, and no more memory than one answer.
   void preset() {
     services.files.asked.clear();
+    services.files.proposals.clear();
     services.files.paths.clear();
     if (below(2) == 0) services.files.paths.push_back(below(2) == 0 ? "uno.zel" : "no/dos.zel");
     services.colours.initials.clear();

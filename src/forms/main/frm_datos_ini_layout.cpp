@@ -110,6 +110,7 @@ void frmDatosIni::buildListMenu() {
     auto* action = findChild<QAction*>(QString::fromLatin1(name));
     if (action->shortcut().count() == 1 && action->shortcut()[0].keyboardModifiers() == 0)
       action->setShortcutContext(Qt::WidgetShortcut);
+    action->setAutoRepeat(false);  // a key that is held down deletes or copies once
     listaG_->addAction(action);
   }
   listaG_->setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -128,10 +128,11 @@ void GraphList::selectRows(const QList<QTreeWidgetItem*>& rows) {
 }
 
 void GraphList::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-    emit editRequested();  // and the window's default button hears nothing of it
-  else
+  const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!is_enter)
     QTreeWidget::keyPressEvent(event);
+  else if (!event->isAutoRepeat())
+    emit editRequested();  // and the window's default button hears nothing of it
 }
 
 }  // namespace zel

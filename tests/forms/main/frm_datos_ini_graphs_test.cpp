@@ -124,6 +124,17 @@ TEST_F(ListOfGraphs, IgnoresEnterAndDoubleClickWhileSeveralAreSelected) {
   EXPECT_EQ(plot.shown, 0);
 }
 
+TEST_F(ListOfGraphs, ActsOnceOnAKeyThatIsHeldDown) {
+  add("abc");
+  activateList();
+  list().selectLetters("a");
+  QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QApplication::sendEvent(&list(), &again);
+  EXPECT_EQ(editor.shown, 0);
+  EXPECT_EQ(plot.shown, 0);
+  for (const QAction* action : list().actions()) EXPECT_FALSE(action->autoRepeat());
+}
+
 TEST_F(ListOfGraphs, HasAContextMenu) {
   EXPECT_EQ(list().contextMenuPolicy(), Qt::ActionsContextMenu);
   std::vector<std::string> names;
