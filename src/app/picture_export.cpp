@@ -57,7 +57,8 @@ ExportedSize exportedSize(const ExportChoice& choice) {
 bool exportPicture(const Program& program, const OpenedView& opened, const ExportChoice& choice,
                    const DrawingWatcher& goes_on) {
   const Services& services = program.services;
-  const auto path = services.files.askSave(filterFor(choice.ending));
+  const auto path =
+      services.files.askSave(filterFor(choice.ending), besideDocument(program, choice.ending));
   if (!path) return false;
   const std::string format = formatOf(*path, choice.ending);
   const PictureFile file =

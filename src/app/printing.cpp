@@ -19,8 +19,9 @@ void tellOutcome(MessageBoxes& boxes, PrintOutcome outcome) {
 }
 
 /// A page that cannot be made is no printer's; a file that cannot be written is told as such.
-PrintOutcome printToFile(const Services& services, const PrintJob& job) {
-  const auto path = services.files.askSave(kPdfFilter);
+PrintOutcome printToFile(const Services& services, const PrintJob& job,
+                         const std::string& proposal) {
+  const auto path = services.files.askSave(kPdfFilter, proposal);
   if (!path) return PrintOutcome::cancelled;
   const auto bytes = services.printer.makePdf(job);
   if (!bytes) {
@@ -49,14 +50,15 @@ void tellNoPreview(MessageBoxes& boxes) {
 }
 
 PrintOutcome printAt(const Services& services, PrintTarget target, const PrintPreview& preview,
-                     const DrawingList& drawing, const Bitmap& bitmap) {
+                     const DrawingList& drawing, const Bitmap& bitmap,
+                     const std::string& proposal) {
   const PrintJob job = {orientationFor(preview.picture()),
                         preview.position(),
                         preview.picture(),
                         drawing,
                         bitmap,
                         preview.scale()};
-  if (target == PrintTarget::pdf) return printToFile(services, job);
+  if (target == PrintTarget::pdf) return printToFile(services, job, proposal);
   const PrintOutcome outcome = services.printer.print(job);
   tellOutcome(services.boxes, outcome);
   return outcome;

@@ -21,8 +21,10 @@ std::optional<PrintPreview> buildPreview(Printer& printer, PrintTarget target, P
 void tellNoPreview(MessageBoxes& boxes);
 
 /// Prints the picture where the preview shows it, and tells the user what went wrong. A page that
-/// comes out needs no message, and neither does a user who cancels.
+/// comes out needs no message, and neither does a user who cancels. For a file its path is asked,
+/// with one that is proposed.
 PrintOutcome printAt(const Services& services, PrintTarget target, const PrintPreview& preview,
-                     const DrawingList& drawing, const Bitmap& bitmap);
+                     const DrawingList& drawing, const Bitmap& bitmap,
+                     const std::string& proposal = {});
 
 }  // namespace zel

@@ -59,6 +59,14 @@ void tellUnstableMemory(Program& program) {
                                                  "recomienda reiniciar."));
 }
 
+std::string besideDocument(const Program& program, std::string_view ending) {
+  std::string path = program.document_path;
+  if (path.empty()) return path;
+  const std::size_t dot = path.find_last_of("./\\");
+  if (dot != std::string::npos && path[dot] == '.') path.resize(dot);
+  return path.append(".").append(ending);
+}
+
 void chooseHelpFile(Program& program) { program.help_file = HelpFileName(); }
 
 void showApplicationHelp(Program& program) {

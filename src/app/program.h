@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "app/desktop.h"
 #include "app/form_params.h"
@@ -62,6 +63,10 @@ void tellFailedStart(Program& program);
 
 /// That something was given up for want of memory, and the program had better be started again.
 void tellUnstableMemory(Program& program);
+
+/// The document's path with another ending, to be proposed for a file that is made from it; empty
+/// while there is no document.
+std::string besideDocument(const Program& program, std::string_view ending);
 
 /// Sets the application's help file by the current language.
 void chooseHelpFile(Program& program);

@@ -46,6 +46,16 @@ TEST_F(Export, WritesTheFormatThatIsChosen) {
   EXPECT_THAT(services.boxes.shown, IsEmpty());
 }
 
+TEST_F(Export, ProposesTheDocumentsNameInItsFolder) {
+  exportTo(folder / "one.png");
+  program.document_path = "/some.where/waves.zel";
+  exportTo(folder / "two.png");
+  program.document_path = "/some.where/waves";
+  exportTo(folder / "three.png");
+  EXPECT_THAT(services.files.proposals,
+              ElementsAre("", "/some.where/waves.png", "/some.where/waves.png"));
+}
+
 TEST_F(Export, FollowsTheEndingOfTheFileWhereItIsAPictures) {
   choice.ending = "png";
   EXPECT_TRUE(exportTo(folder / "picture.SVG"));

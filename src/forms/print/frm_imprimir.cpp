@@ -197,8 +197,8 @@ void frmImprimir::chkAjustar_Click() {
 
 void frmImprimir::cmdImprimir_Click() {
   const PrintPreview preview = *page_->preview();
-  const PrintOutcome outcome =
-      printAt(program().services, target(), preview, drawing_, toBitmap(image_));
+  const PrintOutcome outcome = printAt(program().services, target(), preview, drawing_,
+                                       toBitmap(image_), besideDocument(program(), "pdf"));
   if (outcome != PrintOutcome::printed || target() == PrintTarget::pdf) return;
   // The user may have chosen another printer, with other paper.
   listPrinters();
