@@ -71,15 +71,16 @@ void LastSession::takePrevious() {
 }
 
 bool recoverLastSession(Program& program, MainView& view) {
-  const MainView before = view;
+  MainView recovered = view;
   GraphTable graphs;
   std::string message;
-  if (!program.last_session.recover(view, graphs, message)) {
+  if (!program.last_session.recover(recovered, graphs, message)) {
     ShowAttention(program.services.boxes, Localize(openFailureMessage(message)));
     return false;
   }
-  newDocument(program, before);
+  newDocument(program, view);
   program.graphs = std::move(graphs);
+  view = recovered;
   return true;
 }
 

@@ -72,10 +72,12 @@ bool exportPicture(const Program& program, const OpenedView& opened, const Expor
 
 RedrawOutcome previewPicture(const Program& program, const OpenedView& opened,
                              const ExportChoice& choice, Picture& picture,
-                             const DrawingWatcher& goes_on) {
+                             const DrawingWatcher& goes_on) try {
   Engine engine = engineFor(program.graphs);
   return drawOpenedView(opened, PictureSize::ofPixels(choice.width, choice.height), engine,
                         program.graphs, picture, goes_on);
+} catch (const std::bad_alloc&) {
+  return RedrawOutcome::failed;
 }
 
 }  // namespace zel

@@ -18,12 +18,14 @@ QSize PicturePreview::room() const {
 void PicturePreview::showPicture(const QImage& image) {
   image_ = image;
   text_.clear();
+  setAccessibleDescription({});
   update();
 }
 
 void PicturePreview::showText(const QString& text) {
   image_ = QImage();
   text_ = text;
+  setAccessibleDescription(text);
   update();
 }
 

@@ -49,7 +49,7 @@ class ExportWindow : public WindowTest {
     const QImage shown = preview().grab().toImage();
     for (int y = 0; y < shown.height(); ++y)
       for (int x = 0; x < shown.width(); ++x)
-        if (shown.pixelColor(x, y) == QColor(Qt::red)) return true;
+        if (shown.pixelColor(x, y).red() - shown.pixelColor(x, y).green() > 80) return true;
     return false;
   }
 
@@ -82,7 +82,9 @@ TEST_F(ExportWindow, SaysInThePreviewWhyThereIsNone) {
   ViewSettings view;
   view.xi = view.xf = 1;
   open(view);
-  QTest::qWait(400);
+  const auto said = [this] { return fromQt(preview().accessibleDescription()); };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !said().empty(); }, kPatience));
+  EXPECT_EQ(said(), redrawMessage(RedrawOutcome::too_close));
   EXPECT_FALSE(showsCurve());
   EXPECT_THAT(services.boxes.shown, IsEmpty());
 }
