@@ -109,13 +109,13 @@ bool areOutOfOrder(const Field& low, const Field& high) {
 }
 
 FieldHint greaterHint(const Field& low, const Field& high, Must must) {
-  const FieldHint alone = numberHint(high, must);
+  FieldHint alone = numberHint(high, must);
   if (alone.isFault() || !areOutOfOrder(low, high)) return alone;
   return refusal(inLanguage("Debe ser mayor que %1", "Must be greater than %1", low.text));
 }
 
 FieldHint lesserHint(const Field& low, const Field& high) {
-  const FieldHint alone = numberHint(low, Must::not_be_negative);
+  FieldHint alone = numberHint(low, Must::not_be_negative);
   if (alone.isFault() || !areOutOfOrder(low, high)) return alone;
   return refusal(inLanguage("Debe ser menor que %1", "Must be less than %1", high.text));
 }
