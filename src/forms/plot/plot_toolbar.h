@@ -18,7 +18,7 @@ class PlotToolbar : public QToolBar {
   Q_OBJECT
 
  public:
-  static constexpr int kStepInterval = 16;  // milliseconds between the steps of a held button
+  static constexpr int kStepInterval = 15;  // milliseconds between the steps of a held button
 
   PlotToolbar();
 
