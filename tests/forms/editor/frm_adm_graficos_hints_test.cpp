@@ -206,7 +206,7 @@ TEST_F(EditorHints, KnowTheRangeFromTheMainWindowThatOpensTheEditor) {
   EXPECT_EQ(labelText("LblVista"), "x: -7 … 10\ny: -10 … 10");
   editor.close();
   control<QLineEdit>(main_window, "txtRanXi").setText("-8");
-  control<GraphList>(main_window, "listaG").selectLetter('a');
+  control<GraphList>(main_window, "listaG").selectLetters("a");
   control<QPushButton>(main_window, "CmdModificar").click();
   EXPECT_EQ(labelText("LblVista"), "x: -8 … 10\ny: -10 … 10");
 }
