@@ -71,7 +71,7 @@ def measure(row, programs):
         return lines.start(*startup.first_window_times(programs))
     measured = processes.in_process(programs, row, threads=1)
     if row == "sweep":
-        return lines.sweep(measured, processes.in_process(programs, row))
+        return lines.sweep(measured, processes.in_process(programs, "sweep-on-all"))
     if row == "redraw":
         return lines.redraw(measured, processes.in_process(programs, row, threads=1, scale=2))
     if row == "reference":

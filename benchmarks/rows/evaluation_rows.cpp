@@ -24,9 +24,11 @@ struct Contest {
   std::string_view row;
   int rounds;
   double tolerance;  // of the values beside, of each value or of 1
+  Clock clock = Clock::thread;
 };
 
 constexpr Contest kSweep{"sweep", 201, 1e-9};
+constexpr Contest kSweepOnAll{"sweep-on-all", 201, 1e-9, Clock::wall};
 constexpr Contest kSingle{"single", 201, 1e-9};
 constexpr Contest kReference{"reference", 41, 0};
 constexpr Contest kSingleReference{"single-reference", 41, 0};
@@ -64,7 +66,7 @@ void hold(const Contest& contest, std::string_view formula, const Samples& sampl
   measured();
   beside();
   expectAgreement(formula, samples, contest.tolerance);
-  const SideBySide seconds = measureSideBySide(contest.rounds, measured, beside);
+  const SideBySide seconds = measureSideBySide(contest.rounds, measured, beside, contest.clock);
   print(contest.row, formula, seconds.measured / kSamples, seconds.beside / kSamples);
 }
 
@@ -78,19 +80,22 @@ void evaluateSingly(Evaluator& evaluator, const std::string& code, const std::ve
       values[i] = std::numeric_limits<double>::quiet_NaN();
 }
 
-}  // namespace
-
-void sweepRow() {
+void holdSweeps(const Contest& contest) {
   Samples samples;
   for (const std::string_view formula : kFormulas) {
     const std::string code = NormaliseFormula(formula);
     Engine engine;
     PlainDoubles plain(formula, samples.xs.data());
     hold(
-        kSweep, formula, samples, [&] { engine.EvaluateSweep(code, samples.xs, samples.values); },
+        contest, formula, samples, [&] { engine.EvaluateSweep(code, samples.xs, samples.values); },
         [&] { plain.evaluateBulk(samples.others); });
   }
 }
+
+}  // namespace
+
+void sweepRow() { holdSweeps(kSweep); }
+void sweepOnAllRow() { holdSweeps(kSweepOnAll); }
 
 void singleRow() {
   Samples samples;

@@ -12,8 +12,9 @@ namespace {
 
 using Row = std::pair<std::string_view, void (*)()>;
 
-constexpr std::array<Row, 10> kRows = {{
+constexpr std::array<Row, 11> kRows = {{
     {"sweep", zel::bench::sweepRow},
+    {"sweep-on-all", zel::bench::sweepOnAllRow},
     {"single", zel::bench::singleRow},
     {"reference", zel::bench::referenceRow},
     {"single-reference", zel::bench::singleReferenceRow},

@@ -27,7 +27,9 @@ class OffscreenPlot : private PlotListener {
  private:
   void pictureDrawn() override { picture_.showDrawn(); }
   void toolsChanged() override {}
-  void showMessage(const std::string& message) override { refusal_ = message; }
+  void showDrawingError(const std::string& message, std::optional<char>) override {
+    refusal_ = message;
+  }
   void showInformation(const std::string&) override {}
   std::optional<std::string> askValue(const std::string&, const std::string&) override {
     return std::nullopt;

@@ -8,6 +8,8 @@
 namespace zel::bench {
 
 void sweepRow();
+/// With all the threads that muParser takes.
+void sweepOnAllRow();
 void singleRow();
 void referenceRow();
 void singleReferenceRow();
