@@ -71,7 +71,7 @@ ZEL_ALWAYS_INLINE Candidate arcTangentCandidate(double x) {
   constexpr std::uint64_t kSign = std::uint64_t{1} << 63;
   const double magnitude = std::fabs(x);
   const DoubleDouble arc = arcTangentOf<Arithmetic>(magnitude);
-  const Candidate candidate = rounded(arc.high, arc.low, arc.high * kArcTangentError);
+  const Candidate candidate = rounded<Arithmetic>(arc.high, arc.low, arc.high, kArcTangentError);
   const std::uint64_t sign = std::bit_cast<std::uint64_t>(x) & kSign;
   return Candidate{withSign(candidate.value, sign), withSign(candidate.other, sign)}.sureOnlyIf(
       magnitude <= kLargestTangent);

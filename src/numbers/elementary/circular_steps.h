@@ -99,9 +99,9 @@ ZEL_ALWAYS_INLINE ReducedAngle reduceAngle(double x) {
   constexpr double kFirst = 0x1.921fb544p+1 / 256;
   constexpr double kSecond = 0x1.0b4611a6p-33 / 256;
   constexpr double kThird = 0x1.3198a2e037073p-68 / 256;
-  const double shifted = x * (256 / kPiInTwo.high) + kWholeNumbers;
+  const double shifted = multiplyAdd<Arithmetic>(x, 256 / kPiInTwo.high, kWholeNumbers);
   const double steps = shifted - kWholeNumbers;
-  const DoubleDouble start = exactSum(x - steps * kFirst, -steps * kSecond);
+  const DoubleDouble start = exactSum(multiplyAdd<Arithmetic>(-steps, kFirst, x), -steps * kSecond);
   return {std::bit_cast<std::uint64_t>(shifted) % kStepsOfCircle,
           exactSum(start.high, multiplyAdd<Arithmetic>(-steps, kThird, start.low)),
           std::fabs(steps) * 0x1p-124};

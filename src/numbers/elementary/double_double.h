@@ -97,6 +97,13 @@ ZEL_ALWAYS_INLINE Candidate rounded(double high, double low, double error) {
   return {high + (low - error), high + (low + error)};
 }
 
+/// The same for an error of `share` times a magnitude.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate rounded(double high, double low, double magnitude, double share) {
+  return {high + multiplyAdd<Arithmetic>(-magnitude, share, low),
+          high + multiplyAdd<Arithmetic>(magnitude, share, low)};
+}
+
 /// The sign, the exponent and twenty more bits of a double.
 inline constexpr std::uint64_t kUpperBits = 0xFFFFFFFF00000000;
 

@@ -51,12 +51,13 @@ ZEL_ALWAYS_INLINE ScaledExponential exponentialOf(double high, double low) {
   constexpr double kStepsPerUnit = kPowersOfTwo / kLn2.high;
   constexpr double kStepHigh = 0x1.62e42fefp-1 / kPowersOfTwo;  // times a number of steps: exact
   constexpr double kStepLow = 0x1.473de6af278edp-34 / kPowersOfTwo;
-  const double shifted = high * kStepsPerUnit + kWholeNumbers;
+  const double shifted = multiplyAdd<Arithmetic>(high, kStepsPerUnit, kWholeNumbers);
   const double steps = shifted - kWholeNumbers;
   const auto bits = std::bit_cast<std::uint64_t>(shifted);
   const std::size_t i = 2 * (bits % kPowersOfTwo);
   // Where the second is the larger one it is so small that what is lost does not matter.
-  const DoubleDouble rest = sumOfOrdered(high - steps * kStepHigh, low - steps * kStepLow);
+  const DoubleDouble rest = sumOfOrdered(multiplyAdd<Arithmetic>(-steps, kStepHigh, high),
+                                         multiplyAdd<Arithmetic>(-steps, kStepLow, low));
   const double r = rest.high;
   const double beyond_r = multiplyAdd<Arithmetic>(
       r * r, polynomial<Arithmetic>(r, 1.0 / 2, 1.0 / 6, 1.0 / 24, 1.0 / 120, 1.0 / 720),
@@ -72,7 +73,8 @@ ZEL_ALWAYS_INLINE ScaledExponential exponentialOf(double high, double low) {
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate exponentialCandidate(double x) {
   const ScaledExponential result = exponentialOf<Arithmetic>(x, 0);
-  const Candidate unscaled = rounded(result.high, result.low, result.high * kExponentialError);
+  const Candidate unscaled =
+      rounded<Arithmetic>(result.high, result.low, result.high, kExponentialError);
   return Candidate{unscaled.value * result.scale, unscaled.other * result.scale}.sureOnlyIf(
       std::fabs(x) <= kLargestExponent);
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <bit>
 #include <cfloat>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
@@ -68,26 +69,29 @@ struct ReducedLogarithm {
   DoubleDouble rest;
 };
 
-/// A whole number below 2^51, by way of its bits.
-ZEL_ALWAYS_INLINE double doubleOf(std::uint64_t whole) {
-  return std::bit_cast<double>(whole + std::bit_cast<std::uint64_t>(kWholeNumbers)) - kWholeNumbers;
+/// A whole number as the last bits of `start`, a power of two: so many of its last places beyond
+/// it. Taking `start` away again, and what else is to be taken, is exact.
+ZEL_ALWAYS_INLINE double fromLastBits(std::uint64_t whole, double start, double taken) {
+  return std::bit_cast<double>(std::bit_cast<std::uint64_t>(start) | whole) - taken;
 }
 
 /// For a positive normal number.
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE ReducedLogarithm reduceLogarithm(double x) {
   constexpr std::uint64_t kOne = 0x3FF0000000000000;
+  constexpr std::uint64_t kExponent = 0xFFF0000000000000;
+  constexpr double kLastIsOne = 0x1p52;
+  constexpr double kLastIsGrid = 0x1p20;  // 2^-32
   const auto bits = std::bit_cast<std::uint64_t>(x);
   const std::uint64_t to_nearest = bits + (std::uint64_t{1} << 44);
   const std::size_t j = (to_nearest >> 45) % kLogarithms;
-  const std::uint64_t exponent = to_nearest >> 52;
-  const double m = std::bit_cast<double>(bits - (exponent << 52) + kOne);
-  const double k = doubleOf(exponent) - 1023;
+  const double m = std::bit_cast<double>(bits - (to_nearest & kExponent) + kOne);
+  const double k = fromLastBits(to_nearest >> 52, kLastIsOne, kLastIsOne + 1023);
   const std::uint64_t word = kLogarithmTable.word[j];
   const double inverse = std::bit_cast<double>(word & kUpperBits);
-  const double on_grid = doubleOf(word & ~kUpperBits);
+  const double on_grid = fromLastBits(word & ~kUpperBits, kLastIsGrid, kLastIsGrid);
   const DoubleDouble product = exactProduct<Arithmetic>(m, inverse);
-  return {multiplyAdd<Arithmetic>(k, kLn2OnGrid, on_grid * 0x1p-32),
+  return {multiplyAdd<Arithmetic>(k, kLn2OnGrid, on_grid),
           multiplyAdd<Arithmetic>(k, kLn2BeyondGrid, kLogarithmTable.beyond_grid[j]),
           sumOfOrdered(product.high - 1, product.low)};
 }
@@ -101,15 +105,16 @@ template <class Arithmetic>
 ZEL_ALWAYS_INLINE DoubleDouble logarithmOf(double x) {
   const ReducedLogarithm reduced = reduceLogarithm<Arithmetic>(x);
   const double r = reduced.rest.high;
-  const DoubleDouble square = exactProduct<Arithmetic>(r, r);
-  const double beyond_square =
-      polynomial<Arithmetic>(r, 1.0 / 3, -1.0 / 4, 1.0 / 5, -1.0 / 6, 1.0 / 7, -1.0 / 8, 1.0 / 9);
+  const DoubleDouble half = exactProduct<Arithmetic>(0.5 * r, r);  // of the square
+  // Of 1/3 - r/4 + ... + r^6/9, twice; by powers of the half.
+  const double beyond_square = polynomialInPairs<Arithmetic>(
+      r, half.high, 2.0 / 3, -2.0 / 4, 4.0 / 5, -4.0 / 6, 8.0 / 7, -8.0 / 8, 16.0 / 9);
   const DoubleDouble first = sumOfOrdered(reduced.on_grid, r);
-  const DoubleDouble second = sumOfOrdered(first.high, -0.5 * square.high);
-  const double small = reduced.beyond_grid + (first.low + second.low) +
-                       multiplyAdd<Arithmetic>(-reduced.rest.low, r, reduced.rest.low) -
-                       0.5 * square.low;
-  return {second.high, multiplyAdd<Arithmetic>(r * square.high, beyond_square, small)};
+  const DoubleDouble second = sumOfOrdered(first.high, -half.high);
+  const double small = ((reduced.beyond_grid - half.low) +
+                        multiplyAdd<Arithmetic>(-reduced.rest.low, r, reduced.rest.low)) +
+                       (first.low + second.low);
+  return {second.high, multiplyAdd<Arithmetic>(r * half.high, beyond_square, small)};
 }
 
 /// The same with the third power of r in two doubles.
@@ -119,29 +124,36 @@ ZEL_ALWAYS_INLINE DoubleDouble fineLogarithmOf(double x) {
   const ReducedLogarithm reduced = reduceLogarithm<Arithmetic>(x);
   const double r = reduced.rest.high;
   const double r_low = reduced.rest.low;
-  const DoubleDouble square = exactProduct<Arithmetic>(r, r);
-  const double beyond_cube = r * polynomial<Arithmetic>(r, -1.0 / 4, 1.0 / 5, -1.0 / 6, 1.0 / 7,
-                                                        -1.0 / 8, 1.0 / 9, -1.0 / 10);
-  const DoubleDouble factor = sumOfOrdered(1.0 / 3, beyond_cube);
-  const DoubleDouble cube = exactProduct<Arithmetic>(r, square.high);
-  const DoubleDouble third = exactProduct<Arithmetic>(cube.high, factor.high);
-  const double third_low = third.low + cube.high * (factor.low + kThirdLow) +
-                           multiplyAdd<Arithmetic>(r, square.low, cube.low) * factor.high;
+  const DoubleDouble half = exactProduct<Arithmetic>(0.5 * r, r);  // of the square
+  const DoubleDouble cube = exactProduct<Arithmetic>(r, half.high);
+  const DoubleDouble third = exactProduct<Arithmetic>(cube.high, 2.0 / 3);
+  const double cube_low = multiplyAdd<Arithmetic>(r, half.low, cube.low);
+  // Of -1/4 + r/5 - ... - r^6/10, four times; by powers of the half.
+  const double beyond_cube = polynomialInPairs<Arithmetic>(
+      r, half.high, -4.0 / 4, 4.0 / 5, -8.0 / 6, 8.0 / 7, -16.0 / 8, 16.0 / 9, -32.0 / 10);
+  const double third_low = multiplyAdd<Arithmetic>(
+      cube_low, 2.0 / 3, multiplyAdd<Arithmetic>(cube.high, 2 * kThirdLow, third.low));
   const DoubleDouble first = sumOfOrdered(reduced.on_grid, r);
-  const DoubleDouble second = sumOfOrdered(first.high, -0.5 * square.high);
+  const DoubleDouble second = sumOfOrdered(first.high, -half.high);
   const DoubleDouble last = sumOfOrdered(second.high, third.high);
-  const double small = reduced.beyond_grid + (first.low + second.low) +
-                       multiplyAdd<Arithmetic>(r_low, square.high - r, r_low) - 0.5 * square.low +
-                       third_low;
-  return sumOfOrdered(last.high, last.low + small);
+  const double small =
+      ((reduced.beyond_grid - half.low) + multiplyAdd<Arithmetic>(-r_low, r * (1 - r), r_low)) +
+      (first.low + second.low);
+  return sumOfOrdered(last.high, multiplyAdd<Arithmetic>(half.high * half.high, beyond_cube,
+                                                         (small + third_low) + last.low));
 }
 
-ZEL_ALWAYS_INLINE bool isPositiveNormal(double x) { return (x >= DBL_MIN) & (x <= DBL_MAX); }
+/// As one comparison of whole numbers.
+ZEL_ALWAYS_INLINE bool isPositiveNormal(double x) {
+  constexpr auto kSmallest = std::bit_cast<std::uint64_t>(DBL_MIN);
+  constexpr auto kBehindLargest = std::bit_cast<std::uint64_t>(HUGE_VAL);
+  return std::bit_cast<std::uint64_t>(x) - kSmallest < kBehindLargest - kSmallest;
+}
 
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate naturalLogarithmCandidate(double x) {
   const DoubleDouble result = logarithmOf<Arithmetic>(x);
-  return rounded(result.high, result.low, std::fabs(result.high) * kLogarithmError)
+  return rounded<Arithmetic>(result.high, result.low, std::fabs(result.high), kLogarithmError)
       .sureOnlyIf(isPositiveNormal(x));
 }
 
@@ -152,7 +164,7 @@ ZEL_ALWAYS_INLINE Candidate decimalLogarithmCandidate(double x) {
   const double low = multiplyAdd<Arithmetic>(
       natural.low, kDecimalPerNatural.high,
       multiplyAdd<Arithmetic>(natural.high, kDecimalPerNatural.low, product.low));
-  return rounded(product.high, low, std::fabs(product.high) * (1.25 * kLogarithmError))
+  return rounded<Arithmetic>(product.high, low, std::fabs(product.high), 1.25 * kLogarithmError)
       .sureOnlyIf(isPositiveNormal(x));
 }
 

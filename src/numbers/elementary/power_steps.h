@@ -10,25 +10,23 @@ namespace zel {
 
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate powerCandidate(double x, double y) {
-  constexpr std::uint64_t kSign = std::uint64_t{1} << 63;
   const double base = std::fabs(x);
   const DoubleDouble logarithm = fineLogarithmOf<Arithmetic>(base);
   const DoubleDouble product = exactProduct<Arithmetic>(y, logarithm.high);
   const double low = multiplyAdd<Arithmetic>(y, logarithm.low, product.low);
   const ScaledExponential result = exponentialOf<Arithmetic>(product.high, low);
   const double magnitude = std::fabs(product.high);
-  const Candidate candidate = rounded(
-      result.high, result.low,
-      result.high * multiplyAdd<Arithmetic>(magnitude, kFineLogarithmError, kExponentialError));
+  const Candidate candidate = rounded<Arithmetic>(
+      result.high, result.low, result.high,
+      multiplyAdd<Arithmetic>(magnitude, kFineLogarithmError, kExponentialError));
   const double shifted = y + kWholeNumbers;
   const bool is_whole = (shifted - kWholeNumbers == y) & (std::fabs(y) < 0x1p51);
   const auto shifted_bits = std::bit_cast<std::uint64_t>(shifted);
-  const std::uint64_t sign = std::bit_cast<std::uint64_t>(x) & (shifted_bits << 63) & kSign;
+  const std::uint64_t sign = std::bit_cast<std::uint64_t>(x) & (shifted_bits << 63);
+  const double scale = withSign(result.scale, sign);
   const bool is_in_range =
       (magnitude <= kLargestExponent) & isPositiveNormal(base) & ((x > 0) | is_whole);
-  return Candidate{withSign(candidate.value * result.scale, sign),
-                   withSign(candidate.other * result.scale, sign)}
-      .sureOnlyIf(is_in_range);
+  return Candidate{candidate.value * scale, candidate.other * scale}.sureOnlyIf(is_in_range);
 }
 
 /// x^3. The square of a number needs no steps: x * x is the nearest double already.
@@ -38,7 +36,7 @@ ZEL_ALWAYS_INLINE Candidate cubeCandidate(double x) {
   const DoubleDouble product = exactProduct<Arithmetic>(square.high, x);
   const double low = multiplyAdd<Arithmetic>(square.low, x, product.low);
   const double magnitude = std::fabs(x);
-  return rounded(product.high, low, std::fabs(product.high) * 0x1p-100)
+  return rounded<Arithmetic>(product.high, low, std::fabs(product.high), 0x1p-100)
       .sureOnlyIf((magnitude >= 0x1p-300) & (magnitude <= 0x1p300));
 }
 
