@@ -2,7 +2,7 @@
 # One GoogleTest program of tests/FOLDER, each of its tests known to CTest by its own name.
 function(zel_tests folder)
   zel_glob(sources "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
-  list(FILTER sources EXCLUDE REGEX "/platform/win32/") # a program of its own
+  list(FILTER sources EXCLUDE REGEX "/(platform/win32|numbers/same_bits)/") # programs of their own
   if(WIN32)
     list(FILTER sources EXCLUDE REGEX "/platform/xdg/")
   endif()

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 
 /// Powers of ten for the rounding to 15 digits, made by the compiler.
 namespace zel {
@@ -57,7 +58,10 @@ struct Decade {
   double drift = 0;       // what is missing from it, times the scale
 };
 
-/// The decades that the arithmetic of the rounding is safe for.
+/// The decades of normal numbers.
+inline constexpr int kFirstDecade = -308;
+inline constexpr int kLastDecade = 308;
+/// Those that the arithmetic of the rounding is safe for. The others are no numbers in the table.
 inline constexpr int kLowestDecade = -280;
 inline constexpr int kHighestDecade = 290;
 /// Those whose scale is exact and whose rounding needs no check when it is done with a fused
@@ -75,33 +79,46 @@ constexpr DoubleDouble powerOfTen(int exponent) {
   return exponent < 0 ? reciprocal(power) : power;
 }
 
-inline constexpr auto kDecades = [] {
-  std::array<Decade, kHighestDecade - kLowestDecade + 1> decades;
-  for (int exponent = kLowestDecade; exponent <= kHighestDecade; ++exponent) {
-    const DoubleDouble scale = powerOfTen(14 - exponent);
-    const DoubleDouble inverse = powerOfTen(exponent - 14);
-    decades[static_cast<std::size_t>(exponent - kLowestDecade)] = {powerOfTen(exponent).high,
-                                                                   powerOfTen(exponent + 1).high,
-                                                                   scale.high,
-                                                                   scale.low,
-                                                                   inverse.high,
-                                                                   inverse.low * scale.high};
+constexpr bool isSafeDecade(int exponent) {
+  return exponent >= kLowestDecade && exponent <= kHighestDecade;
+}
+
+constexpr Decade decadeOfExponent(int exponent) {
+  if (!isSafeDecade(exponent)) {
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    return {kNone, kNone, kNone, kNone, kNone, kNone};
   }
+  const DoubleDouble scale = powerOfTen(14 - exponent);
+  const DoubleDouble inverse = powerOfTen(exponent - 14);
+  return {
+      powerOfTen(exponent).high, powerOfTen(exponent + 1).high, scale.high, scale.low, inverse.high,
+      inverse.low * scale.high};
+}
+
+inline constexpr auto kDecades = [] {
+  std::array<Decade, kLastDecade - kFirstDecade + 1> decades;
+  for (int exponent = kFirstDecade; exponent <= kLastDecade; ++exponent)
+    decades[static_cast<std::size_t>(exponent - kFirstDecade)] = decadeOfExponent(exponent);
   return decades;
 }();
 
 constexpr const Decade& decade(int exponent) {
-  return kDecades[static_cast<std::size_t>(exponent - kLowestDecade)];
+  return kDecades[static_cast<std::size_t>(exponent - kFirstDecade)];
 }
 
-/// The decade of a magnitude, as an exponent; one that is out of range where the magnitude is 0,
-/// no finite number, or out of the range of the table.
+/// Where in kDecades a magnitude belongs. 0, subnormal numbers and what is no finite number belong
+/// to decades that are not safe.
+inline std::size_t indexOfDecade(double magnitude) {
+  constexpr std::uint64_t kLogarithm = 315653;  // of 2 to the base 10, times 2^20
+  constexpr std::uint64_t kOffset = 1023 * kLogarithm - (std::uint64_t{-kFirstDecade} << 20);
+  const std::uint64_t binary = std::bit_cast<std::uint64_t>(magnitude) >> 52;
+  const std::size_t index = (binary * kLogarithm - kOffset) >> 20;
+  return index + (magnitude >= kDecades[index].high ? 1U : 0U);
+}
+
+/// The decade of a magnitude, as an exponent.
 inline int decadeOf(double magnitude) {
-  const auto bits = std::bit_cast<std::uint64_t>(magnitude);
-  const int binary = static_cast<int>(bits >> 52) - 1023;
-  const int exponent = (binary * 315653) >> 20;  // floor(binary * log10(2))
-  if (exponent < kLowestDecade || exponent >= kHighestDecade) return kHighestDecade + 1;
-  return exponent + (magnitude >= decade(exponent).high ? 1 : 0);
+  return static_cast<int>(indexOfDecade(magnitude)) + kFirstDecade;
 }
 
 }  // namespace zel

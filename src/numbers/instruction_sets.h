@@ -1,7 +1,7 @@
 #pragma once
 
 /// Loops are compiled for several instruction sets of the processor family, and the best one that
-/// the machine has is chosen at run time. All give the same bits.
+/// the machine has is chosen at run time. All give the same bits. With ZEL_BASELINE there is but one.
 
 #if defined(__GNUC__)
 #define ZEL_ALWAYS_INLINE __attribute__((always_inline)) inline
@@ -11,7 +11,7 @@
 #define ZEL_INLINE_LAMBDA
 #endif
 
-#if defined(__GNUC__) && defined(__x86_64__)
+#if defined(__GNUC__) && defined(__x86_64__) && !defined(ZEL_BASELINE)
 #define ZEL_HAS_TARGETS 1
 #if defined(_WIN32)
 // Windows keeps the stack aligned to 16 bytes, so no wider register may be spilled.

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cmath>
+#include <cstdint>
 
 #include "numbers/decades.h"
+#include "numbers/elementary/double_double.h"
 #include "numbers/instruction_sets.h"
 
 /// The steps of the rounding to 15 digits, to be compiled into loops for each instruction set.
@@ -19,6 +21,10 @@ inline constexpr double kWholeNumbers = 6755399441055744;  // 1.5 * 2^52
 ZEL_ALWAYS_INLINE double roundInDecade(double value, double scale, double inverse, double drift) {
   const double whole = std::fma(value, scale, kWholeNumbers) - kWholeNumbers;
   return std::fma(whole, inverse, value * drift);
+}
+
+constexpr bool isExactDecade(int exponent) {
+  return exponent >= kLowestExactDecade && exponent <= kHighestExactDecade;
 }
 
 /// The exact decade that the last value was in; none to begin with. The next one mostly is there
@@ -40,30 +46,40 @@ struct DecadeGuess {
   /// Any value will do; one that is in no exact decade changes nothing.
   void moveTo(double value) {
     const int exponent = decadeOf(std::fabs(value));
-    if (exponent < kLowestExactDecade || exponent > kHighestExactDecade) return;
+    if (!isExactDecade(exponent)) return;
     const Decade& in = decade(exponent);
     *this = {in.low, in.high, in.scale, in.inverse, in.drift};
   }
 };
 
-constexpr bool isExactDecade(int exponent) {
-  return exponent >= kLowestExactDecade && exponent <= kHighestExactDecade;
-}
-
 /// The rounding of a value of any decade of the table, for an arithmetic that knows the remainder
-/// of a product. Where it cannot decide, the text does.
+/// of a product: in doubt near a tie.
 template <class Arithmetic>
-ZEL_ALWAYS_INLINE double roundWithChecks(double value, const Decade& in) {
+ZEL_ALWAYS_INLINE Candidate roundingCandidate(double value, const Decade& in) {
   constexpr double kTieZone = 0x1p-30;
   constexpr double kRelativeError = 0x1p-44;
   const double whole = (value * in.scale + kWholeNumbers) - kWholeNumbers;
   double remainder = Arithmetic::remainder(value, in.scale, whole) + value * in.scale_rest;
   remainder -= (remainder + kWholeNumbers) - kWholeNumbers;
   const double step = remainder * in.inverse;
-  const double rounded = value - step * (1 + kRelativeError);
-  const bool decided = std::fabs(std::fabs(remainder) - 0.5) > kTieZone &&
-                       rounded == value - step * (1 - kRelativeError);
-  return decided ? rounded : roundThroughText(value);
+  return Candidate{value - step * (1 + kRelativeError), value - step * (1 - kRelativeError)}
+      .sureOnlyIf(std::fabs(std::fabs(remainder) - 0.5) > kTieZone);
+}
+
+/// The same where the text decides what is in doubt.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE double roundWithChecks(double value, const Decade& in) {
+  const Candidate candidate = roundingCandidate<Arithmetic>(value, in);
+  return candidate.isSure() ? candidate.value : roundThroughText(value);
+}
+
+/// The same for any value at all, and without a branch: in doubt too where it is in no decade that
+/// the arithmetic is safe for, unless it is 0.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate roundingCandidate(double value) {
+  const std::size_t i = indexOfDecade(std::fabs(value));
+  const Candidate candidate = roundingCandidate<Arithmetic>(value, kDecades[i]);
+  return {value == 0 ? 0 : candidate.value, value == 0 ? 0 : candidate.other};
 }
 
 /// value * factor - whole, where `whole` is close to the product.
@@ -95,7 +111,7 @@ template <class Arithmetic>
 ZEL_ALWAYS_INLINE double roundAny(double value) {
   if (value == 0) return 0;
   const int exponent = decadeOf(std::fabs(value));
-  if (exponent > kHighestDecade) return roundThroughText(value);
+  if (!isSafeDecade(exponent)) return roundThroughText(value);
   return Arithmetic::round(value, decade(exponent), exponent);
 }
 

@@ -2,7 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+
+#include "pictures/large_memory.h"
 
 namespace zel {
 
@@ -10,7 +11,7 @@ namespace zel {
 struct Bitmap {
   int width = 0;
   int height = 0;
-  std::vector<std::uint32_t> pixels;
+  LargeVector<std::uint32_t> pixels;
 
   std::uint32_t* row(int y) {
     return pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width);

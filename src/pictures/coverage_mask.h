@@ -49,7 +49,7 @@ class CoverageMask {
   std::ptrdiff_t stride_;
   int tiles_across_;
   int tiles_down_;
-  std::vector<std::uint8_t> covered_;
+  LargeVector<std::uint8_t> covered_;
   std::vector<std::uint8_t> touched_;  // by tile, row by row
 };
 

@@ -3,8 +3,12 @@
 
 #include "pictures/png.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <span>
 #include <string_view>
@@ -37,29 +41,70 @@ std::string header(const Bitmap& bitmap) {
   return data.append(kEightBitColour);
 }
 
-/// A row of pixels as PNG has it: the number of its filter, which is none, and its colours.
-void fillRow(std::vector<std::uint8_t>& row, std::span<const std::uint32_t> pixels) {
-  std::uint8_t* byte = row.data() + 1;
-  for (const std::uint32_t pixel : pixels) {
-    *byte++ = static_cast<std::uint8_t>(pixel >> 16);
-    *byte++ = static_cast<std::uint8_t>(pixel >> 8);
-    *byte++ = static_cast<std::uint8_t>(pixel);
+/// The colours of a pixel as PNG has them, in the first three of four bytes.
+std::uint32_t colours(std::uint32_t pixel) {
+  if constexpr (std::endian::native == std::endian::big) return pixel << 8;
+  return (pixel >> 16 & 0xFF) | (pixel & 0xFF00) | (pixel & 0xFF) << 16;
+}
+
+/// Paper mostly, of which this many pixels are seen at a look.
+constexpr std::size_t kAtOnce = 8;
+constexpr std::array<std::uint32_t, kAtOnce> kPaper = [] {
+  std::array<std::uint32_t, kAtOnce> pixels{};
+  pixels.fill(0xFFFFFFFF);
+  return pixels;
+}();
+
+/// Writes the colours of pixels, and spoils the byte behind them.
+void writeColours(const std::uint32_t* pixels, std::size_t count, std::uint8_t* bytes) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::uint32_t rgb = colours(pixels[i]);
+    std::memcpy(bytes + kBytesPerPixel * i, &rgb, sizeof rgb);
   }
+}
+
+/// A row of pixels as PNG has it: the number of its filter, which is none, and its colours. Spoils
+/// the byte behind it.
+void writeRow(std::span<const std::uint32_t> pixels, std::uint8_t* row) {
+  *row = 0;
+  std::uint8_t* bytes = row + 1;
+  for (; pixels.size() >= kAtOnce; pixels = pixels.subspan(kAtOnce)) {
+    if (std::memcmp(pixels.data(), kPaper.data(), sizeof kPaper) == 0)
+      std::memset(bytes, 0xFF, kBytesPerPixel * kAtOnce);
+    else
+      writeColours(pixels.data(), kAtOnce, bytes);
+    bytes += kBytesPerPixel * kAtOnce;
+  }
+  writeColours(pixels.data(), pixels.size(), bytes);
+}
+
+/// Rows are compressed in parts of some hundred thousand bytes: each part costs time of its own.
+constexpr std::size_t kPart = std::size_t{1} << 17;
+
+/// All rows in one stream; empty when it could not be made.
+std::string compressedRows(const Bitmap& bitmap) {
+  const auto width = static_cast<std::size_t>(bitmap.width);
+  const auto height = static_cast<std::size_t>(bitmap.height);
+  const std::size_t row_bytes = 1 + width * kBytesPerPixel;
+  const std::size_t rows = std::clamp<std::size_t>(kPart / row_bytes, 1, height);
+  std::vector<std::uint8_t> part(rows * row_bytes + 1);
+  Deflate deflate;
+  std::size_t filled = 0;
+  for (int y = 0; y < bitmap.height; ++y) {
+    writeRow({bitmap.row(y), width}, part.data() + filled);
+    filled += row_bytes;
+    if (filled + row_bytes < part.size() && y + 1 < bitmap.height) continue;
+    deflate.take(std::span(part.data(), filled));
+    filled = 0;
+  }
+  return deflate.finish();
 }
 
 }  // namespace
 
 std::string writePng(const Bitmap& bitmap) {
   if (bitmap.pixels.empty()) return {};
-  const auto width = static_cast<std::size_t>(bitmap.width);
-  std::vector<std::uint8_t> row(1 + width * kBytesPerPixel);
-  Deflate deflate;
-  for (std::span<const std::uint32_t> rest = bitmap.pixels; !rest.empty();
-       rest = rest.subspan(width)) {
-    fillRow(row, rest.first(width));
-    deflate.take(row);
-  }
-  const std::string compressed = deflate.finish();
+  const std::string compressed = compressedRows(bitmap);
   if (compressed.empty() || compressed.size() > std::numeric_limits<std::int32_t>::max()) return {};
   std::string file(kSignature);
   appendChunk(file, "IHDR", header(bitmap));

@@ -22,7 +22,7 @@ double halfCurveWidth(double density) { return kCurveWidth * density / kTwipsPer
 
 Bitmap whiteBitmap(int width, int height) {
   const auto size = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-  return {width, height, std::vector<std::uint32_t>(size, kWhite)};
+  return {width, height, LargeVector<std::uint32_t>(size, kWhite)};
 }
 
 std::uint32_t fromRedLow(std::int32_t colour) {

@@ -1,5 +1,5 @@
 // The plan and the sweeps beside the reference, bit for bit: values, flags, messages, and the parse
-// cache afterwards. ZEL_ORACLE_PAIRS and ZEL_ORACLE_SEED make it longer and different.
+// cache afterwards. ZEL_ORACLE_COUNT and ZEL_ORACLE_SEED make it longer and different.
 
 #include <array>
 #include <bit>
@@ -229,7 +229,7 @@ class Session {
 };
 
 TEST(Oracle, AgreesOnRandomSequences) {
-  const std::size_t pairs = fromEnvironment("ZEL_ORACLE_PAIRS", kUsualPairs);
+  const std::size_t pairs = fromEnvironment("ZEL_ORACLE_COUNT", kUsualPairs);
   std::uint64_t seed = fromEnvironment("ZEL_ORACLE_SEED", 1) << 40;
   LanguageGuard language("ES");
   for (std::size_t done = 0; done < pairs; ++seed) {

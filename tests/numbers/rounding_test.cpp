@@ -144,9 +144,9 @@ TEST_F(Rounding, KnowsItsPowersOfTen) {
       EXPECT_EQ(in.scale_rest, 0);
     }
   }
-  EXPECT_GT(decadeOf(0), kHighestDecade);
-  EXPECT_GT(decadeOf(HUGE_VAL), kHighestDecade);
-  EXPECT_GT(decadeOf(DBL_MIN), kHighestDecade);
+  EXPECT_FALSE(isSafeDecade(decadeOf(0)));
+  EXPECT_FALSE(isSafeDecade(decadeOf(HUGE_VAL)));
+  EXPECT_FALSE(isSafeDecade(decadeOf(DBL_MIN)));
 }
 
 }  // namespace

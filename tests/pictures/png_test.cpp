@@ -11,7 +11,7 @@ namespace {
 
 Bitmap plain(int width, int height) {
   const auto size = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-  return {width, height, std::vector<std::uint32_t>(size, 0xFFFFFFFF)};
+  return {width, height, LargeVector<std::uint32_t>(size, 0xFFFFFFFF)};
 }
 
 void expectGivenBack(const Bitmap& bitmap) { EXPECT_TRUE(readPng(writePng(bitmap)) == bitmap); }

@@ -45,7 +45,7 @@ class Raster : public ::testing::Test {
 };
 
 TEST_F(Raster, IsWhiteUntilSomethingIsDrawn) {
-  EXPECT_EQ(picture.finish().pixels, std::vector<std::uint32_t>(kWidth * kHeight, 0xFFFFFFFF));
+  EXPECT_EQ(picture.finish().pixels, LargeVector<std::uint32_t>(kWidth * kHeight, 0xFFFFFFFF));
 }
 
 TEST_F(Raster, IsWhiteAgainWhenItIsCleared) {

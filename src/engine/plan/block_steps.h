@@ -83,6 +83,29 @@ ZEL_ALWAYS_INLINE void roundLanes(const Operation& operation, const Chunk& left,
   }
 }
 
+/// Rounds the lanes of a chunk at once; false, and nothing done, where one of them needs a look.
+ZEL_ALWAYS_INLINE bool roundTogether(Chunk& result, const DecadeGuess& guess) {
+  alignas(64) std::array<double, kLanes> rounded;
+  std::uint64_t outside = 0;
+  for (std::size_t i = 0; i < kLanes; ++i) {
+    outside |= guess.holds(result.lanes[i]) ? 0U : 1U;
+    rounded[i] = guess.round(result.lanes[i]);
+  }
+  if (outside == 0) {
+    result.lanes = rounded;
+    return true;
+  }
+  std::uint64_t doubt = 0;
+  for (std::size_t i = 0; i < kLanes; ++i) {
+    const Candidate candidate = roundingCandidate<FusedArithmetic>(result.lanes[i]);
+    rounded[i] = candidate.value;
+    doubt |= candidate.isSure() ? 0U : 1U;
+  }
+  if (doubt != 0) return false;
+  result.lanes = rounded;
+  return true;
+}
+
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE void roundBlock(const Operation& operation, const Block& block, DecadeGuess& last,
                                   BlockProgram::Report& report) {
@@ -90,17 +113,10 @@ ZEL_ALWAYS_INLINE void roundBlock(const Operation& operation, const Block& block
   for (std::size_t c = 0; c < block.chunks; ++c) {
     Chunk& result = block.result[c];
     if constexpr (Arithmetic::kIsFused) {
-      alignas(64) std::array<double, kLanes> rounded;
-      std::uint64_t outside = 0;
-      for (std::size_t i = 0; i < kLanes; ++i) {
-        outside |= guess.holds(result.lanes[i]) ? 0U : 1U;
-        rounded[i] = guess.round(result.lanes[i]);
-      }
-      if (outside == 0) {
-        result.lanes = rounded;
-        continue;
-      }
-      guess.moveTo(result.lanes[kLanes - 1]);
+      const double last_lane = result.lanes[kLanes - 1];
+      const bool is_done = roundTogether(result, guess);
+      if (!guess.holds(last_lane)) guess.moveTo(last_lane);
+      if (is_done) continue;
     }
     roundLanes<Arithmetic>(operation, block.left[c], block.right[c], result, report);
   }

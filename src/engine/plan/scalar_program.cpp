@@ -27,7 +27,7 @@ struct FusedSteps {
   [[gnu::noinline]] ZEL_TARGET_V3 static double roundElsewhere(double value, DecadeGuess& guess) {
     if (!std::isfinite(value)) return kNone;
     guess.moveTo(value);
-    return roundAny<FusedArithmetic>(value);
+    return guess.holds(value) ? guess.round(value) : roundAny<FusedArithmetic>(value);
   }
   static ZEL_ALWAYS_INLINE bool round(double& value, DecadeGuess& guess) {
     if (guess.holds(value)) [[likely]] {

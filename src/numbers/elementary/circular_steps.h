@@ -101,9 +101,11 @@ ZEL_ALWAYS_INLINE ReducedAngle reduceAngle(double x) {
   constexpr double kThird = 0x1.3198a2e037073p-68 / 256;
   const double shifted = multiplyAdd<Arithmetic>(x, 256 / kPiInTwo.high, kWholeNumbers);
   const double steps = shifted - kWholeNumbers;
-  const DoubleDouble start = exactSum(multiplyAdd<Arithmetic>(-steps, kFirst, x), -steps * kSecond);
+  // Where the second is the larger one, the first one still is a multiple of its last place.
+  const DoubleDouble start =
+      sumOfOrdered(multiplyAdd<Arithmetic>(-steps, kFirst, x), -steps * kSecond);
   return {std::bit_cast<std::uint64_t>(shifted) % kStepsOfCircle,
-          exactSum(start.high, multiplyAdd<Arithmetic>(-steps, kThird, start.low)),
+          sumOfOrdered(start.high, multiplyAdd<Arithmetic>(-steps, kThird, start.low)),
           std::fabs(steps) * 0x1p-124};
 }
 

@@ -13,7 +13,7 @@
 /// what lies between may differ, what is decided never does.
 namespace zel {
 
-/// a + b and what is missing from it; |a| >= |b|, or a is 0.
+/// a + b and what is missing from it; |a| >= |b|, or a is a multiple of the last place of b.
 constexpr ZEL_ALWAYS_INLINE DoubleDouble sumOfOrdered(double a, double b) {
   const double sum = a + b;
   return {sum, b - (sum - a)};

@@ -98,7 +98,8 @@ ZEL_ALWAYS_INLINE ReducedLogarithm reduceLogarithm(double x) {
 
 /// How far the sums below may be from the exact logarithm, relative to it.
 inline constexpr double kLogarithmError = 0x1.2p-68;
-inline constexpr double kFineLogarithmError = 0x1p-75;
+inline constexpr double kDecimalLogarithmError = 1.375 * kLogarithmError;
+inline constexpr double kFineLogarithmError = 0x1.4p-75;
 
 /// ln(x) for a positive normal number.
 template <class Arithmetic>
@@ -164,7 +165,7 @@ ZEL_ALWAYS_INLINE Candidate decimalLogarithmCandidate(double x) {
   const double low = multiplyAdd<Arithmetic>(
       natural.low, kDecimalPerNatural.high,
       multiplyAdd<Arithmetic>(natural.high, kDecimalPerNatural.low, product.low));
-  return rounded<Arithmetic>(product.high, low, std::fabs(product.high), 1.25 * kLogarithmError)
+  return rounded<Arithmetic>(product.high, low, std::fabs(product.high), kDecimalLogarithmError)
       .sureOnlyIf(isPositiveNormal(x));
 }
 

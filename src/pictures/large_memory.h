@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <new>
+#include <vector>
+
+namespace zel {
+
+/// Tells the system that so much memory will be used as a whole. Where it has large pages, it gives
+/// those at the first touch: a picture then costs four page faults and not two thousand.
+void expectWholeUse(void* memory, std::size_t bytes);
+
+/// The allocator of vectors as large as a picture.
+template <class Number>
+struct LargeMemory {
+  using value_type = Number;
+
+  LargeMemory() = default;
+  template <class Other>
+  explicit(false) LargeMemory(const LargeMemory<Other>&) {}
+
+  static constexpr std::size_t kLargePage = std::size_t{1} << 21;
+  static constexpr bool isLarge(std::size_t count) { return count >= kLargePage / sizeof(Number); }
+
+  Number* allocate(std::size_t count) {
+    if (count > std::size_t(-1) / 2 / sizeof(Number)) throw std::bad_array_new_length();
+    const std::size_t bytes = count * sizeof(Number);
+    if (!isLarge(count)) return static_cast<Number*>(::operator new(bytes));
+    void* const memory = ::operator new (bytes, std::align_val_t{kLargePage});
+    expectWholeUse(memory, bytes);
+    return static_cast<Number*>(memory);
+  }
+  void deallocate(Number* memory, std::size_t count) {
+    if (isLarge(count))
+      ::operator delete (memory, std::align_val_t{kLargePage});
+    else
+      ::operator delete(memory);
+  }
+
+  bool operator==(const LargeMemory&) const = default;
+};
+
+template <class Number>
+using LargeVector = std::vector<Number, LargeMemory<Number>>;
+
+}  // namespace zel
