@@ -22,11 +22,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string bytes(reinterpret_cast<const char*>(data), size);
   zel::MainView view;
   zel::GraphTable graphs;
-  if (!parse(zel::fromCodePage(bytes), view, graphs)) return 0;
+  if (!parse(bytes, view, graphs)) return 0;
   const std::string written = zel::toCodePage(zel::documentText(view, graphs));
   zel::MainView again;
   zel::GraphTable graphs_again;
-  if (!parse(zel::fromCodePage(written), again, graphs_again)) std::abort();
+  if (!parse(written, again, graphs_again)) std::abort();
   if (zel::toCodePage(zel::documentText(again, graphs_again)) != written) std::abort();
   return 0;
 }

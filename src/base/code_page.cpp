@@ -30,17 +30,37 @@ char encodeByte(char32_t character) {
   return is_own_number ? static_cast<char>(character) : '?';
 }
 
-void appendUtf8(char32_t character, std::string& text) {
-  if (character < 0x80) {
-    text += static_cast<char>(character);
-  } else if (character < 0x800) {
-    text += static_cast<char>(0xC0 | (character >> 6));
-    text += static_cast<char>(0x80 | (character & 0x3F));
-  } else {
-    text += static_cast<char>(0xE0 | (character >> 12));
-    text += static_cast<char>(0x80 | ((character >> 6) & 0x3F));
-    text += static_cast<char>(0x80 | (character & 0x3F));
+/// Hands the byte of each character to `take`, until that returns false.
+template <class Take>
+void encode(std::string_view utf8, Take take) {
+  while (!utf8.empty()) {
+    const DecodedCharacter decoded = decodeCharacter(utf8);
+    if (!take(decoded.size == 0 ? '?' : encodeByte(decoded.character))) return;
+    utf8.remove_prefix(std::max<std::size_t>(decoded.size, 1));
   }
+}
+
+char32_t decodeByte(char byte) {
+  const char32_t number = static_cast<unsigned char>(byte);
+  const bool is_high_control =
+      number >= kFirstHighControl && number < kFirstHighControl + kHighControls.size();
+  return is_high_control ? kHighControls[number - kFirstHighControl] : number;
+}
+
+/// A character of the code page as UTF-8.
+struct Utf8Character {
+  std::array<char, 3> bytes{};
+  std::size_t size = 0;
+
+  std::string_view text() const { return {bytes.data(), size}; }
+};
+
+Utf8Character utf8Of(char32_t character) {
+  const auto byte = [](char32_t bits) { return static_cast<char>(bits); };
+  const char last = byte(0x80 | (character & 0x3F));
+  if (character < 0x80) return {{byte(character)}, 1};
+  if (character < 0x800) return {{byte(0xC0 | (character >> 6)), last}, 2};
+  return {{byte(0xE0 | (character >> 12)), byte(0x80 | ((character >> 6) & 0x3F)), last}, 3};
 }
 
 }  // namespace
@@ -48,23 +68,40 @@ void appendUtf8(char32_t character, std::string& text) {
 std::string toCodePage(std::string_view utf8) {
   std::string bytes;
   bytes.reserve(utf8.size());
-  while (!utf8.empty()) {
-    const DecodedCharacter decoded = decodeCharacter(utf8);
-    bytes += decoded.size == 0 ? '?' : encodeByte(decoded.character);
-    utf8.remove_prefix(std::max<std::size_t>(decoded.size, 1));
-  }
+  appendToCodePage(utf8, bytes);
   return bytes;
 }
 
+std::size_t codePageSize(std::string_view utf8) {
+  std::size_t size = 0;
+  encode(utf8, [&](char) { return ++size > 0; });
+  return size;
+}
+
+void appendToCodePage(std::string_view utf8, std::string& bytes) {
+  encode(utf8, [&](char byte) {
+    bytes += byte;
+    return true;
+  });
+}
+
+bool isKeptByCodePage(std::string_view written, std::string_view read) {
+  bool is_kept = true;
+  encode(written, [&](char byte) {
+    const Utf8Character kept = utf8Of(decodeByte(byte));
+    is_kept = read.starts_with(kept.text());
+    if (is_kept) read.remove_prefix(kept.size);
+    return is_kept;
+  });
+  return is_kept && read.empty();
+}
+
 std::string fromCodePage(std::string_view bytes) {
+  std::size_t size = 0;
+  for (const char byte : bytes) size += utf8Of(decodeByte(byte)).size;
   std::string utf8;
-  utf8.reserve(bytes.size());
-  for (const char byte : bytes) {
-    const char32_t number = static_cast<unsigned char>(byte);
-    const bool is_high_control =
-        number >= kFirstHighControl && number < kFirstHighControl + kHighControls.size();
-    appendUtf8(is_high_control ? kHighControls[number - kFirstHighControl] : number, utf8);
-  }
+  utf8.reserve(size);
+  for (const char byte : bytes) utf8.append(utf8Of(decodeByte(byte)).text());
   return utf8;
 }
 

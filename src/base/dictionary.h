@@ -44,6 +44,18 @@ class KeyedDictionary {
     return place == entries_.size() ? Value{} : entries_[place].value;
   }
 
+  /// Null for a key that is missing; until the dictionary changes.
+  const Value* find(std::string_view key) const {
+    const std::size_t place = placeOf(key);
+    return place == entries_.size() ? nullptr : &entries_[place].value;
+  }
+
+  /// Moves the value out, which leaves an empty one in its place.
+  Value take(std::string_view key) {
+    const std::size_t place = placeOf(key);
+    return place == entries_.size() ? Value{} : std::exchange(entries_[place].value, Value{});
+  }
+
   bool Exists(std::string_view key) const { return placeOf(key) != entries_.size(); }
 
   std::size_t Count() const { return entries_.size(); }

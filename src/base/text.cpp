@@ -1,5 +1,7 @@
 #include "base/text.h"
 
+#include <algorithm>
+
 namespace zel {
 namespace {
 
@@ -22,12 +24,22 @@ void lowerPair(char& lead, char& trail) {
   }
 }
 
+/// What the replacing of every occurrence makes of the size of a text.
+std::size_t sizeReplaced(std::string_view searched, std::string_view from, std::string_view to) {
+  std::size_t size = searched.size();
+  for (std::size_t found = searched.find(from); found != std::string_view::npos;
+       found = searched.find(from, found + from.size()))
+    size = size - from.size() + to.size();
+  return size;
+}
+
 /// Replaces in `text` what stands at the places where `from` occurs in `searched`, a text of the
 /// same size.
 std::string replaceWhereFound(std::string_view text, std::string_view searched,
                               std::string_view from, std::string_view to) {
   if (from.empty()) return std::string(text);
   std::string result;
+  result.reserve(sizeReplaced(searched, from, to));
   std::size_t position = 0;
   for (;;) {
     const std::size_t found = searched.find(from, position);
@@ -67,6 +79,25 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 std::string replaceAllIgnoringCase(std::string_view text, std::string_view from,
                                    std::string_view to) {
   return replaceWhereFound(text, toLower(text), toLower(from), to);
+}
+
+void replaceWithin(std::string& text, std::string_view from, std::string_view to) {
+  std::size_t found = from.empty() ? std::string::npos : text.find(from);
+  if (found == std::string::npos) return;
+  if (to.size() > from.size()) {
+    text = replaceAll(text, from, to);
+    return;
+  }
+  std::size_t kept = found;
+  while (found != std::string::npos) {
+    kept += to.copy(text.data() + kept, to.size());
+    const std::size_t begin = found + from.size();
+    found = text.find(from, begin);
+    const std::size_t end = std::min(found, text.size());
+    std::copy(text.data() + begin, text.data() + end, text.data() + kept);
+    kept += end - begin;
+  }
+  text.resize(kept);
 }
 
 std::string_view trimBlanks(std::string_view text) {

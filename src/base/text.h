@@ -18,6 +18,8 @@ bool containsIgnoringCase(std::string_view text, std::string_view part);
 /// Every occurrence from left to right, never looking into what was put in. An empty `from`
 /// replaces nothing.
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+/// replaceAll in the text itself: without a second copy where `to` is no longer than `from`.
+void replaceWithin(std::string& text, std::string_view from, std::string_view to);
 std::string replaceAllIgnoringCase(std::string_view text, std::string_view from,
                                    std::string_view to);
 

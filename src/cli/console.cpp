@@ -31,6 +31,15 @@ void appendPlainly(std::string& line, const DecodedCharacter& decoded, std::stri
     line += bytes;
 }
 
+/// Takes the first character from the text and appends what shows it on one line.
+void moveCharacter(std::string_view& text, std::string& line) {
+  if (text.starts_with("\r\n")) text.remove_prefix(1);
+  const DecodedCharacter decoded = decodeCharacter(text);
+  const std::size_t size = std::max<std::size_t>(decoded.size, 1);
+  appendPlainly(line, decoded, text.substr(0, size));
+  text.remove_prefix(size);
+}
+
 }  // namespace
 
 std::string Console::number(double value) const {
@@ -59,14 +68,20 @@ std::string hexadecimal(char32_t control) {
 
 std::string onOneLine(std::string_view text) {
   std::string line;
-  while (!text.empty()) {
-    if (text.starts_with("\r\n")) text.remove_prefix(1);
-    const DecodedCharacter decoded = decodeCharacter(text);
-    const std::size_t size = std::max<std::size_t>(decoded.size, 1);
-    appendPlainly(line, decoded, text.substr(0, size));
-    text.remove_prefix(size);
-  }
+  while (!text.empty()) moveCharacter(text, line);
   return line;
+}
+
+void writeOnOneLine(std::string_view text, std::ostream& out) {
+  constexpr std::size_t kBlock = 4096;
+  std::string block;
+  while (!text.empty()) {
+    moveCharacter(text, block);
+    if (block.size() < kBlock) continue;
+    out << block;
+    block.clear();
+  }
+  out << block;
 }
 
 }  // namespace zel

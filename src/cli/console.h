@@ -40,4 +40,7 @@ std::string hexadecimal(char32_t control);
 /// UTF-8 shows as U+FFFD.
 std::string onOneLine(std::string_view text);
 
+/// Writes the same without making a copy of it.
+void writeOnOneLine(std::string_view text, std::ostream& out);
+
 }  // namespace zel

@@ -16,22 +16,28 @@ struct Options {
 };
 
 /// The line of one graph: letter, kind, colour, display text and codes between tabs.
-std::string describe(const GraphDef& def) {
-  std::string line = std::string(1, def.nombre) + '\t' + onOneLine(kindText(def)) + '\t';
-  line += colourText(def.color);
-  line += '\t' + onOneLine(displayText(def)) + '\t' + onOneLine(def.codigo);
-  for (const char* key : {"codigo1", "codigo2", "codigo_xt", "codigo_yt"})
-    if (def.parameters && def.parameters->Exists(key))
-      line += '\t' + onOneLine(parameter(def, key));
-  return line;
+void describe(const GraphDef& def, std::ostream& out) {
+  out << def.nombre << '\t';
+  writeOnOneLine(kindText(def), out);
+  out << '\t' << colourText(def.color) << '\t';
+  for (const std::string_view piece : displayPieces(def)) writeOnOneLine(piece, out);
+  out << '\t';
+  writeOnOneLine(def.codigo, out);
+  for (const char* key : {"codigo1", "codigo2", "codigo_xt", "codigo_yt"}) {
+    const std::string* const code = def.parameters ? def.parameters->find(key) : nullptr;
+    if (code == nullptr) continue;
+    out << '\t';
+    writeOnOneLine(*code, out);
+  }
+  out << '\n';
 }
 
 int check(const Options& options, const Console& console) {
   Session session;
   if (const int status = session.load(options.file, console)) return status;
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    const auto def = session.graphs.graph(letter);
-    if (def && def->defined) console.out << describe(*def) << '\n';
+    const GraphDef* const def = session.graphs.slot(letter);
+    if (def->defined) describe(*def, console.out);
   }
   return kExitDone;
 }

@@ -2,7 +2,6 @@
 
 #include <ostream>
 
-#include "base/code_page.h"
 #include "cli/input_output.h"
 #include "files/whole_file.h"
 
@@ -21,7 +20,7 @@ bool Session::loadFile(const std::string& path, std::string& message) {
 
 bool Session::loadStandardInput(const Console& console, std::string& message) {
   const auto bytes = readStandardInput(console);
-  return bytes && loadDocumentText(fromCodePage(*bytes), view, graphs, header, message);
+  return bytes && loadDocumentBytes(*bytes, view, graphs, header, message);
 }
 
 int Session::loadIfGiven(const std::optional<std::string>& path, const Console& console) {

@@ -21,11 +21,12 @@ std::span<const std::string_view> offeredFunctions(std::string_view language) {
 }
 
 std::string NormaliseFormula(std::string_view formula) {
-  std::string code = replaceAll(toLower(formula), " ", "");
+  std::string code = toLower(formula);
+  std::erase(code, ' ');
   for (std::size_t i = 0; i < PrefixFunctions.size(); ++i)
-    code = replaceAll(code, PrefixFunctions[i], std::to_string(i) + "@");
+    replaceWithin(code, PrefixFunctions[i], std::to_string(i) + "@");
   for (std::size_t i = 0; i < PostfixFunctions.size(); ++i)
-    code = replaceAll(code, PostfixFunctions[i], std::string("#").append(std::to_string(i)));
+    replaceWithin(code, PostfixFunctions[i], std::string("#").append(std::to_string(i)));
   return code;
 }
 

@@ -5,11 +5,12 @@
 
 #include "files/document.h"
 
+#include <algorithm>
+#include <functional>
 #include <new>
 #include <optional>
 
 #include "base/code_page.h"
-#include "base/text.h"
 #include "files/document_check.h"
 #include "files/document_parser.h"
 #include "files/text_file.h"
@@ -40,23 +41,29 @@ constexpr std::string_view kHead =
     "usuario=desconocido\r\n"
     " ";
 
-/// Appends lines to the text of a section.
+using Take = std::function<void(std::string_view)>;
+
+/// Hands over the lines of a section, piece by piece.
 class Lines {
  public:
-  explicit Lines(std::string& text) : text_(text) {}
+  explicit Lines(const Take& take) : take_(take) {}
 
-  void line(std::string_view content) { text_.append(content).append(kLineBreak); }
+  void line(std::string_view content) {
+    take_(content);
+    take_(kLineBreak);
+  }
   void pair(std::string_view key, std::string_view value) {
-    text_.append(key).append("=").append(value).append(kLineBreak);
+    take_(key);
+    take_("=");
+    line(value);
   }
 
  private:
-  std::string& text_;
+  const Take& take_;
 };
 
-std::string viewText(const MainView& view) {
-  std::string text;
-  Lines lines(text);
+void writeView(const MainView& view, const Take& take) {
+  Lines lines(take);
   lines.line("[VISTA PRINCIPAL]");
   lines.pair("xi", view.xi);
   lines.pair("xf", view.xf);
@@ -66,10 +73,11 @@ std::string viewText(const MainView& view) {
   lines.pair("proporcional", view.proporcional ? "1" : "0");
   lines.pair("escala_x", view.escala_x);
   lines.pair("escala_y", view.escala_y);
-  return text.append(kTerminator);
+  take(kTerminator);
 }
 
-void appendGraph(const GraphDef& def, Lines& lines) {
+void writeGraph(const GraphDef& def, const Take& take) {
+  Lines lines(take);
   lines.line("[GRAFICO]");
   lines.line("[PROPIEDADES]");
   lines.pair("nombre", std::string(1, def.nombre));
@@ -87,26 +95,34 @@ void appendGraph(const GraphDef& def, Lines& lines) {
   lines.line(kTerminator);
 }
 
-std::string graphsText(const GraphTable& graphs) {
-  std::string text;
-  Lines lines(text);
-  lines.line("[GRAFICOS PRINCIPAL]");
+/// The whole document, piece by piece, so that whoever takes it needs no second copy.
+void writeDocumentTo(const MainView& view, const GraphTable& graphs, const Take& take) {
+  Lines(take).line(kHead);
+  writeView(view, take);
+  take(kLineBreak);
+  Lines(take).line("[GRAFICOS PRINCIPAL]");
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    const auto def = graphs.graph(letter);
-    if (def->defined) appendGraph(*def, lines);
+    const GraphDef& def = *graphs.slot(letter);
+    if (def.defined) writeGraph(def, take);
   }
-  return text.append(kTerminator);
+  take(kTerminator);
 }
 
-bool isCompatible(std::string_view text) {
-  return !trimBlanks(text).empty() && containsIgnoringCase(text, kOldestVersion);
+/// Looks at the bytes where they are: a copy of them all would be needed for a moment only.
+bool isCompatible(std::string_view bytes) {
+  const auto is_same = [](char one, char other) {
+    const bool is_capital = one >= 'A' && one <= 'Z';
+    return (is_capital ? static_cast<char>(one - 'A' + 'a') : one) == other;
+  };
+  return std::search(bytes.begin(), bytes.end(), kOldestVersion.begin(), kOldestVersion.end(),
+                     is_same) != bytes.end();
 }
 
 /// Too little memory is an error like any other inside a section.
-ParseOutcome parseWithinMemory(std::string_view text, MainView& view, GraphTable& graphs,
+ParseOutcome parseWithinMemory(std::string_view bytes, MainView& view, GraphTable& graphs,
                                DocumentHeader& header) {
   try {
-    return parseDocument(text, view, graphs, header);
+    return parseDocument(bytes, view, graphs, header);
   } catch (const std::bad_alloc&) {
     return ParseOutcome::failed;
   }
@@ -115,32 +131,31 @@ ParseOutcome parseWithinMemory(std::string_view text, MainView& view, GraphTable
 }  // namespace
 
 std::string documentText(const MainView& view, const GraphTable& graphs) {
-  std::string text(kHead);
-  text.append(kLineBreak).append(viewText(view));
-  text.append(kLineBreak).append(graphsText(graphs));
+  std::string text;
+  writeDocumentTo(view, graphs, [&](std::string_view piece) { text.append(piece); });
   return text;
 }
 
 bool loadDocument(const std::string& path, MainView& view, GraphTable& graphs,
                   DocumentHeader& header, std::string& message) {
-  std::optional<std::string> text;
-  readTextFile(path, text);
-  if (!text) {
+  std::optional<std::string> bytes;
+  readTextBytes(path, bytes);
+  if (!bytes) {
     message = messages::kCannotOpen;
     return false;
   }
-  return loadDocumentText(*text, view, graphs, header, message);
+  return loadDocumentBytes(*bytes, view, graphs, header, message);
 }
 
-bool loadDocumentText(std::string_view text, MainView& view, GraphTable& graphs,
-                      DocumentHeader& header, std::string& message) {
+bool loadDocumentBytes(std::string_view bytes, MainView& view, GraphTable& graphs,
+                       DocumentHeader& header, std::string& message) {
   message.clear();
-  if (!isCompatible(text)) {
+  if (!isCompatible(bytes)) {
     message = messages::kNotCompatible;
     return false;
   }
   graphs.clearGraphs();
-  const ParseOutcome outcome = parseWithinMemory(text, view, graphs, header);
+  const ParseOutcome outcome = parseWithinMemory(bytes, view, graphs, header);
   if (outcome == ParseOutcome::section_missing) message = messages::kUnexpectedFormat;
   return outcome == ParseOutcome::complete;
 }
@@ -151,8 +166,13 @@ std::string_view openFailureMessage(std::string_view message) {
 
 std::optional<std::string> documentBytes(const MainView& view, const GraphTable& graphs) {
   try {
-    std::string bytes = toCodePage(documentText(view, graphs));
-    if (bytes.size() > kMaxWholeFile || !isReadBack(bytes, view, graphs)) return std::nullopt;
+    std::size_t size = 0;
+    writeDocumentTo(view, graphs, [&](std::string_view piece) { size += codePageSize(piece); });
+    if (size > kMaxWholeFile) return std::nullopt;
+    std::string bytes;
+    bytes.reserve(size);
+    writeDocumentTo(view, graphs, [&](std::string_view piece) { appendToCodePage(piece, bytes); });
+    if (!isReadBack(bytes, view, graphs)) return std::nullopt;
     return bytes;
   } catch (const std::bad_alloc&) {
     return std::nullopt;

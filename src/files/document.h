@@ -57,9 +57,9 @@ std::optional<std::string> documentBytes(const MainView& view, const GraphTable&
 bool loadDocument(const std::string& path, MainView& view, GraphTable& graphs,
                   DocumentHeader& header, std::string& message);
 
-/// The same for the text of a document that was read already.
-bool loadDocumentText(std::string_view text, MainView& view, GraphTable& graphs,
-                      DocumentHeader& header, std::string& message);
+/// The same for the bytes of a document that was read already.
+bool loadDocumentBytes(std::string_view bytes, MainView& view, GraphTable& graphs,
+                       DocumentHeader& header, std::string& message);
 
 /// What the Open command shows when a load failed with this message.
 std::string_view openFailureMessage(std::string_view message);

@@ -28,7 +28,7 @@ bool isPlain(const GraphDef& def) {
 }
 
 bool isKept(std::string_view written, std::string_view read) {
-  return fromCodePage(toCodePage(written)) == read;
+  return isKeptByCodePage(written, read);
 }
 
 bool isKept(const Parameters* written, const Parameters& read) {
@@ -63,10 +63,10 @@ bool isReadBack(std::string_view bytes, const MainView& view, const GraphTable& 
   MainView read_view;
   GraphTable read_graphs;
   DocumentHeader header;
-  const auto outcome = parseDocument(fromCodePage(bytes), read_view, read_graphs, header);
+  const auto outcome = parseDocument(bytes, read_view, read_graphs, header);
   if (outcome != ParseOutcome::complete || !isPlain(view) || !isKept(view, read_view)) return false;
   for (char letter = 'a'; letter <= 'z'; ++letter)
-    if (!isKept(*graphs.graph(letter), *read_graphs.graph(letter))) return false;
+    if (!isKept(*graphs.slot(letter), *read_graphs.slot(letter))) return false;
   return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "files/document.h"
@@ -12,10 +13,14 @@ enum class ParseOutcome {
   failed,           // an error inside a section
 };
 
-/// Reads the text of a document. The view's pairs are applied and the graphs stored as they come,
+/// The pairs of a section that are kept by their keys: of the header, of a graph's properties and
+/// of its parameters. One more is an error inside the section.
+inline constexpr std::size_t kMostPairs = 16384;
+
+/// Reads the bytes of a document. The view's pairs are applied and the graphs stored as they come,
 /// and stay when the parse ends early; the header changes when its section was read whole. Takes
-/// time and memory in proportion to the text, whatever it holds.
-ParseOutcome parseDocument(std::string_view text, MainView& view, GraphTable& graphs,
+/// time and memory in proportion to the bytes, whatever they hold.
+ParseOutcome parseDocument(std::string_view bytes, MainView& view, GraphTable& graphs,
                            DocumentHeader& header);
 
 }  // namespace zel

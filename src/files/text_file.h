@@ -12,6 +12,9 @@ namespace zel {
 /// of memory included). Reading where there is nothing creates an empty file: this is meant.
 bool readTextFile(const std::string& path, std::optional<std::string>& text);
 
+/// The same for the bytes of the file.
+bool readTextBytes(const std::string& path, std::optional<std::string>& bytes);
+
 /// Writes the text whole or not at all. Returns whether the file was there before the write, false
 /// after an error: a new file is written and gives false, and this is meant.
 bool writeTextFile(const std::string& path, std::string_view text);

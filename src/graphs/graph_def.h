@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/dictionary.h"
 
@@ -34,6 +35,9 @@ std::string parameter(const GraphDef& def, std::string_view key);
 
 /// The line that lists show, "a(x)=x^2"; empty for a kind that is not known.
 std::string displayText(const GraphDef& def);
+
+/// The same in pieces that stay in the graph, for a text that is not to be copied.
+std::vector<std::string_view> displayPieces(const GraphDef& def);
 
 /// The radius of a circumference, the "a" of an ellipse or a hyperbola. Nothing where that text is
 /// no number, and for every other kind.

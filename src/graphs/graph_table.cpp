@@ -21,18 +21,24 @@ std::size_t indexOf(char letter) { return static_cast<std::size_t>(letter - kFir
 char before(char letter) { return static_cast<char>(letter - 1); }
 char after(char letter) { return static_cast<char>(letter + 1); }
 
-/// Fills the codes of a graph by its kind; `codigo` is the code that it had.
-void makeCode(GraphDef& def, std::string codigo) {
+std::string compiled(const Parameters& parameters, std::string_view key) {
+  const std::string* const formula = parameters.find(key);
+  return formula == nullptr ? std::string() : NormaliseFormula(*formula);
+}
+
+/// Fills the codes of a graph by its kind; it has the old one, whose memory is free before a new
+/// one is made.
+void makeCode(GraphDef& def) {
+  if (def.tipo != 'P') std::string().swap(def.codigo);
   switch (def.tipo) {
     case 'F':
     case 'Z': def.codigo = NormaliseFormula(def.ecuacion); break;
-    case 'P': def.codigo = std::move(codigo); break;
     case 'C':
     case 'E':
     case 'H': def.codigo = def.parameters->Item("codigo1"); break;
     case 'T':
-      def.parameters->set("codigo_xt", NormaliseFormula(def.parameters->Item("ecuacion_xt")));
-      def.parameters->set("codigo_yt", NormaliseFormula(def.parameters->Item("ecuacion_yt")));
+      def.parameters->set("codigo_xt", compiled(*def.parameters, "ecuacion_xt"));
+      def.parameters->set("codigo_yt", compiled(*def.parameters, "ecuacion_yt"));
       break;
     default: break;
   }
@@ -47,11 +53,15 @@ std::optional<GraphDef> GraphTable::graph(char letter) const {
   return slots_[indexOf(letter)];
 }
 
-bool GraphTable::storeGraph(const GraphDef& def) {
+const GraphDef* GraphTable::slot(char letter) const {
+  return isInTable(letter) ? &slots_[indexOf(letter)] : nullptr;
+}
+
+bool GraphTable::storeGraph(GraphDef def) {
   if (!isInTable(def.nombre)) return false;
   GraphDef& slot = slots_[indexOf(def.nombre)];
   if (!slot.defined) changeCount(1);
-  slot = def;
+  slot = std::move(def);
   return true;
 }
 
@@ -104,8 +114,9 @@ bool GraphTable::rebuildGraph(char nombre, std::string ecuacion, std::string cod
   def.tipo = tipo;
   def.defined = true;
   def.parameters = parameters ? std::move(parameters) : NewDictionary();
-  makeCode(def, std::move(codigo));
-  return storeGraph(def);
+  def.codigo = std::move(codigo);
+  makeCode(def);
+  return storeGraph(std::move(def));
 }
 
 std::string_view GraphTable::codeOf(char letter) const {

@@ -26,9 +26,12 @@ class GraphTable {
   /// A copy of the slot, whether or not it is in use.
   std::optional<GraphDef> graph(char letter) const;
 
+  /// The slot itself, whether or not it is in use; null for any other letter.
+  const GraphDef* slot(char letter) const;
+
   /// Writes the slot of `def.nombre`. The caller sets `defined`. The count goes up unless the slot
   /// was in use already.
-  bool storeGraph(const GraphDef& def);
+  bool storeGraph(GraphDef def);
 
   /// The slot is no longer in use; its other fields stay. The count goes down even when the slot
   /// was not in use: this is meant.

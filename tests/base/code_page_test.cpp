@@ -53,6 +53,21 @@ TEST(CodePage, PutsAQuestionMarkForEachByteThatIsNotUtf8) {
   EXPECT_EQ(toCodePage("\x80"), "?");
 }
 
+TEST(CodePage, TellsTheSizeOfWhatItGives) {
+  for (const char* const text : {"", "abc", "a€ñ", "\xE2\x82", "Ωz"})
+    EXPECT_EQ(codePageSize(text), toCodePage(text).size()) << text;
+}
+
+TEST(CodePage, TellsWhetherATextIsKept) {
+  EXPECT_TRUE(isKeptByCodePage("", ""));
+  EXPECT_TRUE(isKeptByCodePage("a€ñ\u0081", "a€ñ\u0081"));
+  EXPECT_TRUE(isKeptByCodePage("Ω\xFFz", "??z"));
+  EXPECT_FALSE(isKeptByCodePage("Ω", "Ω"));
+  EXPECT_FALSE(isKeptByCodePage("a€", "a"));
+  EXPECT_FALSE(isKeptByCodePage("a", "a€"));
+  EXPECT_FALSE(isKeptByCodePage("ab", "ac"));
+}
+
 TEST(CodePage, KeepsZeroBytesAndEmptyTexts) {
   const std::string zero("a\0b", 3);
   EXPECT_EQ(toCodePage(zero), zero);

@@ -88,6 +88,18 @@ TEST(KeyedDictionary, TakesManyKeysInTimeThatGrowsWithThem) {
   EXPECT_EQ(dictionary.Count(), 200'000u);
 }
 
+TEST(KeyedDictionary, ShowsItsOwnValueAndGivesItAway) {
+  Dictionary dictionary;
+  dictionary.Add("h", "1");
+  ASSERT_NE(dictionary.find("h"), nullptr);
+  EXPECT_EQ(*dictionary.find("h"), "1");
+  EXPECT_EQ(dictionary.find("k"), nullptr);
+  EXPECT_EQ(dictionary.take("h"), "1");
+  EXPECT_EQ(dictionary.take("k"), "");
+  EXPECT_EQ(dictionary.keys(), std::vector<std::string>{"h"});
+  EXPECT_EQ(dictionary.Item("h"), "");
+}
+
 TEST(Dictionary, IsNewAndEmptyAtFirst) {
   const auto one = NewDictionary();
   const auto other = NewDictionary<int>();

@@ -48,6 +48,20 @@ TEST(Text, ReplacesFromLeftToRightAndNeverInWhatItPutIn) {
   EXPECT_EQ(replaceAll("", "b", "c"), "");
 }
 
+TEST(Text, ReplacesWithinATextAsInACopyOfIt) {
+  const auto within = [](std::string text, std::string_view from, std::string_view to) {
+    replaceWithin(text, from, to);
+    return text;
+  };
+  EXPECT_EQ(within("aaa", "aa", "b"), "ba");
+  EXPECT_EQ(within("x+x", "x", "(x)"), "(x)+(x)");
+  EXPECT_EQ(within("abc", "", "y"), "abc");
+  EXPECT_EQ(within("abcabc", "b", ""), "acac");
+  EXPECT_EQ(within("senxsen+senx", "sen", "10@"), "10@x10@+10@x");
+  EXPECT_EQ(within("gamma1gamma", "gamma", "1@"), "1@11@");
+  EXPECT_EQ(within("", "b", "c"), "");
+}
+
 TEST(Text, ReplacesWhateverTheCase) {
   EXPECT_EQ(replaceAllIgnoringCase("h*H", "h", "(1)"), "(1)*(1)");
   EXPECT_EQ(replaceAllIgnoringCase("SENO seno", "sen", "10@"), "10@O 10@o");

@@ -19,7 +19,7 @@ class DamagedDocuments : public DocumentTest {
     header.removeAll();
     header.Add("old", "pair");
     SecondReading second(fromCodePage(bytes), view);
-    const bool loaded = loadDocumentText(fromCodePage(bytes), view, graphs, header, message);
+    const bool loaded = loadDocumentBytes(bytes, view, graphs, header, message);
     ++(loaded ? loads_ : failures_[message]);
     EXPECT_EQ(loaded, second.loaded());
     EXPECT_EQ(message, second.message.value_or(""));

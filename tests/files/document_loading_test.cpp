@@ -154,12 +154,12 @@ TEST_F(DocumentLoading, NeedsNothingBehindTheLastParameters) {
   EXPECT_EQ(letters(), "ab");
 }
 
-TEST_F(DocumentLoading, TakesATextThatWasReadAlready) {
-  EXPECT_TRUE(loadDocumentText(sampleText(), view, graphs, header, message));
+TEST_F(DocumentLoading, TakesBytesThatWereReadAlready) {
+  EXPECT_TRUE(loadDocumentBytes(sampleText(), view, graphs, header, message));
   EXPECT_EQ(letters(), "ab");
   EXPECT_EQ(view, sampleView());
   EXPECT_EQ(documentBytes(view, graphs), sampleText());
-  EXPECT_FALSE(loadDocumentText("", view, graphs, header, message));
+  EXPECT_FALSE(loadDocumentBytes("", view, graphs, header, message));
   EXPECT_EQ(message, kNotCompatible);
 }
 

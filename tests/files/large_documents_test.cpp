@@ -3,6 +3,7 @@
 #include <random>
 
 #include "document_fixture.h"
+#include "files/document_parser.h"
 
 namespace zel::test {
 namespace {
@@ -17,22 +18,47 @@ class LargeDocuments : public DocumentTest {
     return text;
   }
 
-  static std::string numberedPairs() {
+  static std::string numberedPairs(std::size_t count) {
     std::string text;
-    for (int i = 0; text.size() < kLarge; ++i) text += std::to_string(i) + "=\r\n";
+    for (std::size_t i = 0; i < count; ++i) text += std::to_string(i) + "=\r\n";
     return text;
+  }
+
+  /// Loads the sample with so many pairs in one section, of which it holds some already.
+  bool loadPairs(std::size_t count, std::size_t already, const std::string& before) {
+    return loadSampleWith(before, numberedPairs(count - already) + before);
   }
 };
 
-TEST_F(LargeDocuments, MayHoldManyHeaderPairs) {
-  ASSERT_TRUE(loadSampleWith("usuario=", numberedPairs() + "usuario="));
+constexpr std::size_t kHeaderPairs = 12;
+constexpr std::size_t kPropertyPairs = 6;
+constexpr std::size_t kCircleParameters = 5;
+
+TEST_F(LargeDocuments, MayHoldManyHeaderPairsAndNotOneMore) {
+  ASSERT_TRUE(loadPairs(kMostPairs, kHeaderPairs, "usuario="));
+  EXPECT_EQ(header.Count(), kMostPairs);
   EXPECT_EQ(header.Item("usuario"), "desconocido");
+  expectFailure(loadPairs(kMostPairs + 1, kHeaderPairs, "usuario="), "", "");
 }
 
-TEST_F(LargeDocuments, MayHoldManyParametersAndGiveThemBack) {
-  const std::string pairs = numberedPairs();
-  ASSERT_TRUE(loadSampleWith("codigo2=", pairs + "codigo2="));
-  EXPECT_NE(documentText(view, graphs).find(pairs), std::string::npos);
+TEST_F(LargeDocuments, MayHoldManyPropertiesAndNotOneMore) {
+  EXPECT_TRUE(loadPairs(kMostPairs, kPropertyPairs, "nombre=b"));
+  expectFailure(loadPairs(kMostPairs + 1, kPropertyPairs, "nombre=b"), "", "a");
+}
+
+TEST_F(LargeDocuments, MayHoldManyParametersAndGivesThemBackAndNotOneMore) {
+  ASSERT_TRUE(loadPairs(kMostPairs, kCircleParameters, "codigo2="));
+  EXPECT_NE(documentText(view, graphs).find(numberedPairs(kMostPairs - kCircleParameters)),
+            std::string::npos);
+  EXPECT_TRUE(writeDocument(path, view, graphs).written);
+  expectFailure(loadPairs(kMostPairs + 1, kCircleParameters, "codigo2="), "", "a");
+}
+
+TEST_F(LargeDocuments, AreNotWrittenWithMoreParametersThanAreRead) {
+  const auto many = NewDictionary();
+  for (std::size_t i = 0; i <= kMostPairs; ++i) many->Add(std::to_string(i), "");
+  graphs.rebuildGraph('a', "x", "", 0, 'F', many);
+  EXPECT_EQ(documentBytes(view, graphs), std::nullopt);
 }
 
 TEST_F(LargeDocuments, MayHoldManyGraphs) {

@@ -115,6 +115,14 @@ TEST(GraphTable, EmptiesEverySlotWhenCleared) {
   }
 }
 
+TEST(GraphTable, ShowsItsOwnSlots) {
+  const GraphTable table = tableWith("b");
+  ASSERT_NE(table.slot('b'), nullptr);
+  EXPECT_TRUE(table.slot('b')->defined);
+  EXPECT_FALSE(table.slot('a')->defined);
+  for (const char letter : {'A', '`', '{', '\0'}) EXPECT_EQ(table.slot(letter), nullptr);
+}
+
 TEST(GraphTable, StartsItsCountAnewWhenInitialised) {
   GraphTable table = tableWith("ab");
   table.initGraphDefinitions();
