@@ -35,9 +35,10 @@ struct WriteResult {
 
 /// Replaces the file by a new one with its permissions, access control list and extended
 /// attributes, in one step: a failure leaves the older file as it was and nothing else behind, and
-/// only a kill can leave a temporary file (".zel-...") in the folder. A symbolic link stays and its
-/// target is replaced; one that leads nowhere is not followed. What may not be written is not
-/// replaced.
+/// only a kill, or a disk that fails for good, can leave a temporary file in the folder
+/// (".zel-...tmp", which its user alone may read), which the next write there takes away. A
+/// symbolic link stays and its target is replaced; one that leads nowhere is not followed. What may
+/// not be written is not replaced.
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes);
 
 }  // namespace zel

@@ -3,13 +3,17 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
+#include <new>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "files/descriptor.h"
 #include "files/file_access.h"
+#include "files/leftovers.h"
+#include "files/temporary_name.h"
 #include "files/whole_file.h"
 
 namespace zel {
@@ -17,42 +21,9 @@ namespace {
 
 constexpr int kMostLinks = 40;
 constexpr int kMostTemporaryNames = 100;
+constexpr int kMostLooks = 100;
 constexpr mode_t kModeOfNewFile = 0666;  // less what the umask takes away
-
-/// Owns a file descriptor.
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() { close(); }
-
-  explicit operator bool() const { return number_ >= 0; }
-  int number() const { return number_; }
-
-  /// Returns 0 or the error. An interrupted close has closed all the same.
-  int close() {
-    if (number_ < 0) return 0;
-    const int error = ::close(number_) == 0 || errno == EINTR ? 0 : errno;
-    number_ = -1;
-    return error;
-  }
-
- private:
-  int number_;
-};
-
-/// Calls again while a signal interrupts the call.
-template <class Call>
-auto retried(Call call) {
-  auto result = call();
-  while (result < 0 && errno == EINTR) result = call();
-  return result;
-}
-
-int openFile(const std::string& path, int flags, mode_t mode = 0) {
-  return retried([&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); });
-}
+constexpr mode_t kHiddenMode = S_IRUSR | S_IWUSR;
 
 /// A path can hold no '\0': the system would take another file.
 bool isPath(const std::string& path) {
@@ -90,10 +61,17 @@ bool isSameFile(const struct stat& one, const struct stat& other) {
   return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
-/// A new file in a folder, which goes away again unless it is renamed.
+/// A new file in a folder, which goes away again unless it is renamed. Until then it is locked, so
+/// that nobody takes it for the leftover of a killed save.
 class TemporaryFile {
  public:
-  TemporaryFile(const std::string& folder, mode_t mode) : descriptor_(make(folder, mode)) {}
+  /// `mode` is that of the new file, or kHiddenMode where that comes from an older file.
+  TemporaryFile(const std::string& folder, mode_t mode) {
+    for (int i = 0; i < kMostTemporaryNames && error_ == EEXIST; ++i) {
+      const std::string name = newTemporaryName();
+      error_ = name.empty() ? EIO : create(folder + name, mode);
+    }
+  }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile() {
@@ -105,9 +83,18 @@ class TemporaryFile {
   int error() const { return error_; }
   int number() const { return descriptor_.number(); }
 
-  /// Returns 0 or the error, and so does renameTo.
+  /// Lets others use it who may use a new file. Returns 0 or the error, and so do finish and
+  /// renameTo.
+  int unhide() {
+    const bool hidden = mode_ != kHiddenMode;
+    return !hidden || ::fchmod(number(), mode_) == 0 ? 0 : errno;
+  }
+
+  /// Another descriptor keeps the lock.
   int finish() {
-    const int error = retried([this] { return ::fsync(descriptor_.number()); }) == 0 ? 0 : errno;
+    lock_.reset(::fcntl(number(), F_DUPFD_CLOEXEC, 0));
+    if (!lock_) return errno;
+    const int error = retried([this] { return ::fsync(number()); }) == 0 ? 0 : errno;
     const int close_error = descriptor_.close();
     return error == 0 ? close_error : error;
   }
@@ -119,38 +106,61 @@ class TemporaryFile {
   }
 
  private:
-  /// -1 when no file can be made; `path_` is then empty.
-  int make(const std::string& folder, mode_t mode) {
-    for (int i = 0; i < kMostTemporaryNames; ++i) {
-      path_ = folder + ".zel-" + std::to_string(::getpid()) + "-" + std::to_string(i);
-      const int number = openFile(path_, O_WRONLY | O_CREAT | O_EXCL, mode);
-      error_ = number >= 0 ? 0 : errno;
-      if (number >= 0) return number;
-      if (error_ != EEXIST) break;
+  /// Returns 0 or the error: EEXIST where the name is taken, or was taken away.
+  int create(const std::string& path, mode_t mode) {
+    descriptor_.reset(openFile(path, O_WRONLY | O_CREAT | O_EXCL, mode));
+    if (!descriptor_) return errno;
+    const int error = mode == kHiddenMode ? 0 : hide();
+    if (error == 0 && isHeld()) {
+      path_ = path;
+      return 0;
     }
-    path_.clear();
-    return -1;
+    ::unlink(path.c_str());
+    descriptor_.close();
+    return error == 0 ? EEXIST : error;
   }
 
-  int error_ = 0;
+  /// The file is empty yet. Keeps its permissions, which the system made of the umask and of the
+  /// folder's list. Some file systems have the same for all files. Returns 0 or the error.
+  int hide() {
+    struct stat made {};
+    if (::fstat(number(), &made) != 0) return errno;
+    constexpr mode_t kPermissions = 07777;
+    if (::fchmod(number(), kHiddenMode) == 0) mode_ = made.st_mode & kPermissions;
+    return 0;
+  }
+
+  /// Whether it is locked, and not taken away before that. Where there are no locks, nobody takes
+  /// it away.
+  bool isHeld() const {
+    if (::flock(number(), LOCK_EX | LOCK_NB) != 0) return errno != EWOULDBLOCK;
+    struct stat made {};
+    return ::fstat(number(), &made) != 0 || made.st_nlink > 0;
+  }
+
+  int error_ = EEXIST;
+  mode_t mode_ = kHiddenMode;  // of a new file
   std::string path_;
   Descriptor descriptor_;
+  Descriptor lock_;
 };
 
 /// So that the renaming outlives a power cut. Some folders may be written and not read, and some
 /// file systems cannot do this: the new file is in its place all the same.
 void syncFolder(const std::string& folder) {
-  const Descriptor descriptor(openFile(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY));
+  const std::string here = ".";
+  const Descriptor descriptor(openFile(folder.empty() ? here : folder, O_RDONLY | O_DIRECTORY));
   if (descriptor) retried([&] { return ::fsync(descriptor.number()); });
 }
 
 /// `old` is null where there is no file yet. Returns 0 or the error.
 int replaceFile(const std::string& path, std::string_view bytes, const struct stat* old) {
   const std::string folder = folderOf(path);
-  TemporaryFile file(folder, old == nullptr ? kModeOfNewFile : S_IRUSR | S_IWUSR);
+  removeLeftovers(path);
+  TemporaryFile file(folder, old == nullptr ? kModeOfNewFile : kHiddenMode);
   int error = file.error();
   if (error == 0) error = writeAll(file.number(), bytes);
-  if (error == 0 && old != nullptr) error = takeAfter(file.number(), path, *old);
+  if (error == 0) error = old == nullptr ? file.unhide() : takeAfter(file.number(), path, *old);
   if (error == 0) error = file.finish();
   if (error == 0) error = file.renameTo(path);
   if (error == 0) syncFolder(folder);
@@ -166,14 +176,28 @@ WriteResult writeNewFile(const std::string& path, std::string_view bytes) {
   return resultOf(false, replaceFile(path, bytes, nullptr));
 }
 
-WriteResult replaceTarget(const std::string& path, std::string_view bytes, const struct stat& old) {
+WriteResult replaceTarget(const std::string& path, std::string_view bytes) {
   const auto target = followLinks(path);
   if (!target) return resultOf(true, ELOOP);
+  struct stat old {};
   struct stat found {};
-  if (::stat(target->c_str(), &found) != 0) return resultOf(true, errno);
-  if (!isSameFile(found, old)) return resultOf(true, ENOENT);
+  // They differ where another save comes between the two looks, and for a name that is no path.
+  for (int i = 0; i == 0 || !isSameFile(found, old); ++i) {
+    if (i == kMostLooks) return resultOf(true, ENOENT);
+    if (::stat(path.c_str(), &old) != 0 || ::stat(target->c_str(), &found) != 0)
+      return resultOf(true, errno);
+  }
   if (::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0) return resultOf(true, errno);
   return resultOf(true, replaceFile(*target, bytes, &old));
+}
+
+WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
+  struct stat old {};
+  if (::stat(path.c_str(), &old) != 0)
+    return errno == ENOENT ? writeNewFile(path, bytes) : resultOf(false, errno);
+  if (S_ISDIR(old.st_mode)) return resultOf(false, EISDIR);
+  if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
+  return replaceTarget(path, bytes);
 }
 
 /// A regular file, open for reading; nothing else is waited for, nor even opened where that can be
@@ -227,12 +251,11 @@ std::optional<std::string> readWholeFile(const std::string& path) {
 
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes) {
   if (!isPath(path)) return resultOf(false, path.empty() ? ENOENT : EINVAL);
-  struct stat old {};
-  if (::stat(path.c_str(), &old) != 0)
-    return errno == ENOENT ? writeNewFile(path, bytes) : resultOf(false, errno);
-  if (S_ISDIR(old.st_mode)) return resultOf(false, EISDIR);
-  if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
-  return replaceTarget(path, bytes, old);
+  try {
+    return writeAnyFile(path, bytes);
+  } catch (const std::bad_alloc&) {  // before the new file has its place
+    return resultOf(fileExists(path), ENOMEM);
+  }
 }
 
 }  // namespace zel

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// The names of the files that become another one's newer version.
+namespace zel {
+
+/// ".zel-", 16 random hexadecimal digits that nobody can foresee, and ".tmp"; empty where the
+/// system gives no random numbers.
+std::string newTemporaryName();
+
+/// Whether a name, without its folder, is one of these.
+bool isTemporaryName(std::string_view name);
+
+}  // namespace zel
