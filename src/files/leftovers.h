@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
+#include <filesystem>
 
 namespace zel {
 
@@ -11,6 +11,6 @@ inline constexpr std::size_t kMostNamesLookedAt = 10000;
 /// Takes away the temporary files that killed saves left in the folder of this file: regular files
 /// of the name that only they have, the user's own ones, which no running save holds. What cannot
 /// be taken away stays.
-void removeLeftovers(const std::string& path);
+void removeLeftovers(const std::filesystem::path& file);
 
 }  // namespace zel

@@ -39,7 +39,8 @@ void removeUnlessHeld(int folder, const char* name) {
 
 }  // namespace
 
-void removeLeftovers(const std::string& path) {
+void removeLeftovers(const std::filesystem::path& file) {
+  const std::string& path = file.native();
   const std::size_t name_begin = path.rfind('/') + 1;
   const std::string folder = path.substr(0, name_begin);
   const std::unique_ptr<DIR, CloseFolder> names(::opendir(folder.empty() ? "." : folder.c_str()));

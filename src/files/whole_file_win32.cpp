@@ -7,7 +7,10 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <new>
 
+#include "files/leftovers.h"
+#include "files/temporary_name.h"
 #include "files/whole_file.h"
 
 namespace zel {
@@ -29,6 +32,12 @@ class File {
 
   explicit operator bool() const { return handle_ != INVALID_HANDLE_VALUE; }
   HANDLE handle() const { return handle_; }
+
+  /// Owns this one instead.
+  void reset(HANDLE handle) {
+    close();
+    handle_ = handle;
+  }
 
   /// Returns no error or the system's, as all below do that return a number.
   DWORD close() {
@@ -108,7 +117,8 @@ DWORD findTarget(const std::wstring& path, std::wstring& target) {
   return NO_ERROR;
 }
 
-/// A new file in a folder, which goes away again unless it is put in another's place.
+/// A new file in a folder, which goes away again unless it is put in another's place. It is open
+/// until then, so that nobody takes it for the leftover of a killed save.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::wstring& folder) : file_(make(folder)) {}
@@ -116,6 +126,7 @@ class TemporaryFile {
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile() {
     file_.close();
+    hold_.close();
     if (!path_.empty()) DeleteFileW(path_.c_str());
   }
 
@@ -123,7 +134,11 @@ class TemporaryFile {
   DWORD error() const { return error_; }
   HANDLE handle() const { return file_.handle(); }
 
+  /// Another handle holds it, which lets it be moved.
   DWORD finish() {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    hold_.reset(openFile(path_, GENERIC_READ, OPEN_EXISTING, kShareAll));
+    if (!hold_) return GetLastError();
     const DWORD error = errorUnless(FlushFileBuffers(file_.handle()) != 0);
     const DWORD close_error = file_.close();
     return error == NO_ERROR ? close_error : error;
@@ -145,10 +160,13 @@ class TemporaryFile {
 
  private:
   HANDLE make(const std::wstring& folder) {
-    const std::wstring start = folder + L".zel-" + std::to_wstring(GetCurrentProcessId()) + L"-";
     for (int i = 0; i < kMostTemporaryNames; ++i) {
-      path_ = start + std::to_wstring(i);
-      const HANDLE handle = openFile(path_, GENERIC_WRITE, CREATE_NEW, 0);
+      const std::string name = newTemporaryName();
+      error_ = ERROR_GEN_FAILURE;
+      if (name.empty()) break;
+      path_ = folder + std::wstring(name.begin(), name.end());
+      const HANDLE handle =
+          openFile(path_, GENERIC_WRITE, CREATE_NEW, FILE_SHARE_READ | FILE_SHARE_DELETE);
       error_ = errorUnless(handle != INVALID_HANDLE_VALUE);
       if (error_ == NO_ERROR) return handle;
       if (error_ != ERROR_FILE_EXISTS) break;
@@ -160,9 +178,11 @@ class TemporaryFile {
   DWORD error_ = NO_ERROR;
   std::wstring path_;
   File file_;
+  File hold_{INVALID_HANDLE_VALUE};
 };
 
 DWORD replaceFile(const std::wstring& path, std::string_view bytes, bool existed) {
+  removeLeftovers(path);
   TemporaryFile file(folderOf(path));
   DWORD error = file.error();
   if (error == NO_ERROR) error = writeAll(file.handle(), bytes);
@@ -173,6 +193,20 @@ DWORD replaceFile(const std::wstring& path, std::string_view bytes, bool existed
 
 WriteResult resultOf(bool existed, DWORD error) {
   return {existed, error == NO_ERROR, static_cast<int>(error)};
+}
+
+WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
+  const std::wstring wide = widePath(path);
+  if (wide.empty()) return resultOf(false, ERROR_INVALID_NAME);
+  const DWORD attributes = GetFileAttributesW(wide.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) {
+    const DWORD error = GetLastError();
+    return resultOf(false, isMissing(error) ? replaceFile(wide, bytes, false) : error);
+  }
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return resultOf(false, ERROR_ACCESS_DENIED);
+  std::wstring target;
+  const DWORD error = findTarget(wide, target);
+  return resultOf(true, error == NO_ERROR ? replaceFile(target, bytes, true) : error);
 }
 
 std::optional<std::string> readAll(HANDLE handle) {
@@ -228,17 +262,11 @@ std::optional<std::string> readWholeFile(const std::string& path) {
 }
 
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes) {
-  const std::wstring wide = widePath(path);
-  if (wide.empty()) return resultOf(false, ERROR_INVALID_NAME);
-  const DWORD attributes = GetFileAttributesW(wide.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) {
-    const DWORD error = GetLastError();
-    return resultOf(false, isMissing(error) ? replaceFile(wide, bytes, false) : error);
+  try {
+    return writeAnyFile(path, bytes);
+  } catch (const std::bad_alloc&) {  // before the new file has its place
+    return resultOf(fileExists(path), ERROR_NOT_ENOUGH_MEMORY);
   }
-  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return resultOf(false, ERROR_ACCESS_DENIED);
-  std::wstring target;
-  const DWORD error = findTarget(wide, target);
-  return resultOf(true, error == NO_ERROR ? replaceFile(target, bytes, true) : error);
 }
 
 }  // namespace zel

@@ -1,6 +1,8 @@
 // save_interrupted FOLDER: saves a document over another one, in processes that end themselves
 // before the first, the second, ... call that touches a file, and after each; then one that is let
-// be. Whatever a stopped process leaves must be the older or the newer document, whole.
+// be. Whatever a stopped process leaves must be the older or the newer document, whole, and the
+// next save takes away what is left beside it. The same where a call fails, or it and all later
+// ones.
 //
 // The calls are caught where the program's import table would be: this file has the pointers that
 // the linker would take from the import library.
@@ -13,6 +15,8 @@
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <type_traits>
+#include <utility>
 
 #include "files/whole_file.h"
 
@@ -22,7 +26,12 @@ constexpr UINT kStopped = 77;
 
 int stop_before = 0;  // at this call from the first; 0 never
 int stop_after = 0;
+int fail_at = 0;
+bool fails_for_good = false;
+DWORD failure = NO_ERROR;
 int calls = 0;
+
+bool isFaulty() { return fail_at != 0 && (fails_for_good ? calls >= fail_at : calls == fail_at); }
 
 template <class Function>
 Function* systemFunction(const char* name) {
@@ -32,11 +41,25 @@ Function* systemFunction(const char* name) {
 
 void stop() { TerminateProcess(GetCurrentProcess(), kStopped); }
 
+/// What it returns where it fails. A handle that fails to close is closed all the same.
+template <class Function, class... Arguments>
+auto failed(const char* name, Arguments... arguments) {
+  using Result = decltype(std::declval<Function*>()(arguments...));
+  if constexpr (std::is_same_v<Function, decltype(CloseHandle)>)
+    systemFunction<Function>(name)(arguments...);
+  SetLastError(failure);
+  if constexpr (std::is_same_v<Result, HANDLE>)
+    return INVALID_HANDLE_VALUE;
+  else
+    return Result{};
+}
+
 /// Calls the system's function of this name, or ends the process before or behind it.
 template <class Function, class... Arguments>
 auto counted(const char* name, Arguments... arguments) {
   ++calls;
   if (calls == stop_before) stop();
+  if (isFaulty()) return failed<Function>(name, arguments...);
   const auto result = systemFunction<Function>(name)(arguments...);
   const DWORD error = GetLastError();
   if (calls == stop_after) stop();
@@ -138,6 +161,42 @@ std::string complaint(const fs::path& folder, const fs::path& document, bool exi
   return "neither document, but " + std::to_string(bytes.size()) + " bytes";
 }
 
+/// Whether an untouched save leaves the newer document alone in the folder.
+bool isCleaned(const fs::path& folder, const fs::path& document) {
+  if (!zel::writeWholeFile(utf8(document), kNew).written || bytesOf(document) != kNew) return false;
+  return std::distance(fs::directory_iterator(folder), fs::directory_iterator()) == 1;
+}
+
+/// Lets every call fail in turn. False for a complaint.
+bool survives(const fs::path& folder, DWORD error, bool for_good, bool existed) {
+  const fs::path document = folder / u8"é Ω.zel";
+  int call = 0;
+  do {
+    ++call;
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    if (existed) std::ofstream(document, std::ios::binary) << kOld;
+    calls = 0;
+    failure = error;
+    fails_for_good = for_good;
+    fail_at = call;
+    const bool written = zel::writeWholeFile(utf8(document), kNew).written;
+    fail_at = 0;
+    const int made = calls;
+    std::string wrong = complaint(folder, document, existed);
+    if (wrong.empty() && written && bytesOf(document) != kNew)
+      wrong = "written, and it is not there";
+    if (wrong.empty() && !isCleaned(folder, document)) wrong = "not cleaned by the next save";
+    if (!wrong.empty()) {
+      std::cout << "error " << error << " at call " << call << ": " << wrong << '\n';
+      return false;
+    }
+    if (made < call) break;
+  } while (true);
+  constexpr int kFewest = 6;
+  return call > kFewest;
+}
+
 /// Stops at every call in turn. False for a complaint.
 bool holds(const fs::path& folder, const std::string& when, bool existed) {
   const fs::path document = folder / u8"é Ω.zel";
@@ -149,7 +208,9 @@ bool holds(const fs::path& folder, const std::string& when, bool existed) {
     if (existed) std::ofstream(document, std::ios::binary) << kOld;
     status = saveInProcess(document, when, call);
     const std::string wrong = complaint(folder, document, existed);
-    if (!wrong.empty() || (status != kStopped && (status != 0 || bytesOf(document) != kNew))) {
+    const bool is_cleaned = !wrong.empty() || isCleaned(folder, document);
+    if (!wrong.empty() || !is_cleaned ||
+        (status != kStopped && (status != 0 || bytesOf(document) != kNew))) {
       std::cout << when << " call " << call << ": " << wrong << " (status " << status << ")\n";
       return false;
     }
@@ -178,6 +239,10 @@ int wmain(int count, wchar_t** wide) {
   for (const char* const when : {"before", "after"})
     for (const bool existed : {true, false})
       if (!holds(folder, when, existed)) all_hold = false;
+  for (const DWORD error : {ERROR_DISK_FULL, ERROR_IO_DEVICE, ERROR_ACCESS_DENIED})
+    for (const bool for_good : {false, true})
+      for (const bool existed : {true, false})
+        if (!survives(folder, error, for_good, existed)) all_hold = false;
   fs::remove_all(folder);
   return all_hold ? 0 : 1;
 }
