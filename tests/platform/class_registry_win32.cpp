@@ -72,6 +72,15 @@ TEST_F(ClassRegistryOfWindows, GivesTheUsersOwnClassesWhatTheRootRefuses) {
   EXPECT_EQ(users("zel\\DefaultIcon"), "C:\\z\\doc.ico");
 }
 
+TEST_F(ClassRegistryOfWindows, MakesNoEntryForAPathThatItWouldNameWrongly) {
+  Win32ClassRegistry registry(root());
+  for (const char* const folder : {"C:\\100%", "C:\\%1", "C:\\\xF0\x9F\x93\x88"}) {
+    registerZelDocuments(registry, {folder, "zel"});
+    EXPECT_EQ(value("Software\\zel-test\\zel\\shell\\open\\command"), "-") << folder;
+  }
+  EXPECT_EQ(value("Software\\zel-test\\zel"), "Function graphic");
+}
+
 TEST_F(ClassRegistryOfWindows, GivesThemTheValuesOfAKeyThatMayOnlyBeOpened) {
   Win32ClassRegistry registry(root());
   const ClassRegistry::Key key = registry.createKey("zel");

@@ -13,4 +13,7 @@ std::string fromWide(std::wstring_view wide);
 /// The system's ANSI code page; what it lacks becomes its default character.
 std::string toAnsi(std::string_view utf8);
 
+/// Whether that code page has it all.
+bool fitsAnsi(std::string_view utf8);
+
 }  // namespace zel

@@ -31,4 +31,12 @@ std::string fromWide(std::wstring_view wide) { return toBytes(wide, CP_UTF8); }
 
 std::string toAnsi(std::string_view utf8) { return toBytes(toWide(utf8), CP_ACP); }
 
+bool fitsAnsi(std::string_view utf8) {
+  const std::wstring wide = toWide(utf8);
+  BOOL lacks = FALSE;
+  WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, wide.data(), static_cast<int>(wide.size()),
+                      nullptr, 0, nullptr, &lacks);
+  return lacks == FALSE;
+}
+
 }  // namespace zel

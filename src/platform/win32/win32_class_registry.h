@@ -10,7 +10,8 @@ namespace zel {
 
 /// The class registry of Windows. Where the system refuses a key or a value, which takes an
 /// administrator's rights outside of the user's own classes, those get it. A call that fails there
-/// too is passed over, and keys are not closed: both are meant.
+/// too is passed over, and keys are not closed: both are meant. No entry is made for a path that it
+/// would name wrongly.
 class Win32ClassRegistry : public ClassRegistry {
  public:
   /// Writes below HKEY_CLASSES_ROOT.

@@ -7,6 +7,17 @@
 namespace zel {
 namespace {
 
+constexpr std::string_view kCommand = "shell\\open\\command";
+constexpr std::string_view kDocument = "%1";
+
+/// Whether what reads the entry finds the file that it names: the code page has every letter, and
+/// in a command "%" stands for the document at its end and nowhere else.
+bool namesItsFile(const std::string& subkey, const std::string& value) {
+  if (subkey.empty()) return true;  // a description
+  if (!fitsAnsi(value)) return false;
+  return subkey != kCommand || value.find('%') == value.rfind(kDocument);
+}
+
 constexpr const char* kUsersClasses = "Software\\Classes\\";
 
 bool create(HKEY root, const std::string& name, HKEY& key) {
@@ -35,7 +46,7 @@ ClassRegistry::Key Win32ClassRegistry::createKey(const std::string& name) {
 }
 
 void Win32ClassRegistry::setValue(Key key, const std::string& subkey, const std::string& value) {
-  if (set(reinterpret_cast<HKEY>(key), subkey, value)) return;
+  if (!namesItsFile(subkey, value) || set(reinterpret_cast<HKEY>(key), subkey, value)) return;
   // A key of the whole machine may be opened by everyone and written by few.
   HKEY own = nullptr;
   const auto name = names_.find(key);

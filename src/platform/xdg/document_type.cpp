@@ -1,6 +1,7 @@
 #include "platform/xdg/document_type.h"
 
 #include "base/text.h"
+#include "base/utf8.h"
 
 namespace zel {
 namespace {
@@ -32,7 +33,24 @@ std::string commandWord(const std::string& text) {
   return "\"" + word + "\"";
 }
 
+/// The replacement character is what is left of bytes that were no UTF-8.
+bool isPlain(std::string_view text) {
+  constexpr char32_t kReplacement = 0xFFFD;
+  while (!text.empty()) {
+    const DecodedCharacter decoded = decodeCharacter(text);
+    if (decoded.size == 0 || isControl(decoded.character) || decoded.character == kReplacement)
+      return false;
+    text.remove_prefix(decoded.size);
+  }
+  return true;
+}
+
 }  // namespace
+
+bool canBeNamed(const DocumentType& type) {
+  return isPlain(type.program_path) && isPlain(type.working_folder) &&
+         type.program_path.find('=') == std::string::npos;
+}
 
 std::string mimeType(const DocumentType& type) { return "application/x-" + type.name; }
 

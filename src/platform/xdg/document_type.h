@@ -13,6 +13,10 @@ struct DocumentType {
   std::string working_folder;  // in which it is started, so that it finds its configuration
 };
 
+/// Whether a desktop entry can name the program and the folder: in UTF-8, without control
+/// characters, and the program without "=", which no entry may hold.
+bool canBeNamed(const DocumentType& type);
+
 /// "application/x-zel"
 std::string mimeType(const DocumentType& type);
 
@@ -22,7 +26,7 @@ std::string iconName(const DocumentType& type);
 /// The package of the shared MIME database that declares the type.
 std::string mimePackageText(const DocumentType& type);
 
-/// The desktop entry of the program. It is passed over once the program is gone.
+/// The desktop entry of a program that can be named. It is passed over once the program is gone.
 std::string desktopEntryText(const DocumentType& type);
 
 }  // namespace zel

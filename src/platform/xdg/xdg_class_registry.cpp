@@ -6,6 +6,7 @@
 #include <sstream>
 #include <utility>
 
+#include "base/utf8.h"
 #include "files/whole_file.h"
 #include "platform/xdg/desktop_files.h"
 
@@ -35,7 +36,7 @@ ClassRegistry::Key XdgClassRegistry::createKey(const std::string& name) {
 }
 
 void XdgClassRegistry::setValue(Key key, const std::string& subkey, const std::string& value) {
-  if (key == 0 || key > keys_.size()) return;
+  if (key == 0 || key > keys_.size() || holdsControl(value)) return;
   const std::string name = keys_[key - 1] + (subkey.empty() ? "" : "\\") + subkey;
   entries_.set(name, value);
   news_.insert(name);
@@ -57,9 +58,9 @@ void XdgClassRegistry::publishCompleteTypes() {
     const std::set<std::string> wanted = {extension, type, type + R"(\shell\open\command)",
                                           type + "\\DefaultIcon"};
     if (type.empty() || !std::ranges::includes(news, wanted)) continue;
-    publishDocumentType(
-        {type, extension, entries_.Item(type), program_path_, QDir::currentPath().toStdString()},
-        data_folder_, launcher_);
+    const DocumentType published = {type, extension, entries_.Item(type), program_path_,
+                                    QDir::currentPath().toStdString()};
+    if (canBeNamed(published)) publishDocumentType(published, data_folder_, launcher_);
     for (const std::string& name : wanted) news_.erase(name);
   }
 }

@@ -70,5 +70,27 @@ TEST(DocumentType, QuotesTheProgramForTheCommandLine) {
   }
 }
 
+TEST(DocumentType, CanBeNamedWhereAnEntryGivesTheSamePathsBack) {
+  EXPECT_TRUE(canBeNamed(kZel));
+  for (const char* const path : {"/100%/zel", "/a b/zel", "/añejo/zel", "/a\"b`$c\\d/zel"}) {
+    DocumentType type = kZel;
+    type.program_path = type.working_folder = path;
+    EXPECT_TRUE(canBeNamed(type)) << path;
+  }
+  for (const char* const path :
+       {"/a\nExec=b/zel", "/a\rb/zel", "/a\tb/zel", "/a\x7F/zel", "/a\xC2\x85/zel", "/a\xFF/zel",
+        "/a\xC3/zel", "/a\xEF\xBF\xBD/zel"}) {
+    DocumentType type = kZel;
+    type.program_path = path;
+    EXPECT_FALSE(canBeNamed(type)) << path;
+    type = kZel;
+    type.working_folder = path;
+    EXPECT_FALSE(canBeNamed(type)) << path;
+  }
+  DocumentType type = kZel;
+  type.program_path = "/a=b/zel";
+  EXPECT_FALSE(canBeNamed(type));
+}
+
 }  // namespace
 }  // namespace zel::test

@@ -51,6 +51,22 @@ TEST_F(ClassesOfAUser, KeepsTheFourEntriesAsGiven) {
             "zel\\DefaultIcon=C:\\zel\\doc.ico\n");
 }
 
+TEST_F(ClassesOfAUser, MakesNoDesktopEntryForAPathThatItWouldNameWrongly) {
+  for (const char* const path : {"/a\nb/zel", "/a\xFF/zel", "/a=b/zel"}) {
+    XdgClassRegistry registry(data, path, launched.launcher());
+    EXPECT_TRUE(registerZelDocuments(registry, {"C:\\zel", "zel"}));
+    EXPECT_FALSE(exists("applications"));
+    EXPECT_FALSE(exists("mime"));
+  }
+}
+
+TEST_F(ClassesOfAUser, TakesNoValueThatWouldEndItsLine) {
+  XdgClassRegistry registry(data, "/opt/zel/zel", launched.launcher());
+  EXPECT_TRUE(registerZelDocuments(registry, {"C:\\a\n.zel=evil", "zel"}));
+  EXPECT_EQ(bytes("zel/classes"), "zel=Gráfico de funciones\n.zel=zel\n");
+  EXPECT_FALSE(exists("applications"));
+}
+
 TEST_F(ClassesOfAUser, DescribesTheTypeInTheLanguageOfTheRegistration) {
   registerDocuments();
   SetCurrentLanguage("EN");
