@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <new>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -107,16 +108,15 @@ class TemporaryFile {
 
  private:
   /// Returns 0 or the error: EEXIST where the name is taken, or was taken away.
-  int create(const std::string& path, mode_t mode) {
-    descriptor_.reset(openFile(path, O_WRONLY | O_CREAT | O_EXCL, mode));
-    if (!descriptor_) return errno;
-    const int error = mode == kHiddenMode ? 0 : hide();
-    if (error == 0 && isHeld()) {
-      path_ = path;
-      return 0;
-    }
-    ::unlink(path.c_str());
+  int create(std::string path, mode_t mode) {
+    path_ = std::move(path);
+    descriptor_.reset(openFile(path_, O_WRONLY | O_CREAT | O_EXCL, mode));
+    int error = descriptor_ ? 0 : errno;
+    if (error == 0 && mode != kHiddenMode) error = hide();
+    if (error == 0 && isHeld()) return 0;
+    if (descriptor_) ::unlink(path_.c_str());
     descriptor_.close();
+    path_.clear();
     return error == 0 ? EEXIST : error;
   }
 
@@ -186,6 +186,7 @@ WriteResult replaceTarget(const std::string& path, std::string_view bytes) {
     if (i == kMostLooks) return resultOf(true, ENOENT);
     if (::stat(path.c_str(), &old) != 0 || ::stat(target->c_str(), &found) != 0)
       return resultOf(true, errno);
+    if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
   }
   if (::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0) return resultOf(true, errno);
   return resultOf(true, replaceFile(*target, bytes, &old));

@@ -61,14 +61,20 @@ RedrawOutcome Drawing::redraw(Viewport& viewport, const ScaleMarks& marks) {
     begins_anew_ = true;
     return RedrawOutcome::abandoned;
   }
-  ++nested_;
+  const Nesting nesting(*this);
   RedrawOutcome outcome;
   do {
     begins_anew_ = false;
     outcome = drawOnce(viewport, marks);
   } while (begins_anew_);
-  --nested_;
   return outcome;
+}
+
+Drawing::Nesting::~Nesting() {
+  --drawing_.nested_;
+  if (std::uncaught_exceptions() == exceptions_) return;
+  drawing_.in_progress_ = false;
+  drawing_.putParameterBack();
 }
 
 RedrawOutcome Drawing::drawOnce(Viewport& viewport, const ScaleMarks& marks) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <optional>
 #include <string_view>
 
@@ -75,6 +76,19 @@ class Drawing {
    private:
     Drawing& drawing_;
     std::uint64_t number_;
+  };
+
+  /// One redraw that has begun. It ends tidily where memory runs out in it, too.
+  class Nesting {
+   public:
+    explicit Nesting(Drawing& drawing) : drawing_(drawing) { ++drawing_.nested_; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+    ~Nesting();
+
+   private:
+    Drawing& drawing_;
+    int exceptions_ = std::uncaught_exceptions();
   };
 
   RedrawOutcome drawOnce(Viewport& viewport, const ScaleMarks& marks);

@@ -9,10 +9,10 @@ trap 'rm -rf "$work"' EXIT
 # The sanitizer has memory of its own. (grep -q would end before nm, and fail the pipe.)
 nm -D "$cli" | grep __asan_init >/dev/null && exit 77
 
-python3 - "$cli" "$work" <<'PYTHON'
-import os, pathlib, subprocess, sys
-cli, work = sys.argv[1], pathlib.Path(sys.argv[2])
-SIZE, BESIDES, EACH = 12 << 20, 100 << 20, 8
+python3 - "$work" <<'PYTHON' || exit 1
+import pathlib, sys
+work = pathlib.Path(sys.argv[1])
+SIZE = 12 << 20
 
 
 def document(*graphs, header=()):
@@ -34,15 +34,22 @@ letters = b"abcdefghijklmnopqrstuvwxyz"
 documents = {
     "formula": document((b"a", [b"tipo=F", b"ecuacion=" + euros], [])),
     "signs": document((b"a", [b"tipo=F", b"ecuacion=" + signs], [])),
-    "parabola": document((b"a", [b"tipo=P", b"codigo=" + euros], [])),
-    "curve": document((b"a", [b"tipo=T"], [b"ecuacion_xt=" + euros])),
     "circle": document((b"a", [b"tipo=C"], [b"codigo1=" + euros])),
-    "family": document((b"a", [b"tipo=Z"], [b"parametro=" + euros])),
-    "header": document(header=[b"usuario=" + euros]),
     "twice": document(*[(b"a", [b"tipo=F", b"ecuacion=" + euros[:SIZE // 2]], [])] * 2),
     "pairs": document(*[(letters[i:i + 1], [b"tipo=F", b"ecuacion=x"], pairs(16384))
                         for i in range(26)], header=pairs(16383)),
 }
+
+
+for name, content in documents.items():
+    (work / f"{name}.zel").write_bytes(content)
+PYTHON
+
+# Another process: what it has itself counts for those that it starts.
+python3 - "$cli" "$work" <<'PYTHON'
+import os, pathlib, subprocess, sys
+cli, work = sys.argv[1], pathlib.Path(sys.argv[2])
+BESIDES, EACH = 100 << 20, 8
 
 
 def peak(*arguments):
@@ -63,13 +70,10 @@ def expect(name, used, size):
     failures += used > bound
 
 
-for name, content in documents.items():
-    path, out = work / f"{name}.zel", work / "out.zel"
-    path.write_bytes(content)
-    expect(f"check {name}", peak("check", path), len(content))
+for path in sorted(work.glob("*.zel")):
+    expect(f"check {path.stem}", peak("check", path), path.stat().st_size)
+    out = work / "out"
     used = peak("resave", path, out)
-    expect(f"resave {name}", used, max(len(content), out.stat().st_size))
-    expect(f"resave {name} again", peak("resave", out, path), out.stat().st_size)
-    path.unlink()
+    expect(f"resave {path.stem}", used, max(path.stat().st_size, out.stat().st_size))
 sys.exit(failures)
 PYTHON

@@ -18,7 +18,12 @@ std::string coordinate(std::string_view name, double value) {
 void PlotSession::walkOnce(const std::function<void()>& task) {
   if (is_walking_) return;
   is_walking_ = true;
-  task();
+  try {
+    task();
+  } catch (...) {  // for want of memory: the next walk may begin
+    is_walking_ = false;
+    throw;
+  }
   is_walking_ = false;
 }
 
