@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# The programs lie at a random place out of 64 bits, run no data, and have canaries on the stack.
+set -uo pipefail
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "$0")/wine.sh"
+
+for program in "$cli_path" "${cli_path%-cli.exe}.exe"; do
+  [[ -f $program ]] || continue
+  x86_64-w64-mingw32-objdump -p "$program" >"$work/headers"
+  for flag in DYNAMIC_BASE HIGH_ENTROPY_VA NX_COMPAT; do
+    grep -q "$flag" "$work/headers" || complain "${program##*/}: no $flag"
+  done
+  x86_64-w64-mingw32-nm "$program" >"$work/names" 2>/dev/null
+  grep -q __stack_chk_fail "$work/names" || complain "${program##*/}: no canaries"
+done
+[[ $failures -eq 0 ]]
