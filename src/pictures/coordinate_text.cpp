@@ -8,6 +8,8 @@ namespace zel {
 
 std::string coordinateText(double value) {
   constexpr double kLargestPlain = 1e15;
+  constexpr double kLeast = 1e-6;
+  if (std::fabs(value) < kLeast) value = 0;
   const auto format =
       std::fabs(value) < kLargestPlain ? std::chars_format::fixed : std::chars_format::scientific;
   std::array<char, 32> buffer;

@@ -49,8 +49,9 @@ bool clipLine(Place& from, Place& to, const ClipBox& box) {
     return Place{std::clamp(near.x + way * delta.x, box.left, box.right),
                  std::clamp(near.y + way * delta.y, box.top, box.bottom)};
   };
-  if (first > 0) from = at(first);
-  if (last < 1) to = at(last);
+  // The share of a far end may be rounded to all of the line.
+  if (!box.holds(from)) from = at(first);
+  if (!box.holds(to)) to = at(last);
   return true;
 }
 

@@ -80,6 +80,7 @@ RasterPicture::RasterPicture(int width, int height, double density)
 void RasterPicture::clear() {
   piece_.reset();
   mask_.clear();
+  colour_ = kBlack;
   if (!is_blank_) std::ranges::fill(bitmap_.pixels, kWhite);
   is_blank_ = true;
 }

@@ -57,6 +57,13 @@ TEST_F(Raster, IsWhiteAgainWhenItIsCleared) {
   EXPECT_EQ(inkOf(picture.finish()), 0);
 }
 
+TEST_F(Raster, ForgetsTheColourOfTheLastGraphWhenItIsCleared) {
+  picture.beginGraph('a', 0x0000FF);
+  picture.clear();
+  picture.line(atPixel(20.5, 0), atPixel(20.5, 30));
+  EXPECT_EQ(pixel(picture.finish(), 20, 10), 0xFF000000);
+}
+
 TEST_F(Raster, DrawsAxesAWholePixelWide) {
   picture.beginAxes();
   picture.line(atPixel(20.5, 0), atPixel(20.5, 30));

@@ -1,5 +1,6 @@
 #include "support/png_reader.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -41,6 +42,26 @@ std::string inflated(const std::string& stream, std::size_t size) {
       uncompress(reinterpret_cast<Bytef*>(bytes.data()), &length,
                  reinterpret_cast<const Bytef*>(stream.data()), static_cast<uLong>(stream.size()));
   return result == Z_OK && length == size ? bytes : std::string();
+}
+
+std::string inflated(const std::string& stream) {
+  z_stream state = {};
+  if (inflateInit(&state) != Z_OK) return {};
+  std::string input = stream;
+  state.next_in = reinterpret_cast<Bytef*>(input.data());
+  state.avail_in = static_cast<uInt>(input.size());
+  std::string bytes;
+  std::array<char, 4096> block;
+  int result = Z_OK;
+  while (result == Z_OK) {
+    state.next_out = reinterpret_cast<Bytef*>(block.data());
+    state.avail_out = static_cast<uInt>(block.size());
+    result = inflate(&state, Z_NO_FLUSH);
+    bytes.append(block.data(), block.size() - state.avail_out);
+  }
+  const bool is_whole = result == Z_STREAM_END && state.avail_in == 0;
+  inflateEnd(&state);
+  return is_whole ? bytes : std::string();
 }
 
 Bitmap readPng(const std::string& file) {

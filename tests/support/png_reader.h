@@ -12,5 +12,7 @@ Bitmap readPng(const std::string& file);
 
 /// What a zlib stream holds, which must be so many bytes; empty when it is not.
 std::string inflated(const std::string& stream, std::size_t size);
+/// The same for any number of bytes.
+std::string inflated(const std::string& stream);
 
 }  // namespace zel::test
