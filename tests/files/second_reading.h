@@ -2,16 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <map>
 #include <optional>
-#include <regex>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "engine/compiler.h"
 #include "files/document.h"
+#include "support/plain_number.h"
 
 /// The rules of a document read a second time, in the plainest way: all lines in a list, an index
 /// that goes forward, numbers by the C library. It shares nothing with the parser.
@@ -109,11 +108,10 @@ struct SecondReading {
     return {};
   }
 
-  static std::optional<double> number(std::string text, double lowest, double highest) {
-    static const std::regex form(R"([+-]?([0-9]+[.,]?[0-9]*|[.,][0-9]+)([eE][+-]?[0-9]+)?)");
-    if (text.size() > 300 || !std::regex_match(text, form)) return std::nullopt;
-    std::ranges::replace(text, ',', '.');
-    const double value = std::nearbyint(std::strtod(text.c_str(), nullptr));
+  static std::optional<double> number(const std::string& text, double lowest, double highest) {
+    const auto exact = plainNumber(text);
+    if (text.size() > 300 || !exact) return std::nullopt;
+    const double value = std::nearbyint(*exact);
     if (!(value >= lowest && value <= highest)) return std::nullopt;
     return value;
   }

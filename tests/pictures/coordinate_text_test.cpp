@@ -19,8 +19,8 @@ TEST(CoordinateText, HasNoMoreThanTheNumberNeeds) {
 
 TEST(CoordinateText, TakesWhatIsNearerThanAMillionthForZero) {
   EXPECT_EQ(coordinateText(-1.2345678901234567e-6), "-0.0000012345678901234567");
-  for (const double least : {9.9e-7, -1.2345678901234567e-13, 8e-302,
-                             std::numeric_limits<double>::denorm_min()})
+  for (const double least :
+       {9.9e-7, -1.2345678901234567e-13, 8e-302, std::numeric_limits<double>::denorm_min()})
     EXPECT_EQ(coordinateText(least), "0") << least;
 }
 
