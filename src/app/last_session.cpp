@@ -52,7 +52,7 @@ bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& messa
   MainView recovered_view = view;
   GraphTable recovered;
   DocumentHeader header;
-  if (!loadDocumentText(fromCodePage(*previous_), recovered_view, recovered, header, message)) {
+  if (!loadDocumentBytes(*previous_, recovered_view, recovered, header, message)) {
     previous_ = "";
     return false;
   }

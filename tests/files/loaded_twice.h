@@ -15,7 +15,7 @@ struct LoadedDocument {
   }
 
   void loadText(std::string_view text) {
-    loaded = loadDocumentText(text, view, graphs, header, message);
+    loaded = loadDocumentBytes(toCodePage(text), view, graphs, header, message);
   }
   void loadFile(const std::string& path) {
     loaded = loadDocument(path, view, graphs, header, message);
