@@ -56,6 +56,7 @@ void checkText(std::string_view text) {
   // A magnitude below the smallest double is 0 in the one and 0 or a subnormal in neither.
   require(isSame(*value + 0.0, *expected + 0.0), "what is read is the nearest double", text);
   checkValue(*value);
+  checkInteger(*value);
 }
 
 }  // namespace

@@ -25,6 +25,9 @@ struct Size {
   double density = 1;
 };
 
+/// PNG and PDF take turns: the memory of a compressor takes longer than all else.
+bool makesPdf(const Size& size) { return size.width % 2 == 0; }
+
 Size takeSize(Input line) {
   constexpr double kLongest = 64;
   const auto side = [&] {
@@ -72,7 +75,7 @@ void checkRaster(const Size& size, Input calls, const DrawingList& list) {
   draw(picture, calls);
   const Bitmap bitmap = picture.finish();
   for (const std::uint32_t pixel : bitmap.pixels) require(pixel >> 24 == 0xFF, "pixels are opaque");
-  require(test::readPng(writePng(bitmap)) == bitmap, "a PNG has the pixels");
+  if (!makesPdf(size)) require(test::readPng(writePng(bitmap)) == bitmap, "a PNG has the pixels");
   RasterPicture replayed(size.width, size.height, size.density);
   list.replay(replayed);
   require(replayed.finish() == bitmap, "a list draws the same pixels");
@@ -142,6 +145,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   draw(list, input);
   checkRaster(picture_size, input, list);
   checkSvg(picture_size, input, list);
-  checkPdf(picture_size, input);
+  if (makesPdf(picture_size)) checkPdf(picture_size, input);
   return 0;
 }

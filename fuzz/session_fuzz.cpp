@@ -5,7 +5,6 @@
 // user presses Esc, and closes the window in the end.
 #include <algorithm>
 
-#include "base/code_page.h"
 #include "base/language.h"
 #include "base/text.h"
 #include "files/document.h"

@@ -10,7 +10,6 @@
 
 #include "app/main_commands.h"
 #include "app/messages.h"
-#include "base/code_page.h"
 #include "base/language.h"
 #include "files/whole_file.h"
 

@@ -14,9 +14,6 @@ struct LoadedDocument {
     header.Add("old", "pair");
   }
 
-  void loadText(std::string_view text) {
-    loaded = loadDocumentBytes(toCodePage(text), view, graphs, header, message);
-  }
   void loadFile(const std::string& path) {
     loaded = loadDocument(path, view, graphs, header, message);
   }
