@@ -86,6 +86,16 @@ TEST(DrawingListOfAPlot, TakesAsManyPointsAsItMayAndIsFullAtTheNext) {
   EXPECT_THAT(replayed(list).calls, IsEmpty());
 }
 
+TEST(DrawingListOfAPlot, TakesHalfAMillionPointsWhereNothingElseIsSaid) {
+  DrawingList list;
+  list.startPiece({0, 0});
+  constexpr int kMost = static_cast<int>(DrawingList::kMostPoints);
+  for (int i = 1; i < kMost; ++i) list.extendPiece({i * 1.0, i % 2 * 100.0});
+  EXPECT_FALSE(list.isFull());
+  list.startPiece({0, 0});
+  EXPECT_TRUE(list.isFull());
+}
+
 TEST(DrawingListOfAPlot, KeepsNothingOfAFullDrawing) {
   DrawingList list(1);
   list.line({0, 0}, {1, 1});

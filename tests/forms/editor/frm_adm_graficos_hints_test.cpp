@@ -212,6 +212,7 @@ TEST_F(EditorHints, KnowTheRangeFromTheMainWindowThatOpensTheEditor) {
 }
 
 TEST_F(EditorHints, GiveADrawingUpThatTakesTooLong) {
+  EXPECT_EQ(frmAdmGraficos::kPreviewTime, std::chrono::milliseconds(50));
   editor.setPreviewTime(std::chrono::milliseconds(0));
   openNew();
   fill({{"txtF", "ln(-x^2)"}});

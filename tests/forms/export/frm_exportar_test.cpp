@@ -126,6 +126,15 @@ TEST_F(ExportWindow, StaysWhenNothingWasWritten) {
   EXPECT_TRUE(save().isEnabled());
 }
 
+// kLeastScale and kMostScale.
+TEST_F(ExportWindow, OffersScalesFromAQuarterToEight) {
+  open();
+  scale().setValue(0.01);
+  EXPECT_EQ(scale().value(), 0.25);
+  scale().setValue(100);
+  EXPECT_EQ(scale().value(), 8);
+}
+
 TEST_F(ExportWindow, TellsHowLargeThePictureBecomes) {
   open();
   EXPECT_EQ(measures(), "800 × 600 píxeles");

@@ -5,6 +5,7 @@
 #include <QToolTip>
 
 #include "forms/plot/elided_label.h"
+#include "forms/plot/plot_toolbar.h"
 #include "forms/shown_tip.h"
 #include "frm_grafico_fixture.h"
 #include "support/patience.h"
@@ -287,6 +288,7 @@ TEST_F(GraficoToolbar, TheStepButtonsRepeatWhileTheyAreHeld) {
   for (const Row& row : kButtons) {
     const bool steps = std::string(row.key).starts_with("Recorrer_");
     EXPECT_EQ(button(row.key).autoRepeat(), steps) << row.key;
+    if (steps) EXPECT_EQ(button(row.key).autoRepeatInterval(), PlotToolbar::kStepInterval);
   }
 }
 

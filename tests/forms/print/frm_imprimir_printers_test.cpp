@@ -95,6 +95,14 @@ TEST_F(PrinterList, ShowsNothingWhenTheDialogIsCancelled) {
   EXPECT_TRUE(window.isVisible());
 }
 
+TEST_F(PrinterList, HasItsCaptionInBothLanguages) {
+  open();
+  EXPECT_EQ(text(window, "LblImpresora"), "Impresora:");
+  SetCurrentLanguage("EN");
+  open();
+  EXPECT_EQ(text(window, "LblImpresora"), "Printer:");
+}
+
 using FitToPage = PrintWindow;
 
 TEST_F(FitToPage, HasItsCaptionInBothLanguages) {

@@ -65,7 +65,7 @@ TEST_F(DesktopsRecentDocuments, AreNotOfferedWhenTheyAreGone) {
 
 TEST_F(DesktopsRecentDocuments, AreTenAtTheMost) {
   for (int i = 0; i < 12; ++i) recent.add(document(std::to_string(i) + ".zel"));
-  EXPECT_THAT(recent.list(), SizeIs(10));
+  EXPECT_THAT(recent.list(), SizeIs(XdgRecentDocuments::kMostRecent));
 }
 
 TEST_F(DesktopsRecentDocuments, AreNotLookedForWithoutEnd) {
