@@ -5,7 +5,6 @@ import statistics
 import subprocess
 import sys
 import tempfile
-import time
 
 WIDTH, HEIGHT, QUALITY = 1920, 1080, 100
 RENDER_RUNS = 15
@@ -50,10 +49,18 @@ def gnuplot_script(document, picture):
         "plot " + ", ".join(functions), ""])
 
 
+def processor_seconds(command):
+    """What a process and the system for it take of the processor, from its start to its end."""
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL)
+    _, status, usage = os.wait4(process.pid, 0)
+    process.returncode = os.waitstatus_to_exitcode(status)
+    if process.returncode != 0:
+        sys.exit(f"{command[0]} failed.")
+    return usage.ru_utime + usage.ru_stime
+
+
 def seconds_of(command, picture):
-    began = time.perf_counter()
-    subprocess.run(command, check=True)
-    seconds = time.perf_counter() - began
+    seconds = processor_seconds(command)
     with open(picture, "rb") as file:
         if not file.read(8).startswith(b"\x89PNG"):
             sys.exit(f"{command[0]} made no picture.")
@@ -62,20 +69,16 @@ def seconds_of(command, picture):
 
 
 def compile_times(programs):
-    """Median seconds of zel-cli compiling a formula and of a program that does nothing, in turn."""
+    """Median seconds of the processor, of zel-cli compiling a formula and of a program that does nothing, in turn."""
     commands = [[os.path.join(programs, "zel-cli"), "compile", "x"], ["true"]]
     times = []
     for _ in range(COMPILE_RUNS + 1):
-        times.append([])
-        for command in commands:
-            began = time.perf_counter()
-            subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
-            times[-1].append(time.perf_counter() - began)
+        times.append([processor_seconds(command) for command in commands])
     return [statistics.median(seconds) for seconds in zip(*times[1:])]  # the first ones warm up
 
 
 def render_times(programs, document):
-    """Median seconds of zel-cli and of gnuplot, in turn, from a document to a PNG file."""
+    """Median seconds of the processor, of zel-cli and of gnuplot, in turn, from a document to a PNG file."""
     with tempfile.TemporaryDirectory() as folder:
         picture = os.path.join(folder, "picture.png")
         script = os.path.join(folder, "script")

@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.." || exit 1
 count=${1:-100000000}
 seed=${2:-1}
 
-scripts/setup.sh build test || exit 1
+scripts/setup.sh build || exit 1
 build release numbers_tests || exit 1
 say "Comparing eight functions at $count arguments each, seed $seed"
 rounds build/release/bin/numbers_tests 'Of/NearestDouble.*:NearestDoubleOfAPower.*' 9 \

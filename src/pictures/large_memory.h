@@ -26,8 +26,9 @@ struct LargeMemory {
     if (count > std::size_t(-1) / 2 / sizeof(Number)) throw std::bad_array_new_length();
     const std::size_t bytes = count * sizeof(Number);
     if (!isLarge(count)) return static_cast<Number*>(::operator new(bytes));
-    void* const memory = ::operator new (bytes, std::align_val_t{kLargePage});
-    expectWholeUse(memory, bytes);
+    const std::size_t pages = (bytes + kLargePage - 1) / kLargePage * kLargePage;
+    void* const memory = ::operator new (pages, std::align_val_t{kLargePage});
+    expectWholeUse(memory, pages);
     return static_cast<Number*>(memory);
   }
   void deallocate(Number* memory, std::size_t count) {
