@@ -1,11 +1,16 @@
 #!/usr/bin/env bash
-# scripts/monkey.sh [EVENTS [SEED]]: random clicks, keys, resizes and closes over all windows, a
-# million without a word.
+# scripts/monkey.sh [EVENTS [SEED [PRESET]]]: random clicks, keys, resizes and closes over all windows,
+# a million without a word; the preset asan-gui runs them under the sanitizers. The last line tells
+# the longest wait of an event.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
+preset=${3:-release}
 scripts/setup.sh build
-build release forms_tests
+build "$preset" forms_tests
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
 QT_QPA_PLATFORM=offscreen ZEL_MONKEY_EVENTS=${1:-1000000} ZEL_MONKEY_SEED=${2:-1} \
-  build/release/bin/forms_tests --gtest_filter='Monkey.*'
+  "build/$preset/bin/forms_tests" --gtest_filter='Monkey.*' | tee "$log"
+grep '^longest wait' "$log"

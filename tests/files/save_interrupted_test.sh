@@ -59,7 +59,7 @@ calls_of_the_save() {
   awk -F'(' '
     /^[a-z]/ { count[$1]++ }
     /"target\// && $1 != "execve" { inside = 1 }
-    inside && $1 ~ /^(open|openat|stat|lstat|newfstatat|statx|fstat|[fl]?(get|set|list|remove)xattr|readlink|readlinkat|access|faccessat|faccessat2|write|fchown|fchmod|fsync|close|rename|renameat|renameat2|unlink)$/ {
+    inside && $1 ~ /^(open|openat|stat|lstat|newfstatat|statx|fstat|[fl]?(get|set|list|remove)xattr|readlink|readlinkat|access|faccessat|faccessat2|write|fchown|fchmod|fsync|close|rename|renameat|renameat2|unlink|unlinkat|flock|fcntl|getdents64)$/ {
       print $1, count[$1]
     }' trace
 }

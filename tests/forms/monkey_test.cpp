@@ -8,11 +8,13 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <cstdlib>
+#include <iostream>
 #include <map>
 #include <optional>
 #include <random>
 
 #include "forms/forms.h"
+#include "forms/longest_wait.h"
 #include "forms/window_fixture.h"
 
 namespace zel::test {
@@ -201,6 +203,7 @@ class Monkey : public WindowTest {
 
   bool ended_ = false;
   std::map<std::string, unsigned long> visits_;
+  LongestWait wait_;
 
  private:
   std::mt19937 random_;
@@ -222,10 +225,14 @@ TEST_F(Monkey, CannotBreakTheProgram) {
       continue;
     }
     if (!isReachable(*window)) continue;
-    ++visits_[fromQt(window->objectName())];
+    const std::string name = fromQt(window->objectName());
+    ++visits_[name];
+    wait_.begin();
     doSomething(*window);
     if (i % 4 == 0) QApplication::processEvents();
+    wait_.end(name);
   }
+  std::cout << wait_.text() << '\n';
   // A monkey that sits in a corner has tried nothing.
   for (const char* name : {"frmIdioma", "frmPresentacion", "frmDatosIni", "frmAdmGraficos",
                            "frmGrafico", "frmImprimir", "frmExportar", "frmAcercaDe"})
