@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# scripts/plot_rounds.sh [ROUNDS]: opens, draws and closes the plot so often (10,000 times without a word);
-# the memory in use stays within 5 %.
+# scripts/plot_rounds.sh [ROUNDS]: opens, draws and closes the plot so often (10,000 times without a
+# word); the memory in use stays within 5 %.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
