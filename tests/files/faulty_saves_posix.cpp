@@ -144,6 +144,7 @@ TEST_F(FaultySaves, LeaveTheOlderOrTheNewerDocumentWhereOneCallFails) {
   EXPECT_GT(saves_, 300);
 }
 
+/// A call that is interrupted forever has failed after kMostInterruptions.
 TEST_F(FaultySaves, LeaveTheOlderOrTheNewerDocumentWhereNoCallSucceedsAnyMore) {
   tryTargets([this](Target target) {
     for (const int error : {ENOSPC, EIO, EINTR, EDQUOT, EACCES}) {

@@ -21,6 +21,7 @@ EOF
 printf '%s\n' 'show("Hecho."); show("Campo %1."); show(kLong);' >"$sample/src/forms/some.cpp"
 printf '%s\n' 'box("txtA"); box("txtB"); setObjectName("Slider9");' >>"$sample/src/forms/some.cpp"
 printf '%s\n' 'keys = {"Arriba", "Abajo"};' >"$sample/src/plot/session/plot_command.h"
+# shellcheck disable=SC2016 # the backticks are the document's
 printf '%s\n' '| what | bound | constant |' '| a | 1 | `Some::kMost` |' '| b | 2 | `kLeast` |' \
   >"$sample/docs/limits.md"
 printf '%s\n' '"Hecho." "Campo F." "Field F." "uno dos" txtA Slider9 Arriba kMost' \

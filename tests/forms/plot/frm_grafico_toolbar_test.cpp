@@ -288,7 +288,9 @@ TEST_F(GraficoToolbar, TheStepButtonsRepeatWhileTheyAreHeld) {
   for (const Row& row : kButtons) {
     const bool steps = std::string(row.key).starts_with("Recorrer_");
     EXPECT_EQ(button(row.key).autoRepeat(), steps) << row.key;
-    if (steps) EXPECT_EQ(button(row.key).autoRepeatInterval(), PlotToolbar::kStepInterval);
+    if (steps) {
+      EXPECT_EQ(button(row.key).autoRepeatInterval(), PlotToolbar::kStepInterval);
+    }
   }
 }
 
