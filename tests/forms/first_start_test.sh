@@ -33,6 +33,7 @@ complain() {
 start_until() {
   local pattern=$1 tracer
   shift
+  rm -f "$work/trace" # nothing of the start before is taken for this one's
   strace -f -o "$work/trace" -e trace=file "$@" "$zel" >/dev/null 2>&1 &
   tracer=$!
   for _ in $(seq 600); do
@@ -40,7 +41,7 @@ start_until() {
     kill -0 "$tracer" 2>/dev/null || break
     sleep 0.1
   done
-  kill -KILL "$(awk '{ print $1; exit }' "$work/trace")" 2>/dev/null
+  kill -KILL "$(awk '{ print $1; exit }' "$work/trace" 2>/dev/null)" 2>/dev/null
   wait "$tracer" 2>/dev/null
   grep -Eq "$pattern" "$work/trace" || complain "$pattern was not seen: $(grep config.ini "$work/trace")"
 }

@@ -13,7 +13,7 @@ class WindowPlaces : public WindowTest {
  protected:
   WindowPlaces() {
     owner.showForm();
-    owner.setGeometry(100, 150, 600, 400);
+    owner.setGeometry(100, 200, 600, 400);  // in the middle of the screen, where all have room
   }
 
   void openEditor() {

@@ -96,11 +96,12 @@ TEST_F(PrinterList, ShowsNothingWhenTheDialogIsCancelled) {
 }
 
 TEST_F(PrinterList, HasItsCaptionInBothLanguages) {
+  const auto& label = control<QLabel>(window, "LblImpresora");
   open();
-  EXPECT_EQ(text(window, "LblImpresora"), "Impresora:");
+  EXPECT_EQ(fromQt(label.text()), "Impresora:");
   SetCurrentLanguage("EN");
   open();
-  EXPECT_EQ(text(window, "LblImpresora"), "Printer:");
+  EXPECT_EQ(fromQt(label.text()), "Printer:");
 }
 
 using FitToPage = PrintWindow;
