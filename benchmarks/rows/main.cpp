@@ -32,7 +32,7 @@ constexpr std::array<Row, 11> kRows = {{
 
 /// The toolkit is started where it is needed only: it leaves vector registers in a state in which
 /// scalar functions of several instruction sets take ten times as long.
-bool measure(std::string_view name, int argc, char** argv) {
+bool measure(std::string_view name, int& argc, char** argv) {
   static std::optional<QApplication> application;
   for (const Row& row : kRows) {
     if (row.name != name) continue;
