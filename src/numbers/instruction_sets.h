@@ -1,7 +1,8 @@
 #pragma once
 
 /// Loops are compiled for several instruction sets of the processor family, and the best one that
-/// the machine has is chosen at run time. All give the same bits. With ZEL_BASELINE there is but one.
+/// the machine has is chosen at run time. All give the same bits. With ZEL_BASELINE there is but
+/// one.
 
 #if defined(__GNUC__)
 #define ZEL_ALWAYS_INLINE __attribute__((always_inline)) inline
