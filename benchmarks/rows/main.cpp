@@ -32,8 +32,8 @@ constexpr std::array<Row, 11> kRows = {{
 
 /// The toolkit is started where it is needed only: it leaves vector registers in a state in which
 /// scalar functions of several instruction sets take ten times as long.
-bool measure(std::string_view name, int& argc, char** argv) {
-  static std::optional<QApplication> application;
+bool measure(std::string_view name, std::optional<QApplication>& application, int& argc,
+             char** argv) {
   for (const Row& row : kRows) {
     if (row.name != name) continue;
     if (row.is_drawn && !application) application.emplace(argc, argv);
@@ -55,9 +55,10 @@ void zel::bench::print(std::string_view row, std::string_view what, double secon
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  std::optional<QApplication> application;
   try {
     for (int i = 1; i < argc; ++i) {
-      if (measure(argv[i], argc, argv)) continue;
+      if (measure(argv[i], application, argc, argv)) continue;
       std::fprintf(stderr, "bench_rows: no row %s\n", argv[i]);
       return 2;
     }
