@@ -12,6 +12,7 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT ZEL_SANITIZERS)
     add_compile_options(-fcf-protection)
   endif()
   if(WIN32)
+    add_link_options(-fstack-protector-strong) # the library of the canaries is its own here
     add_link_options(-Wl,--dynamicbase -Wl,--high-entropy-va -Wl,--nxcompat)
   else()
     add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)

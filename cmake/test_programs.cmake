@@ -12,7 +12,7 @@ function(zel_tests folder)
   set(target ${folder}_tests)
   add_executable(${target} ${sources})
   # What is tested is optimised, not the tests, but for those that compute much themselves.
-  if(folder MATCHES "^(engine|numbers)$")
+  if(folder MATCHES "^(cli|engine|files|numbers)$")
     target_compile_options(${target} PRIVATE -O1)
   else()
     target_compile_options(${target} PRIVATE -O0)
