@@ -215,7 +215,7 @@ class Monkey : public WindowTest {
 
 TEST_F(Monkey, CannotBreakTheProgram) {
   start(StartStep::first_start);
-  const unsigned long events = setting("ZEL_MONKEY_EVENTS", 100000);
+  const unsigned long events = setting("ZEL_MONKEY_EVENTS", 40000);
   for (unsigned long i = 0; i < events; ++i) {
     preset();
     QWidget* window = anyWindow();
