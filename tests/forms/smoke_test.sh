@@ -128,6 +128,10 @@ grep -q '^EN' config.ini || fail "the language was not kept"
 start "$work/smoke.zel"
 window 'ZEL'
 opens 'ZEL - smoke.zel' Return
+# In a box, too, which the free desktop lets Ctrl+E edit.
+xdotool key --delay 60 Tab Tab Tab Tab
+opens 'Export picture' ctrl+e
+opens 'ZEL - smoke.zel' Escape
 opens 'ZEL - Graphics' alt+g
 opens 'ZEL - smoke.zel' alt+F4
 ends_well ctrl+q

@@ -146,6 +146,7 @@ QLineEdit* frmDatosIni::makeNumberBox(const char* name, bool refuses_minus) {
   auto* box = makeTextBox(name);
   filterNumericKeys(*box, refuses_minus);
   box->setAcceptDrops(false);  // a drop on it is the window's
+  box->installEventFilter(this);
   return box;
 }
 
