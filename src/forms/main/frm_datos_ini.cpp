@@ -125,11 +125,15 @@ void frmDatosIni::setFields(const MainView& view) {
 
 void frmDatosIni::openPath(const std::string& path) {
   MainView view = fields();
-  openDocumentAt(program(), path, view);
-  setFields(view);
+  const bool opened = openDocumentAt(program(), path, view);
+  showDocument(view, opened);
+}
+
+void frmDatosIni::showDocument(const MainView& view, bool is_new) {
+  if (view != fields()) setFields(view);
   updateTitle();
   updateList();
-  listaG_->selectFirst();
+  if (is_new) listaG_->selectFirst();
 }
 
 void frmDatosIni::mNuevo_Click() {
@@ -143,10 +147,7 @@ void frmDatosIni::mNuevo_Click() {
 void frmDatosIni::mAbrir_Click() {
   MainView view = fields();
   const bool opened = openDocument(program(), view);
-  setFields(view);
-  updateTitle();
-  updateList();
-  if (opened) listaG_->selectFirst();
+  showDocument(view, opened);
 }
 
 void frmDatosIni::mGuardar_Click() {

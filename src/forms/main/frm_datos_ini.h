@@ -104,6 +104,9 @@ class frmDatosIni : public Form {
   PlotFields plotFields() const;
   void setFields(const MainView& view);
   void fillRangeBoxes();
+  /// The boxes, the title and the list after another document may have come; boxes that stay as
+  /// they are keep their own undo. The first row of a new document is selected.
+  void showDocument(const MainView& view, bool is_new);
   void openPath(const std::string& path);
   void openRecentPath(const std::string& path);
   void updateLanguageMenu();

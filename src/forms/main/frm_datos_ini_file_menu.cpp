@@ -3,7 +3,6 @@
 
 #include "app/last_session.h"
 #include "forms/main/frm_datos_ini.h"
-#include "forms/main/graph_list.h"
 #include "forms/main/recent_menu.h"
 
 namespace zel {
@@ -15,19 +14,14 @@ void frmDatosIni::updateFileMenu() {
 
 void frmDatosIni::openRecentPath(const std::string& path) {
   MainView view = fields();
-  openRecent(program(), path, view);
-  setFields(view);
-  updateTitle();
-  updateList();
+  const bool opened = openRecent(program(), path, view);
+  showDocument(view, opened);
 }
 
 void frmDatosIni::mRecuperar_Click() {
   MainView view = fields();
   const bool recovered = recoverLastSession(program(), view);
-  if (recovered) setFields(view);
-  updateTitle();
-  updateList();
-  if (recovered) listaG_->selectFirst();
+  showDocument(view, recovered);
   updateFileMenu();
 }
 

@@ -61,13 +61,9 @@ void frmDatosIni::mDeshacer_Click() { takeBack(undoChange); }
 void frmDatosIni::mRehacer_Click() { takeBack(redoChange); }
 
 void frmDatosIni::takeBack(std::string (*change)(Program&, MainView&)) {
-  const MainView before = fields();
-  MainView view = before;
+  MainView view = fields();
   const std::string letters = change(program(), view);
-  // Boxes that stay as they are keep their own undo.
-  if (view != before) setFields(view);
-  updateTitle();
-  updateList();
+  showDocument(view, false);
   listaG_->selectLetters(letters);
   if (listaG_->selectedLetters().empty()) listaG_->selectFirst();
 }

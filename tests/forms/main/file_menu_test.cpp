@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include "forms/main/frm_datos_ini.h"
+#include "forms/main/graph_list.h"
 #include "forms/window_fixture.h"
 
 namespace zel::test {
@@ -165,6 +166,30 @@ TEST_F(FileMenu, OpensARecentDocument) {
   QTest::qWait(0);
   EXPECT_EQ(text(window, "txtRanXi"), "-3");
   EXPECT_EQ(fromQt(window.windowTitle()), "ZEL - d.zel");
+}
+
+TEST_F(FileMenu, SelectsTheFirstGraphOfARecentDocument) {
+  addFunction('a', "x");
+  addFunction('b', "x");
+  services.files.paths = {"d.zel"};
+  choose("mGuardarComo");
+  choose("mNuevo");
+  services.recent.listed = {"d.zel"};
+  recent().actions()[0]->trigger();
+  QTest::qWait(0);
+  EXPECT_EQ(control<GraphList>(window, "listaG").selectedLetters(), "a");
+}
+
+TEST_F(FileMenu, KeepsTheSelectionWhenADocumentIsRefused) {
+  addFunction('a', "x");
+  addFunction('b', "x");
+  window.showForm();
+  auto& list = control<GraphList>(window, "listaG");
+  list.selectLetters("b");
+  putBytes("other.zel", "something else");
+  window.openCommandLine("other.zel");
+  EXPECT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(list.selectedLetters(), "b");
 }
 
 TEST_F(FileMenu, TellsThatARecentDocumentIsGoneAndMakesNone) {
