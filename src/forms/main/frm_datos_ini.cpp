@@ -234,17 +234,6 @@ void frmDatosIni::keyPressEvent(QKeyEvent* event) {
     CmdGraficarLista_->click();
 }
 
-/// Free desktops have Ctrl+D and Ctrl+E edit a box, too. Here they are the window's, whatever has the
-/// focus.
-bool frmDatosIni::eventFilter(QObject* box, QEvent* event) {
-  if (event->type() != QEvent::ShortcutOverride) return Form::eventFilter(box, event);
-  const QKeySequence pressed(static_cast<QKeyEvent*>(event)->keyCombination());
-  const bool is_ours = pressed == findChild<QAction*>("mDuplicar")->shortcut() ||
-                       pressed == findChild<QAction*>("mExportar")->shortcut();
-  if (is_ours) event->ignore();
-  return is_ours;
-}
-
 void frmDatosIni::dragEnterEvent(QDragEnterEvent* event) {
   if (!documentIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
 }

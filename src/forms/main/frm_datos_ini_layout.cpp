@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -148,6 +149,16 @@ QLineEdit* frmDatosIni::makeNumberBox(const char* name, bool refuses_minus) {
   box->setAcceptDrops(false);  // a drop on it is the window's
   box->installEventFilter(this);
   return box;
+}
+
+/// Free desktops have Ctrl+D and Ctrl+E edit a box, too. Here they are the window's all the time.
+bool frmDatosIni::eventFilter(QObject* box, QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride) return Form::eventFilter(box, event);
+  const QKeySequence pressed(static_cast<QKeyEvent*>(event)->keyCombination());
+  const bool is_ours = pressed == findChild<QAction*>("mDuplicar")->shortcut() ||
+                       pressed == findChild<QAction*>("mExportar")->shortcut();
+  if (is_ours) event->ignore();
+  return is_ours;
 }
 
 QGroupBox* frmDatosIni::buildRange() {
