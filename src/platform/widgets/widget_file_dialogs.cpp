@@ -25,17 +25,18 @@ std::string aboutFile(const std::string& path, const char* spanish, const char* 
 }
 
 /// Lets the dialog begin with this path where there is such a folder, otherwise in the user's
-/// documents. A name that is no UTF-8 would come back as another one, and is not proposed.
+/// documents, where a name that is to be saved stays. A name that is no UTF-8 would come back as
+/// another one, and is not proposed.
 void begin(QFileDialog& dialog, const std::string& proposal) {
   const QFileInfo file(toQt(proposal));
-  const bool is_whole = file.filePath().toStdString() == proposal;
-  if (proposal.empty() || !is_whole || !file.dir().exists()) {
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dialog.setDirectory(documents.exists() ? documents : QDir::home());
-    return;
-  }
-  dialog.setDirectory(file.dir());
-  if (!file.fileName().isEmpty()) dialog.selectFile(file.fileName());
+  const bool is_whole = !proposal.empty() && file.filePath().toStdString() == proposal;
+  const bool has_folder = is_whole && file.dir().exists();
+  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  const QDir otherwise = documents.exists() ? documents : QDir::home();
+  dialog.setDirectory(has_folder ? file.dir() : otherwise);
+  const bool keeps_name =
+      has_folder || (is_whole && dialog.acceptMode() == QFileDialog::AcceptSave);
+  if (keeps_name && !file.fileName().isEmpty()) dialog.selectFile(file.fileName());
 }
 
 }  // namespace

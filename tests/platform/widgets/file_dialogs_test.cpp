@@ -1,4 +1,5 @@
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QTest>
 #include <filesystem>
@@ -160,6 +161,14 @@ TEST_F(FileDialogsOfWidgets, WantAnExistingFolder) {
   ASSERT_EQ(boxes.shown.size(), 1U);
   const auto nowhere = pathOf(folder_ / "nowhere").make_preferred();  // as the system writes it
   EXPECT_EQ(boxes.shown.front().text, "The folder “" + utf8Of(nowhere) + "” does not exist.");
+}
+
+TEST_F(FileDialogsOfWidgets, KeepANameThatWasTypedWithAFolderThatIsMissing) {
+  save({type("nowhere/new"), [](QFileDialog& dialog) {
+          ASSERT_EQ(dialog.selectedFiles().size(), 1);
+          EXPECT_EQ(QFileInfo(dialog.selectedFiles().constFirst()).fileName(), "new.zel");
+          dialog.reject();
+        }});
 }
 
 TEST_F(FileDialogsOfWidgets, ProposeNoNameThatWouldComeBackAsAnother) {
