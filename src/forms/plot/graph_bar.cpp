@@ -82,7 +82,8 @@ void GraphBar::showGraph(const std::optional<GraphDef>& graph) {
   if (palette != swatch_->palette()) swatch_->setPalette(palette);
   const QString text = graph ? inOneLine(toQt(displayText(*graph))) : QString();
   LblGrafico_->showText(text);
-  LblGrafico_->setAccessibleName(text);
+  // Each name that is set is said, the same one too.
+  if (text != LblGrafico_->accessibleName()) LblGrafico_->setAccessibleName(text);
 }
 
 QString GraphBar::graphText() const { return LblGrafico_->text(); }
