@@ -5,6 +5,7 @@
 #include "platform/xdg/recent_list.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "base/text.h"
@@ -55,7 +56,9 @@ std::string withAttribute(std::string tag, std::string_view name, const std::str
 std::string withUse(std::string_view list, const RecentBookmark& entry, const std::string& path,
                     const RecentKind& kind, const std::string& now) {
   if (!entry.bookmark_end) return bookmark(path, kind, now);
-  const std::string line = application(kind, entry.own_count + 1, now);
+  constexpr int kMost = std::numeric_limits<int>::max();  // others may have written any number
+  const int count = std::clamp(entry.own_count, 0, kMost - 1) + 1;
+  const std::string line = application(kind, count, now);
   TextSpan place = entry.own_application;
   std::string piece = line.substr(0, line.size() - 1);
   if (!entry.is_ours) {

@@ -113,6 +113,18 @@ TEST(RecentList, CountsHowOftenADocumentIsUsed) {
   EXPECT_THAT(text, HasSubstr("added=\"" + std::string(kNow) + "\""));
 }
 
+TEST(RecentList, GoesOnCountingFromWhateverNumberOthersHaveWritten) {
+  const auto counted = [](const std::string& number) {
+    std::string text = *added("", "/a.zel");
+    text.replace(text.find("count=\"1\""), 9, "count=\"" + number + "\"");
+    return *added(text, "/a.zel");
+  };
+  EXPECT_THAT(counted("2147483646"), HasSubstr("count=\"2147483647\""));
+  EXPECT_THAT(counted("2147483647"), HasSubstr("count=\"2147483647\""));
+  EXPECT_THAT(counted("-2147483648"), HasSubstr("count=\"1\""));
+  EXPECT_THAT(counted("99999999999999999999"), HasSubstr("count=\"1\""));
+}
+
 TEST(RecentList, PutsItselfIntoEntriesThatSayLittle) {
   for (const std::string entry :
        {"<bookmark href='file:///a.zel'/>", "<bookmark href='file:///a.zel'></bookmark>",
