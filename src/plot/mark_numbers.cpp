@@ -21,7 +21,7 @@ constexpr double kHalfMark = 40;      // twips from an axis to the end of its ma
 constexpr double kGap = 25;           // twips between texts, and from a text to what it stands at
 constexpr double kPointerGap = 180;   // twips from the pointer, which is not to lie on its text
 constexpr double kNearest = 450;      // twips from number to number, where no marks say more
-constexpr int kDigitsOfDistance = 4;  // behind the first one of the distance from mark to mark
+constexpr int kDigitsOfDistance = 4;  // behind the first one of what is counted by
 constexpr double kMostIndex = 1e15;   // marks are counted exactly below
 constexpr std::array<int, 3> kStrides = {1, 2, 5};
 
@@ -82,9 +82,11 @@ std::vector<MarkNumber> marksAtStride(const Direction& range, double stride) {
     index += skipped;
     value += skipped * range.distance;
   }
-  const int decade = decadeOf(range.distance) - kDigitsOfDistance;
+  const int decade = decadeOf(by * range.distance) - kDigitsOfDistance;
   for (; value <= range.last; index += by) {
-    if (std::fmod(index, stride) == 0) marks.push_back({value, roundedText(value, decade)});
+    // Where each step is a stride, an index that is no longer exact must not tell.
+    if (is_dense || std::fmod(index, stride) == 0)
+      marks.push_back({value, roundedText(value, decade)});
     const double next = value + by * range.distance;
     if (next == value) break;
     value = next;

@@ -11,6 +11,7 @@ namespace {
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
 using ::testing::SizeIs;
 
 constexpr double kCharacter = 90;  // twips
@@ -112,6 +113,13 @@ TEST_F(MarkNumbers, LeaveMarksOutByRoundStridesWhereTheyAreTooClose) {
   EXPECT_THAT(xNumbers(-7, 3, 0.1),
               ElementsAre("-7", "-6,5", "-6", "-5,5", "-5", "-4,5", "-4", "-3,5", "-3", "-2,5",
                           "-2", "-1,5", "-1", "-0,5", "0", "0,5", "1", "1,5", "2", "2,5", "3"));
+}
+
+TEST_F(MarkNumbers, GoOnToTheEndWhereMarksAreTooManyToBeCountedExactly) {
+  for (const double distance : {1e-30, 1e-200, 1e-300})
+    EXPECT_THAT(xNumbers(-6, 6, distance),
+                IsSupersetOf({"-6", "-5,5", "-3", "-0,5", "0", "0,5", "1", "3,5", "5", "5,5"}))
+        << distance;
 }
 
 TEST_F(MarkNumbers, StayRoundWhereTheFirstMarkIsNoMultipleOfTheStride) {
