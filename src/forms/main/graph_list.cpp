@@ -17,7 +17,15 @@ namespace {
 
 enum Column { kName, kKind, kText };
 
+constexpr qsizetype kLongestText = 1000;  // characters, more than a screen has room for
+
 char letterOf(const QTreeWidgetItem& item) { return item.text(kName).at(0).toLatin1(); }
+
+/// A style lays out all of a row's text each time that it measures or paints the row.
+QString shownText(const GraphDef& def) {
+  const QString text = inOneLine(toQt(displayText(def)));
+  return text.size() > kLongestText ? text.first(kLongestText) + u'…' : text;
+}
 
 /// The same in every state of its row: a style would tint it where the row is selected.
 QIcon swatch(std::int32_t colour) {
@@ -87,8 +95,8 @@ void GraphList::addRow(const GraphDef& def) {
   bold.setBold(true);
   item->setFont(kName, bold);
   item->setText(kKind, kindCaption(def.tipo));
-  item->setText(kText, inOneLine(toQt(displayText(def))));
-  item->setToolTip(kText, toolTipOf(item->text(kText)));
+  item->setText(kText, shownText(def));
+  item->setToolTip(kText, toolTipOf(toQt(displayText(def))));
 }
 
 void GraphList::applyLanguage(const GraphTable& graphs) {

@@ -43,6 +43,18 @@ TEST_F(ListOfGraphs, WritesLettersInTheNormalColourAndTheSwatchUntintedInASelect
   EXPECT_EQ(row.icon(0).pixmap(16, QIcon::Selected).toImage(), normal);
 }
 
+// The bound kLongestText, and one character past it.
+TEST_F(ListOfGraphs, CutsATextAfterAThousandCharacters) {
+  const auto shown = [&](std::size_t length) {
+    const std::string formula(length - 5, '1');  // behind "a(x)="
+    program.graphs.rebuildGraph('a', formula, formula, 255, 'F', nullptr);
+    window.showForm();
+    return fromQt(list().topLevelItem(0)->text(2));
+  };
+  EXPECT_EQ(shown(1000), "a(x)=" + std::string(995, '1'));
+  EXPECT_EQ(shown(1001), "a(x)=" + std::string(995, '1') + "…");
+}
+
 TEST_F(ListOfGraphs, SaysWhatToDoWhileItIsEmpty) {
   window.showForm();
   auto& hint = control<QLabel>(list(), "LblVacia");
