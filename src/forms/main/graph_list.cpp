@@ -3,11 +3,11 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "forms/form.h"
+#include "forms/graph_swatch.h"
 #include "forms/kind_captions.h"
 #include "forms/tool_tip.h"
 #include "platform/qt/one_line.h"
@@ -25,24 +25,6 @@ char letterOf(const QTreeWidgetItem& item) { return item.text(kName).at(0).toLat
 QString shownText(const GraphDef& def) {
   const QString text = inOneLine(toQt(displayText(def)));
   return text.size() > kLongestText ? text.first(kLongestText) + u'…' : text;
-}
-
-/// The same in every state of its row: a style would tint it where the row is selected.
-QIcon swatch(std::int32_t colour) {
-  constexpr int kSide = 32;
-  constexpr qreal kRadius = 8;
-  constexpr QColor kEdge(128, 128, 128);  // seen on light and on dark
-  QPixmap pixmap(kSide, kSide);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(kEdge, 2));
-  painter.setBrush(QColor(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF));
-  painter.drawRoundedRect(QRectF(3, 3, kSide - 6, kSide - 6), kRadius, kRadius);
-  painter.end();
-  QIcon icon(pixmap);
-  icon.addPixmap(pixmap, QIcon::Selected);
-  return icon;
 }
 
 }  // namespace
@@ -90,7 +72,7 @@ void GraphList::listGraphs(const GraphTable& graphs) {
 void GraphList::addRow(const GraphDef& def) {
   auto* item = new QTreeWidgetItem(this);
   item->setText(kName, QString(QChar::fromLatin1(def.nombre)));
-  item->setIcon(kName, swatch(def.color));
+  item->setIcon(kName, graphSwatch(def.color, SwatchLook::rounded));
   QFont bold = font();
   bold.setBold(true);
   item->setFont(kName, bold);

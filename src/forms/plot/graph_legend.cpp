@@ -1,10 +1,9 @@
 #include "forms/plot/graph_legend.h"
 
-#include <QPainter>
 #include <QSignalBlocker>
 
-#include "forms/editor/colour_swatch.h"
 #include "forms/form.h"
+#include "forms/graph_swatch.h"
 #include "forms/tool_tip.h"
 #include "platform/qt/one_line.h"
 
@@ -12,21 +11,6 @@ namespace zel {
 namespace {
 
 constexpr int kLetterRole = Qt::UserRole;
-
-/// The same in a selected row: the colour is that of the graph.
-QIcon swatch(std::int32_t colour) {
-  constexpr int kSide = 32;
-  QPixmap pixmap(kSide, kSide);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  painter.setPen(QPen(Qt::white, 2));
-  painter.setBrush(qtColour(colour));
-  painter.drawRect(1, 1, kSide - 2, kSide - 2);
-  painter.end();
-  QIcon icon(pixmap);
-  icon.addPixmap(pixmap, QIcon::Selected);
-  return icon;
-}
 
 char letterOf(const QListWidgetItem& item) {
   return static_cast<char>(item.data(kLetterRole).toInt());
@@ -57,7 +41,7 @@ void GraphLegend::listGraphs(const GraphTable& graphs) {
     const auto def = graphs.graph(letter);
     if (!def || !def->defined) continue;
     const QString text = inOneLine(toQt(displayText(*def)));
-    auto* const item = new QListWidgetItem(swatch(def->color), text, this);
+    auto* const item = new QListWidgetItem(graphSwatch(def->color, SwatchLook::square), text, this);
     item->setData(kLetterRole, static_cast<int>(letter));
     item->setToolTip(toolTipOf(text));
   }
