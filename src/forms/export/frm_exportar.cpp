@@ -8,7 +8,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
@@ -17,6 +16,7 @@
 #include "app/plot_arguments.h"
 #include "base/language.h"
 #include "forms/export/picture_preview.h"
+#include "forms/export/scale_box.h"
 #include "pictures/raster_picture.h"
 #include "platform/qt/bitmap_image.h"
 
@@ -36,7 +36,7 @@ frmExportar::frmExportar(Program& program)
       cboFormato_(new QComboBox),
       spnAncho_(new QSpinBox),
       spnAlto_(new QSpinBox),
-      spnEscala_(new QDoubleSpinBox),
+      spnEscala_(new ScaleBox),
       LblFormato_(new QLabel),
       LblAncho_(new QLabel),
       LblAlto_(new QLabel),
@@ -125,7 +125,6 @@ void frmExportar::assignCaptions() {
   spnAncho_->setAccessibleName(LblAncho_->text());
   spnAlto_->setAccessibleName(LblAlto_->text());
   spnEscala_->setAccessibleName(LblEscala_->text());
-  spnEscala_->setLocale(QLocale(caption("es", "en")));
   spnEscala_->setToolTip(caption("Cuántas veces más grande se ve la imagen, con sus líneas",
                                  "How many times as large the picture is shown, with its lines"));
   VistaPrevia_->setAccessibleName(caption("Vista previa", "Preview"));

@@ -135,6 +135,21 @@ TEST_F(ExportWindow, OffersScalesFromAQuarterToEight) {
   EXPECT_EQ(scale().value(), 8);
 }
 
+TEST_F(ExportWindow, TakesBothDecimalSeparatorsForTheScaleInBothLanguages) {
+  for (const char* const language : {"ES", "EN"}) {
+    SetCurrentLanguage(language);
+    open();
+    for (const char* const typed : {"2,5", "2.5"}) {
+      scale().setValue(1);
+      scale().selectAll();
+      QTest::keyClicks(&scale(), typed);
+      EXPECT_EQ(scale().value(), 2.5) << language << " " << typed;
+      EXPECT_EQ(fromQt(scale().text()), "2,5") << language << " " << typed;
+    }
+    window.close();
+  }
+}
+
 TEST_F(ExportWindow, TellsHowLargeThePictureBecomes) {
   open();
   EXPECT_EQ(measures(), "800 × 600 píxeles");
