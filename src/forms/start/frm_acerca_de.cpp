@@ -51,6 +51,7 @@ frmAcercaDe::frmAcercaDe(Program& program)
   column->addLayout(buttons);
   setCentralWidget(centre);
   cmdCerrar_->setDefault(true);
+  cmdCerrar_->setFocus();
   connect(cmdPagina_, &QPushButton::clicked, this,
           [this] { OpenWebPage(this->program().services.browser); });
   connect(cmdCorreo_, &QPushButton::clicked, this,
