@@ -51,9 +51,12 @@ void Form::ApplyLanguage() {
 void Form::showForm() {
   caller_ = callerOf(program_.params);
   ApplyLanguage();
+  const bool has_size = testAttribute(Qt::WA_Resized);
   takeArguments();
+  if (!has_size) growToContents();
   takePlace();
   show();
+  setAttribute(Qt::WA_Resized, has_size);
   raise();
   activateWindow();
 }
@@ -80,6 +83,13 @@ void Form::hideEvent(QHideEvent* event) {
   QMainWindow::hideEvent(event);
 }
 
+/// A window that comes back is as large as it was left, or as its captions now need.
+void Form::growToContents() {
+  if (isVisible() || !place_) return;
+  const QSize frame = frameGeometry().size() - size();
+  resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize() - frame));
+}
+
 /// To the window manager a window that comes back is a new one, which it puts where it likes unless
 /// it is told a place, even the one where it stands.
 void Form::takePlace() {
@@ -93,13 +103,12 @@ void Form::takePlace() {
 }
 
 void Form::moveOver(const QWidget& caller) {
-  const bool has_size = testAttribute(Qt::WA_Resized);
   const QRect screen = caller.screen()->availableGeometry();
   // This window's frame is not known yet, and is taken to be like its caller's.
   const QRect outside = caller.frameGeometry();
   const QSize frame = outside.size() - caller.size();
   const QPoint inside = caller.geometry().topLeft() - outside.topLeft();
-  if (!has_size) {
+  if (!testAttribute(Qt::WA_Resized)) {
     adjustSize();  // to two thirds of the screen at the most
     resize(size().expandedTo(sizeHint()).boundedTo(screen.size() - frame));
   }
@@ -111,7 +120,6 @@ void Form::moveOver(const QWidget& caller) {
   place.moveLeft(std::max(place.left(), screen.left()));
   place.moveTop(std::max(place.top(), screen.top()));
   setGeometry(QRect(place.topLeft() + inside, size()));
-  setAttribute(Qt::WA_Resized, has_size);  // in another language it may need another one
 }
 
 void Form::returnToCaller() {

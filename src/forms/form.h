@@ -67,6 +67,7 @@ class Form : public QMainWindow, public FormWindow, public FormControls {
 
  private:
   void moveOver(const QWidget& caller);
+  void growToContents();
   /// Puts a window that was shown before where it stood, if that is still on a screen.
   void takePlace();
 
