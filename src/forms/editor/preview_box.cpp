@@ -11,9 +11,11 @@ namespace zel {
 
 PreviewBox::PreviewBox(QWidget* parent) : QLabel(parent) {
   setContentsMargins(1, 1, 1, 1);  // for the frame
+  // Sides of 4 to 3, as the plot window's picture has at first: with the proportions kept, the same
+  // range of y is seen in both.
   constexpr int kWidthInLetters = 30;
-  const int width = fontMetrics().averageCharWidth() * kWidthInLetters;
-  setFixedSize(width, width * 4 / 5);
+  const int quarter = (fontMetrics().averageCharWidth() * kWidthInLetters + 3) / 4;
+  setFixedSize(4 * quarter + 2, 3 * quarter + 2);
 }
 
 QSize PreviewBox::pixels() const {
