@@ -40,7 +40,7 @@ class MarkNumbers : public PlotTest {
   }
   double belowAxis() const { return viewport.mapY(0) + 40 + 25; }
 
-  static const PictureLabel& labelled(const NumberLayer& layer, const std::string& text) {
+  static PictureLabel labelled(const NumberLayer& layer, const std::string& text) {
     const auto found = std::ranges::find(layer.labels, text, &PictureLabel::text);
     if (found == layer.labels.end()) throw std::runtime_error("no number " + text);
     return *found;
@@ -81,7 +81,7 @@ TEST_F(MarkNumbers, StandAtEveryMarkWhereThereIsRoom) {
 TEST_F(MarkNumbers, AreInTheMiddleBelowTheirMarks) {
   show(10, 16, -1, 1);
   const NumberLayer layer = numbers();
-  const PictureLabel& twelve = labelled(layer, "12");
+  const PictureLabel twelve = labelled(layer, "12");
   EXPECT_EQ(twelve.corner, (Point{4000 - kCharacter, belowAxis()}));
   EXPECT_EQ(twelve.width, 2 * kCharacter);
   EXPECT_EQ(twelve.height, kLine);
@@ -90,7 +90,7 @@ TEST_F(MarkNumbers, AreInTheMiddleBelowTheirMarks) {
 
 TEST_F(MarkNumbers, OfTheYAxisEndBesideTheirMarks) {
   show(-1, 1, 10, 16);
-  const PictureLabel& twelve = labelled(numbers(), "12");
+  const PictureLabel twelve = labelled(numbers(), "12");
   EXPECT_EQ(twelve.corner.x + twelve.width, 6000 - 40 - 25);
   EXPECT_EQ(twelve.corner.y + kLine / 2, 6000);
 }
@@ -140,7 +140,7 @@ TEST_F(MarkNumbers, TellTheOriginOnce) {
   show(-4, 4, -3, 3);
   const NumberLayer layer = numbers();
   EXPECT_EQ(std::ranges::count(textsOf(layer), "0"), 1);
-  const PictureLabel& zero = labelled(layer, "0");
+  const PictureLabel zero = labelled(layer, "0");
   EXPECT_LT(zero.corner.x + zero.width, viewport.mapX(0));
   EXPECT_GT(zero.corner.y, viewport.mapY(0));
 }
@@ -166,7 +166,7 @@ TEST_F(MarkNumbers, StandAtTheEdgeBeyondWhichTheirAxisLies) {
   for (const double xi : {10.0, -20.0}) {
     show(xi, xi + 10, 10.5, 11.5);
     marks = {1, 0.25, true, true};
-    const PictureLabel& number = labelled(numbers(), "10,75");
+    const PictureLabel number = labelled(numbers(), "10,75");
     EXPECT_EQ(xi > 0 ? number.corner.x : number.corner.x + number.width, xi > 0 ? 25 : 12000 - 25);
   }
 }
