@@ -85,7 +85,7 @@ class User : public Screen, public PlotListener {
     runPendingEvents();
     return std::string(events_.until(' '));
   }
-  void copyPicture() override {}
+  void copyPicture(bool) override {}
   void openPrint() override {}
   void returnToMain() override { session_.close(); }
 
