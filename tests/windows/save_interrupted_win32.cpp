@@ -239,7 +239,8 @@ int wmain(int count, wchar_t** wide) {
   for (const char* const when : {"before", "after"})
     for (const bool existed : {true, false})
       if (!holds(folder, when, existed)) all_hold = false;
-  for (const DWORD error : {ERROR_DISK_FULL, ERROR_IO_DEVICE, ERROR_ACCESS_DENIED})
+  for (const DWORD error :
+       {DWORD{ERROR_DISK_FULL}, DWORD{ERROR_IO_DEVICE}, DWORD{ERROR_ACCESS_DENIED}})
     for (const bool for_good : {false, true})
       for (const bool existed : {true, false})
         if (!survives(folder, error, for_good, existed)) all_hold = false;
