@@ -1,7 +1,7 @@
 # What makes a fault that nobody has found harder to use: canaries on the stack, checked copies,
 # tables of addresses that are read-only from the start, programs at a random place, and on x86
-# marked places for indirect jumps. tests/house/hardening_test.sh looks at the programs. Sanitizers
-# bring checks of their own.
+# marked places for indirect jumps. tests/cli/hardening_test.sh and
+# tests/windows/hardening_test.sh look at the programs. Sanitizers bring checks of their own.
 include(CheckPIESupported)
 check_pie_supported()
 

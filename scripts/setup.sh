@@ -10,8 +10,7 @@ declare -A groups=(
   [test]="acl appstream at-spi2-core cups-daemon dbus-daemon desktop-file-utils dpkg-dev fish
     g++-mingw-w64-x86-64-posix git imagemagick libglib2.0-bin libxml2-utils libz-mingw-w64-dev
     lintian locales mandoc musl-tools openbox poppler-utils python3 python3-pyatspi python3-xlib
-    qpdf
-    shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool xvfb zsh"
+    qpdf shared-mime-info shellcheck strace x11-utils xclip xdg-utils xdotool xvfb zsh"
   [package]="dpkg-dev gzip"
   [chroot]="debootstrap"
   [pictures]="librsvg2-bin"
