@@ -41,7 +41,7 @@ struct MarkNumber {
 
 /// Round numbers in the place of marks.
 std::optional<Direction> roundMarks(Direction range) {
-  range.distance = powerOfTen(decadeOf(kNearest / range.scale));
+  range.distance = unitOfPlace(placeOf(kNearest / range.scale));
   range.mark = std::ceil(range.first / range.distance) * range.distance;
   const bool steps = range.distance > 0 && range.last + range.distance > range.last &&
                      range.first - range.distance < range.first;
@@ -82,7 +82,7 @@ std::vector<MarkNumber> marksAtStride(const Direction& range, double stride) {
     index += skipped;
     value += skipped * range.distance;
   }
-  const int decade = decadeOf(by * range.distance) - kDigitsOfDistance;
+  const int decade = placeOf(by * range.distance) - kDigitsOfDistance;
   for (; value <= range.last; index += by) {
     // Where each step is a stride, an index that is no longer exact must not tell.
     if (is_dense || std::fmod(index, stride) == 0)
@@ -225,7 +225,7 @@ std::optional<PictureLabel> pointerLabel(const Viewport& viewport, Point pointer
   const double y = viewport.planeY(pointer.y);
   if (!std::isfinite(x) || !std::isfinite(y)) return std::nullopt;
   const auto text = [](double value, double scale) {
-    return roundedText(value, decadeOf(kTwipsPerPixel / scale));
+    return roundedText(value, placeOf(kTwipsPerPixel / scale));
   };
   PictureLabel label;
   label.text = "X=" + text(x, viewport.xScale()) + "  Y=" + text(y, viewport.yScale());

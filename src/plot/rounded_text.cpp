@@ -3,19 +3,20 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "numbers/elementary/elementary.h"
 #include "numbers/number_text.h"
 
 namespace zel {
 
-int decadeOf(double number) { return static_cast<int>(std::floor(std::log10(number))); }
+int placeOf(double number) { return static_cast<int>(std::floor(decimalLogarithm(number))); }
 
-double powerOfTen(int exponent) {
-  return readNumber("1E" + std::to_string(exponent)).value_or(HUGE_VAL);
+double unitOfPlace(int place) {
+  return readNumber("1E" + std::to_string(place)).value_or(HUGE_VAL);
 }
 
 std::string roundedText(double number, int decade) {
   constexpr double kMostExact = 1e15;
-  const double unit = powerOfTen(std::abs(decade));
+  const double unit = unitOfPlace(std::abs(decade));
   const double count = std::round(decade < 0 ? number * unit : number / unit);
   // Divided, as a product with 0,001 would not be the double nearest to the text.
   const double rounded = decade < 0 ? count / unit : count * unit;

@@ -24,12 +24,12 @@ TEST(RoundedText, EndsAtItsPlace) {
 }
 
 TEST(RoundedText, KnowsThePlaceOfTheFirstDigit) {
-  EXPECT_EQ(decadeOf(1), 0);
-  EXPECT_EQ(decadeOf(9.99), 0);
-  EXPECT_EQ(decadeOf(0.1), -1);
-  EXPECT_EQ(decadeOf(1e300), 300);
-  EXPECT_EQ(powerOfTen(-3), 0.001);
-  EXPECT_EQ(powerOfTen(400), HUGE_VAL);
+  EXPECT_EQ(placeOf(1), 0);
+  EXPECT_EQ(placeOf(9.99), 0);
+  EXPECT_EQ(placeOf(0.1), -1);
+  EXPECT_EQ(placeOf(1e300), 300);
+  EXPECT_EQ(unitOfPlace(-3), 0.001);
+  EXPECT_EQ(unitOfPlace(400), HUGE_VAL);
 }
 
 }  // namespace

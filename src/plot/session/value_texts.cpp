@@ -4,14 +4,11 @@
 #include "plot/session/value_texts.h"
 
 #include "base/language.h"
+#include "base/text.h"
 #include "numbers/number_text.h"
 
 namespace zel {
-namespace {
-
-constexpr std::string_view kLineBreak = "\r\n";
-
-}  // namespace
+namespace {}  // namespace
 
 std::string valueTitle() { return Localize("Cálculo de un valor específico"); }
 
