@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <vector>
 
 #include <isa-l/crc.h>
@@ -8,6 +10,9 @@
 
 namespace zel {
 namespace {
+
+/// Enough for the library to have seen a beginning, and too few for its fast path.
+constexpr std::uint32_t kFirstBytes = 8;
 
 // The library takes what it only reads without const.
 std::uint8_t* unconst(const std::uint8_t* bytes) { return const_cast<std::uint8_t*>(bytes); }
@@ -20,7 +25,7 @@ struct Deflate::Stream {
   std::array<char, std::size_t{1} << 16> out;
 
   /// False when the library failed. What has come out is appended.
-  bool run(std::span<const std::uint8_t> part, bool is_last, std::string& output) {
+  bool run(std::span<const std::uint8_t> part, std::string& output, bool is_last = false) {
     z.end_of_stream = is_last;
     z.next_in = unconst(part.data());
     z.avail_in = static_cast<std::uint32_t>(part.size());
@@ -31,6 +36,19 @@ struct Deflate::Stream {
       output.append(out.data(), out.size() - z.avail_out);
     } while (z.avail_out == 0);
     return true;
+  }
+
+  /// Compresses the first bytes of a stream by themselves and takes them from the part. The
+  /// library's fast path, which leaves so few alone, would look the third byte up by the address of
+  /// the stream, and one picture in three hundred would have other bytes.
+  bool takeFirst(std::span<const std::uint8_t>& part, std::string& output) {
+    if (z.total_in >= kFirstBytes || part.empty()) return true;
+    const auto first = part.first(std::min<std::size_t>(kFirstBytes - z.total_in, part.size()));
+    part = part.subspan(first.size());
+    z.flush = SYNC_FLUSH;
+    const bool is_done = run(first, output);
+    z.flush = NO_FLUSH;
+    return is_done;
   }
 };
 
@@ -48,11 +66,11 @@ Deflate::Deflate(Deflate&&) noexcept = default;
 Deflate& Deflate::operator=(Deflate&&) noexcept = default;
 
 void Deflate::take(std::span<const std::uint8_t> part) {
-  has_failed_ = has_failed_ || !stream_->run(part, false, output_);
+  has_failed_ = has_failed_ || !stream_->takeFirst(part, output_) || !stream_->run(part, output_);
 }
 
 std::string Deflate::finish() {
-  has_failed_ = has_failed_ || !stream_->run({}, true, output_);
+  has_failed_ = has_failed_ || !stream_->run({}, output_, true);
   return has_failed_ ? std::string() : std::move(output_);
 }
 

@@ -1,9 +1,12 @@
 #include "pictures/png.h"
 
+#include <memory>
 #include <random>
+#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "pictures/raster_picture.h"
 #include "support/png_reader.h"
 
 namespace zel::test {
@@ -41,6 +44,31 @@ TEST(Png, TakesALargePlainBitmap) {
 
 TEST(Png, TakesRowsOfAnyLength) {
   for (int width = 2; width < 40; ++width) expectGivenBack(plain(width, 3));
+}
+
+/// Axes and lines, as in a plot window.
+Bitmap drawn() {
+  RasterPicture picture(800, 600);
+  picture.beginAxes();
+  picture.line({0, 4500}, {12000, 4500});
+  picture.line({6000, 0}, {6000, 9000});
+  picture.beginGraph('a', 0xFF0000);
+  for (int i = 0; i < 9; ++i) {
+    picture.startPiece({0, 1000.0 * i});
+    picture.extendPiece({12000, 8500.0 - 900 * i});
+  }
+  return picture.finish();
+}
+
+// Each time the compression lies somewhere else in memory.
+TEST(Png, HasTheSameBytesWhereverItIsCompressed) {
+  const Bitmap bitmap = drawn();
+  const std::string first = writePng(bitmap);
+  std::vector<std::unique_ptr<char[]>> between;
+  for (int i = 0; i < 2000; ++i) {
+    between.push_back(std::make_unique_for_overwrite<char[]>(100'000));
+    ASSERT_TRUE(writePng(bitmap) == first) << i;
+  }
 }
 
 TEST(Png, MakesNothingOfNoBitmap) { EXPECT_EQ(writePng(Bitmap()), ""); }
