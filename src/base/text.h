@@ -7,6 +7,9 @@
 /// is all that documents can hold; a "blank" is the character " " and nothing else.
 namespace zel {
 
+/// Of files and of messages.
+inline constexpr std::string_view kLineBreak = "\r\n";
+
 std::string toLower(std::string_view text);
 
 /// Upper case of the letters "a" to "z" alone.

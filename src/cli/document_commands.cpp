@@ -10,7 +10,7 @@
 namespace zel {
 namespace {
 
-struct Options {
+struct DocumentOptions {
   std::string file;
   std::string out;
 };
@@ -32,7 +32,7 @@ void describe(const GraphDef& def, std::ostream& out) {
   out << '\n';
 }
 
-int check(const Options& options, const Console& console) {
+int check(const DocumentOptions& options, const Console& console) {
   Session session;
   if (const int status = session.load(options.file, console)) return status;
   for (char letter = 'a'; letter <= 'z'; ++letter) {
@@ -42,7 +42,7 @@ int check(const Options& options, const Console& console) {
   return kExitDone;
 }
 
-int resave(const Options& options, const Console& console) {
+int resave(const DocumentOptions& options, const Console& console) {
   Session session;
   if (const int status = session.load(options.file, console)) return status;
   const auto bytes = documentBytes(session.view, session.graphs);
@@ -54,7 +54,7 @@ int resave(const Options& options, const Console& console) {
 }  // namespace
 
 void addCheck(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<DocumentOptions>();
   CLI::App* subcommand = app.add_subcommand("check", "Load a document and list its graphs");
   subcommand->add_option("FILE", options->file, "Document; - is standard input")
       ->type_name("")
@@ -65,7 +65,7 @@ void addCheck(CLI::App& app, Console& console, Command& command) {
 }
 
 void addResave(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<DocumentOptions>();
   CLI::App* subcommand = app.add_subcommand("resave", "Load a document and write it anew");
   subcommand->add_option("FILE", options->file, "Document; - is standard input")
       ->type_name("")

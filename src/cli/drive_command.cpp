@@ -17,7 +17,7 @@
 namespace zel {
 namespace {
 
-struct Options {
+struct DriveOptions {
   std::string file;
   std::optional<std::string> active;
   ViewOptions view;
@@ -63,7 +63,7 @@ class Dialogue {
   bool was_wrong_ = false;
 };
 
-int drive(const Options& options, const Console& console) {
+int drive(const DriveOptions& options, const Console& console) {
   keepInputFree("FILE", options.file);
   const WantedView wanted = readViewOptions(options.view);
   std::optional<char> active;
@@ -85,7 +85,7 @@ int drive(const Options& options, const Console& console) {
 }  // namespace
 
 void addDrive(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<DriveOptions>();
   CLI::App* subcommand =
       app.add_subcommand("drive", "Plot a document and carry out the commands that are read");
   subcommand->add_option("FILE", options->file, "Document")->type_name("")->required();

@@ -19,7 +19,7 @@
 namespace zel {
 namespace {
 
-struct Options {
+struct EvaluateOptions {
   std::optional<std::string> document;
   std::string t = "1";
   std::string p = "0";
@@ -102,7 +102,7 @@ class Batch {
   double x_ = 0;
 };
 
-int runBatch(const Options& options, const Console& console, Engine& engine) {
+int runBatch(const EvaluateOptions& options, const Console& console, Engine& engine) {
   Batch batch(console, engine, options.is_code);
   LineReader reader(console.in);
   Progress progress(console.err);
@@ -120,7 +120,7 @@ int runBatch(const Options& options, const Console& console, Engine& engine) {
   return reader.hasFailed() ? console.failReading() : kExitDone;
 }
 
-std::vector<double> readXs(const Options& options) {
+std::vector<double> readXs(const EvaluateOptions& options) {
   if (options.batch == options.formula.has_value())
     throw CLI::ValidationError("evaluate", "give a formula and its x, or --batch");
   std::vector<double> xs;
@@ -129,7 +129,7 @@ std::vector<double> readXs(const Options& options) {
   return xs;
 }
 
-int evaluate(const Options& options, const Console& console) {
+int evaluate(const EvaluateOptions& options, const Console& console) {
   const double t = numberArgument("--t", options.t);
   const double p = numberArgument("--p", options.p);
   const std::vector<double> xs = readXs(options);
@@ -153,7 +153,7 @@ int evaluate(const Options& options, const Console& console) {
 }  // namespace
 
 void addEvaluate(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<EvaluateOptions>();
   CLI::App* evaluation = app.add_subcommand("evaluate", "Evaluate a formula at each X");
   addText(*evaluation, "--document", options->document, "Document whose graphs can be called")
       ->type_name("FILE");

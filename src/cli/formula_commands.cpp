@@ -16,12 +16,12 @@
 namespace zel {
 namespace {
 
-struct Options {
+struct FormulaOptions {
   std::optional<std::string> document;
   std::vector<std::string> formulas;
 };
 
-int compile(const Options& options, const Console& console) {
+int compile(const FormulaOptions& options, const Console& console) {
   for (const std::string& formula : options.formulas)
     console.out << onOneLine(NormaliseFormula(formula)) << '\n';
   return kExitDone;
@@ -35,7 +35,7 @@ std::string refusalOf(const std::string& text, Engine& engine) {
   return message;
 }
 
-int checkFormulas(const Options& options, const Console& console) {
+int checkFormulas(const FormulaOptions& options, const Console& console) {
   Session session;
   if (const int status = session.loadIfGiven(options.document, console)) return status;
   Progress progress(console.err);
@@ -60,7 +60,7 @@ int selfTest(const Console& console) {
 }
 
 CLI::App* addFormulaCommand(CLI::App& app, const char* name, const char* description,
-                            const std::shared_ptr<Options>& options) {
+                            const std::shared_ptr<FormulaOptions>& options) {
   CLI::App* subcommand = app.add_subcommand(name, description);
   subcommand->add_option("FORMULA", options->formulas, "As it is typed")->type_name("")->required();
   return subcommand;
@@ -69,7 +69,7 @@ CLI::App* addFormulaCommand(CLI::App& app, const char* name, const char* descrip
 }  // namespace
 
 void addCompile(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<FormulaOptions>();
   addFormulaCommand(app, "compile", "Print the code of each formula", options)
       ->callback([&command, &console, options] {
         command = [&console, options] { return compile(*options, console); };
@@ -77,7 +77,7 @@ void addCompile(CLI::App& app, Console& console, Command& command) {
 }
 
 void addCheckFormula(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<FormulaOptions>();
   CLI::App* check =
       addFormulaCommand(app, "check-formula", "Say whether each formula may be declared", options);
   addText(*check, "--document", options->document, "Document whose graphs can be called")

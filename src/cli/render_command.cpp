@@ -17,7 +17,7 @@
 namespace zel {
 namespace {
 
-struct Options {
+struct RenderOptions {
   std::vector<std::string> files;
   std::string out;
   std::string format;
@@ -38,7 +38,7 @@ bool isFolder(const std::string& out) {
   return !path.has_filename() || std::filesystem::is_directory(path, none);
 }
 
-int renderToFile(const Options& options, const WantedView& wanted, const Console& console) {
+int renderToFile(const RenderOptions& options, const WantedView& wanted, const Console& console) {
   if (options.files.size() > 1)
     throw CLI::ValidationError(
         "-o", "several documents need a folder that exists, or whose name ends in /");
@@ -52,7 +52,7 @@ int renderToFile(const Options& options, const WantedView& wanted, const Console
   return renderOne(job, wanted, console, &progress);
 }
 
-int renderToFolder(const Options& options, const WantedView& wanted, const Console& console) {
+int renderToFolder(const RenderOptions& options, const WantedView& wanted, const Console& console) {
   const auto jobs =
       picturesInFolder(options.files, options.out, options.format.empty() ? "png" : options.format);
   if (tellNarrowPicture(wanted, console)) return kExitFailed;
@@ -65,7 +65,7 @@ int renderToFolder(const Options& options, const WantedView& wanted, const Conso
   return renderMany(jobs, wanted, console);
 }
 
-int render(const Options& options, const Console& console) {
+int render(const RenderOptions& options, const Console& console) {
   const WantedView wanted = readViewOptions(options.view);
   return isFolder(options.out) ? renderToFolder(options, wanted, console)
                                : renderToFile(options, wanted, console);
@@ -74,7 +74,7 @@ int render(const Options& options, const Console& console) {
 }  // namespace
 
 void addRender(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<RenderOptions>();
   CLI::App* subcommand = app.add_subcommand("render", "Draw documents into picture files");
   subcommand->add_option("FILE", options->files, "Documents; - is standard input")
       ->type_name("")

@@ -14,7 +14,7 @@
 namespace zel {
 namespace {
 
-struct Options {
+struct TableOptions {
   std::string file;
   std::string graph;
   std::string from;
@@ -75,7 +75,7 @@ void writeRows(const ParameterRange& range, Values& values, TableRows& rows,
   rows.end();
 }
 
-int table(const Options& options, const Console& console) {
+int table(const TableOptions& options, const Console& console) {
   const ParameterRange range = {numberArgument("--from", options.from),
                                 numberArgument("--to", options.to),
                                 numberArgument("--step", options.step)};
@@ -97,7 +97,7 @@ int table(const Options& options, const Console& console) {
 }  // namespace
 
 void addTable(CLI::App& app, Console& console, Command& command) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<TableOptions>();
   CLI::App* subcommand = app.add_subcommand("table", "Print the values of a graph");
   subcommand->add_option("FILE", options->file, "Document; - is standard input")
       ->type_name("")

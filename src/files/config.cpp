@@ -15,8 +15,6 @@
 namespace zel {
 namespace {
 
-constexpr std::string_view kLineBreak = "\r\n";
-
 /// The first characters, which are bytes in the code page of the file.
 std::string firstCharacters(std::string_view text, std::size_t count) {
   return fromCodePage(toCodePage(text).substr(0, count));

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "base/code_page.h"
+#include "base/text.h"
 #include "files/document_check.h"
 #include "files/document_parser.h"
 #include "files/text_file.h"
@@ -18,8 +19,6 @@
 namespace zel {
 namespace {
 
-constexpr std::string_view kLineBreak = "\r\n";
-constexpr std::string_view kTerminator = " ";
 constexpr std::string_view kOldestVersion = "versiones_compatibles=2.0";
 
 constexpr std::string_view kHead =

@@ -13,13 +13,11 @@
 #include <utility>
 
 #include "base/code_page.h"
+#include "base/text.h"
 #include "numbers/number_text.h"
 
 namespace zel {
 namespace {
-
-constexpr std::string_view kLineBreak = "\r\n";
-constexpr std::string_view kTerminator = " ";
 
 /// Walks the lines of a text without keeping them.
 class LineReader {

@@ -17,6 +17,9 @@ enum class ParseOutcome {
 /// of its parameters. One more is an error inside the section.
 inline constexpr std::size_t kMostPairs = 16384;
 
+/// The line that ends a section.
+inline constexpr std::string_view kTerminator = " ";
+
 /// Reads the bytes of a document. The view's pairs are applied and the graphs stored as they come,
 /// and stay when the parse ends early; the header changes when its section was read whole. Takes
 /// time and memory in proportion to the bytes, whatever they hold.

@@ -14,8 +14,6 @@
 namespace zel {
 namespace {
 
-constexpr std::string_view kLineBreak = "\r\n";
-
 /// A line for the label of each field that fails.
 std::string listFailures(std::span<const Field> fields,
                          const std::function<bool(const Field&)>& fails) {

@@ -14,7 +14,7 @@ namespace {
 
 using KindTable = std::array<KindInfo, 26>;
 
-constexpr std::size_t indexOf(char letter) { return static_cast<std::size_t>(letter - 'A'); }
+constexpr std::size_t placeInTable(char letter) { return static_cast<std::size_t>(letter - 'A'); }
 
 /// The names are kept as they are, accents or none. "7@" is the code of the square root.
 constexpr std::array<KindInfo, 7> kKinds = {{
@@ -29,7 +29,7 @@ constexpr std::array<KindInfo, 7> kKinds = {{
 
 constexpr KindTable makeKindTable() {
   KindTable table;
-  for (const KindInfo& kind : kKinds) table[indexOf(kind.letter)] = kind;
+  for (const KindInfo& kind : kKinds) table[placeInTable(kind.letter)] = kind;
   return table;
 }
 
@@ -38,7 +38,7 @@ constexpr KindTable kTable = makeKindTable();
 }  // namespace
 
 const KindInfo* kindInfo(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? &kTable[indexOf(letter)] : nullptr;
+  return letter >= 'A' && letter <= 'Z' ? &kTable[placeInTable(letter)] : nullptr;
 }
 
 std::string substituteParameters(std::string_view code_template, const Parameters& parameters) {

@@ -12,18 +12,18 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr PaperSize kPicture{9000, 6000};
+constexpr PaperSize kPlotSize{9000, 6000};
 
 class Printing : public ::testing::Test {
  protected:
   PrintOutcome print(PrintOutcome outcome) {
     services.printer.outcome = outcome;
     return printAt(services.services(), PrintTarget::printer,
-                   PrintPreview({16840, 11900}, kPicture), drawing, bitmap);
+                   PrintPreview({16840, 11900}, kPlotSize), drawing, bitmap);
   }
   PrintOutcome printToFile(const std::string& path) {
     services.files.paths = {path};
-    return printAt(services.services(), PrintTarget::pdf, PrintPreview({16840, 11900}, kPicture),
+    return printAt(services.services(), PrintTarget::pdf, PrintPreview({16840, 11900}, kPlotSize),
                    drawing, bitmap);
   }
   auto preview(PaperSize picture) {
@@ -57,9 +57,9 @@ TEST_F(Printing, ThePreviewOfAFileHasTheUsualPaperWithoutAPrinter) {
 
 TEST_F(Printing, ThereIsNoPreviewWithoutPrinterPaperOrPicture) {
   services.printer.upright = PaperSize{0, 0};
-  EXPECT_FALSE(preview(kPicture));
+  EXPECT_FALSE(preview(kPlotSize));
   services.printer.upright.reset();
-  EXPECT_FALSE(preview(kPicture));
+  EXPECT_FALSE(preview(kPlotSize));
   services.printer.upright = PaperSize{11900, 16840};
   EXPECT_FALSE(preview({0, 6000}));
   EXPECT_FALSE(preview({9000, 0}));
@@ -71,7 +71,7 @@ TEST_F(Printing, PrintsWhereThePreviewShowsIt) {
   const auto& page = services.printer.printed.at(0);
   EXPECT_EQ(page.orientation, PageOrientation::landscape);
   EXPECT_EQ(page.position, (Point{3920, 2950}));
-  EXPECT_EQ(page.size, kPicture);
+  EXPECT_EQ(page.size, kPlotSize);
   EXPECT_EQ(page.scale, 1);
   EXPECT_EQ(page.bitmap, bitmap);
   EXPECT_FALSE(page.drawing.isFull());
@@ -96,7 +96,7 @@ TEST_F(Printing, WritesTheFileThatIsAskedForAndAsksNoPrinter) {
 }
 
 TEST_F(Printing, WritesNoFileWhenNoneIsNamed) {
-  EXPECT_EQ(printAt(services.services(), PrintTarget::pdf, PrintPreview({16840, 11900}, kPicture),
+  EXPECT_EQ(printAt(services.services(), PrintTarget::pdf, PrintPreview({16840, 11900}, kPlotSize),
                     drawing, bitmap),
             PrintOutcome::cancelled);
   EXPECT_THAT(services.printer.made_pdfs, IsEmpty());

@@ -134,8 +134,7 @@ double apply(double left, double right, char op) {
   return static_cast<double>(dividend / divisor);
 }
 
-const Error kUserFunction = {
-    "Error: No se entiende el elemento: \r\nFunción ingresada por usuario"};
+const Error kNoFunction = {"Error: No se entiende el elemento: \r\nFunción ingresada por usuario"};
 
 std::string stripped(std::string text) {
   while (text.size() >= 2 && text.front() == '(' && text.back() == ')') {
@@ -227,10 +226,10 @@ std::string Model::reduce(std::string text) {
     const std::string right = reduce(operands.right);
     const double first = read(left);
     const double second = read(right);
-    if (operands.op.size() != 1 || !std::strchr("+-\\/*@^#", operands.op[0])) throw kUserFunction;
+    if (operands.op.size() != 1 || !std::strchr("+-\\/*@^#", operands.op[0])) throw kNoFunction;
     return textOf(checked(apply(first, second, operands.op[0])));
   }
-  if (!isNumber(text)) throw kUserFunction;
+  if (!isNumber(text)) throw kNoFunction;
   return text;
 }
 

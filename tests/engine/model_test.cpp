@@ -49,9 +49,9 @@ std::string textOf(double value) {
 }
 
 /// A while with one engine and one model, which get the same things to do.
-class Session {
+class Encounter {
  public:
-  Session(std::uint64_t seed, Vocabulary vocabulary, Tally& tally)
+  Encounter(std::uint64_t seed, Vocabulary vocabulary, Tally& tally)
       : random_(seed, vocabulary), tally_(tally) {
     for (std::size_t i = random_.below(3) + 1; i > 0; --i)
       codes_.push_back(random_.oneIn(3) ? random_.faultingCode() : random_.code());
@@ -148,7 +148,7 @@ class Session {
 Tally compareSessions(Vocabulary vocabulary) {
   LanguageGuard language("ES");
   Tally tally;
-  for (std::uint64_t seed = 1; seed <= kSessions; ++seed) Session(seed, vocabulary, tally).run();
+  for (std::uint64_t seed = 1; seed <= kSessions; ++seed) Encounter(seed, vocabulary, tally).run();
   return tally;
 }
 

@@ -15,14 +15,13 @@ bool isName(std::string_view text) {
 }  // namespace
 
 Descent descend(std::string_view text, ParseCache& cache, Splitter& splitter) {
-  using Kind = Descent::Kind;
-  if (splitter.isNumber(text)) return {Kind::number, text, {}};
+  if (splitter.isNumber(text)) return {Descent::Kind::number, text, {}};
   if (text.starts_with('(') && text.ends_with(')')) text = cache.strip(text, splitter);
-  if (isName(text)) return {Kind::name, text, {}};
+  if (isName(text)) return {Descent::Kind::name, text, {}};
   const Split split = cache.split(text, splitter);
-  if (split.failure != SplitFailure::none) return {Kind::failed, text, split};
-  if (!split.left.empty() && !split.right.empty()) return {Kind::split, text, split};
-  return {isNumeric(text) ? Kind::number : Kind::user_function, text, split};
+  if (split.failure != SplitFailure::none) return {Descent::Kind::failed, text, split};
+  if (!split.left.empty() && !split.right.empty()) return {Descent::Kind::split, text, split};
+  return {isNumeric(text) ? Descent::Kind::number : Descent::Kind::user_function, text, split};
 }
 
 }  // namespace zel

@@ -32,7 +32,6 @@ std::string_view textOf(char name, const NameTexts& names) {
 }  // namespace
 
 Outcome::Kind Reducer::reduce(std::string_view code, const NameTexts& names) {
-  using Kind = Outcome::Kind;
   stack_.clear();
   message_.clear();
   Splitter splitter;
@@ -44,14 +43,14 @@ Outcome::Kind Reducer::reduce(std::string_view code, const NameTexts& names) {
       text = descent.split.left;
       continue;
     }
-    if (!borrow(descent, names)) return Kind::error;
+    if (!borrow(descent, names)) return Outcome::Kind::error;
     // The value goes up until a split still waits for its right operand.
     while (!stack_.empty() && stack_.back().has_left) {
-      const Kind kind = apply(stack_.back());
-      if (kind != Kind::value) return kind;
+      const Outcome::Kind kind = apply(stack_.back());
+      if (kind != Outcome::Kind::value) return kind;
       stack_.pop_back();
     }
-    if (stack_.empty()) return Kind::value;
+    if (stack_.empty()) return Outcome::Kind::value;
     stack_.back().left = value_;
     stack_.back().has_left = true;
     text = stack_.back().split.right;

@@ -6,7 +6,7 @@
 namespace zel::test {
 namespace {
 
-struct Row {
+struct CaptionRow {
   const char *name, *spanish, *english;
 };
 
@@ -18,14 +18,14 @@ class EditorCaptions : public Editor {
     for (const char* const language : {"EN", "ES"}) {
       SetCurrentLanguage(language);
       editor.ApplyLanguage();
-      for (const Row& row : rows)
+      for (const CaptionRow& row : rows)
         EXPECT_EQ(fromQt(said(row.name)), CurrentLanguage() == "EN" ? row.english : row.spanish)
             << row.name;
     }
   }
 };
 
-constexpr Row kLabels[] = {
+constexpr CaptionRow kLabels[] = {
     {"LblColor", "Color", "Color"},
     {"LblNombre", "Nombre", "Name"},
     {"LblTipo", "Tipo", "Type"},
@@ -64,52 +64,53 @@ TEST_F(EditorCaptions, NameTheLabels) {
 }
 
 TEST_F(EditorCaptions, NameTheFrames) {
-  const Row rows[] = {{"fraEncabezado", "Encabezado", "Header"},
-                      {"fraParametrica", "Parametrica", "Parametric"},
-                      {"fraParabola", "Parábola", "Parabola"},
-                      {"fraCircunferencia", "Circunferencia", "Circumference"},
-                      {"fraElipse", "Elipse", "Ellipse"},
-                      {"fraHiperbola", "Hiperbola", "Hyperbola"},
-                      {"fraHaz", "Declaración del Haz de funciones", "Sheaf definition"}};
+  const CaptionRow rows[] = {{"fraEncabezado", "Encabezado", "Header"},
+                             {"fraParametrica", "Parametrica", "Parametric"},
+                             {"fraParabola", "Parábola", "Parabola"},
+                             {"fraCircunferencia", "Circunferencia", "Circumference"},
+                             {"fraElipse", "Elipse", "Ellipse"},
+                             {"fraHiperbola", "Hiperbola", "Hyperbola"},
+                             {"fraHaz", "Declaración del Haz de funciones", "Sheaf definition"}};
   expectCaptions(rows, [&](const char* name) { return control<QGroupBox>(editor, name).title(); });
 }
 
 TEST_F(EditorCaptions, NameTheTabsInTheirOrder) {
-  const Row rows[] = {{"0", "Función", "Function"},
-                      {"1", "Circunferencia", "Circumference"},
-                      {"2", "Elipse", "Ellipse"},
-                      {"3", "Parábola", "Parabola"},
-                      {"4", "Paramétrica", "Parametric"},
-                      {"5", "Hiperbola", "Hyperbola"},
-                      {"6", "Haz", "Sheaf"}};
+  const CaptionRow rows[] = {{"0", "Función", "Function"},
+                             {"1", "Circunferencia", "Circumference"},
+                             {"2", "Elipse", "Ellipse"},
+                             {"3", "Parábola", "Parabola"},
+                             {"4", "Paramétrica", "Parametric"},
+                             {"5", "Hiperbola", "Hyperbola"},
+                             {"6", "Haz", "Sheaf"}};
   EXPECT_EQ(tabs().count(), 7);
   expectCaptions(rows, [&](const char* tab) { return tabs().tabText(std::atoi(tab)); });
 }
 
 TEST_F(EditorCaptions, NameTheButtonsAndMenus) {
-  const Row buttons[] = {{"bAceptar", "&Aceptar", "&OK"}, {"bCancelar", "&Cancelar", "&Cancel"}};
+  const CaptionRow buttons[] = {{"bAceptar", "&Aceptar", "&OK"},
+                                {"bCancelar", "&Cancelar", "&Cancel"}};
   expectCaptions(buttons,
                  [&](const char* name) { return control<QPushButton>(editor, name).text(); });
-  const Row menus[] = {{"mArchivo", "&Archivo", "&File"},
-                       {"mInsertarFuncion", "&Insertar", "&Insert"}};
+  const CaptionRow menus[] = {{"mArchivo", "&Archivo", "&File"},
+                              {"mInsertarFuncion", "&Insertar", "&Insert"}};
   expectCaptions(menus, [&](const char* name) { return control<QMenu>(editor, name).title(); });
-  const Row entries[] = {{"mSalir", "&Salir", "&Exit"}};
+  const CaptionRow entries[] = {{"mSalir", "&Salir", "&Exit"}};
   expectCaptions(entries, [&](const char* name) { return control<QAction>(editor, name).text(); });
 }
 
 TEST_F(EditorCaptions, NameTheFunctionsToInsert) {
-  const Row rows[] = {{"0", "Logaritmo base 10", "logarithm base 10"},
-                      {"1", "Logaritmo neperiano", "logarithm base e"},
-                      {"2", "Arcotangente", "Arctangent"},
-                      {"3", "Coseno", "Cosine"},
-                      {"4", "Seno", "Sine"},
-                      {"5", "Tangente", "Tangent"},
-                      {"6", "Factorial", "Factorial"},
-                      {"7", "Potencia de e", "e powered"},
-                      {"8", "Raiz cuadrada", "Square"},
-                      {"9", "Raiz triple", "Triple"},
-                      {"10", "Signo", "Sign"},
-                      {"11", "Valor absoluto", "Absolute value"}};
+  const CaptionRow rows[] = {{"0", "Logaritmo base 10", "logarithm base 10"},
+                             {"1", "Logaritmo neperiano", "logarithm base e"},
+                             {"2", "Arcotangente", "Arctangent"},
+                             {"3", "Coseno", "Cosine"},
+                             {"4", "Seno", "Sine"},
+                             {"5", "Tangente", "Tangent"},
+                             {"6", "Factorial", "Factorial"},
+                             {"7", "Potencia de e", "e powered"},
+                             {"8", "Raiz cuadrada", "Square"},
+                             {"9", "Raiz triple", "Triple"},
+                             {"10", "Signo", "Sign"},
+                             {"11", "Valor absoluto", "Absolute value"}};
   const auto actions = control<QMenu>(editor, "mInsertarFuncion").actions();
   EXPECT_EQ(actions.size(), 12);
   expectCaptions(rows, [&](const char* row) { return actions[std::atoi(row)]->text(); });

@@ -29,13 +29,13 @@ class GraficoToolbar : public GraficoTest {
   }
 };
 
-struct Row {
+struct ToolbarRow {
   const char* key;
   const char* spanish;
   const char* english;
 };
 
-constexpr Row kButtons[] = {
+constexpr ToolbarRow kButtons[] = {
     {"Recorrer_Atras", "Recorrer hacia la Izquierda", "Step back"},
     {"Recorrer", "Recorrer Función", "Rove"},
     {"Recorrer_Adelante", "Recorrer hacia la Derecha", "Step forward"},
@@ -63,7 +63,7 @@ TEST_F(GraficoToolbar, HasSixteenButtonsInTheirOrderThatSayWhatTheyDo) {
     for (QAction* const action : toolbar().actions()) {
       if (action->isSeparator()) continue;
       ASSERT_LT(count, std::size(kButtons));
-      const Row& row = kButtons[count++];
+      const ToolbarRow& row = kButtons[count++];
       const std::string expected = code == "ES" ? row.spanish : row.english;
       EXPECT_EQ(fromQt(action->objectName()), row.key);
       QToolButton& button = this->button(row.key);
@@ -92,12 +92,12 @@ TEST_F(GraficoToolbar, OfAParametricGraphOffersNeitherRoveNorValues) {
   addParametric('a');
   addFunction('b', "x");
   openUsual();
-  for (const Row& row : kButtons) {
+  for (const ToolbarRow& row : kButtons) {
     const bool needs_x = row.key == std::string("Recorrer") || row.key == std::string("Calcular_Y");
     EXPECT_EQ(button(row.key).isEnabled(), !needs_x) << row.key;
   }
   next();
-  for (const Row& row : kButtons) EXPECT_TRUE(button(row.key).isEnabled()) << row.key;
+  for (const ToolbarRow& row : kButtons) EXPECT_TRUE(button(row.key).isEnabled()) << row.key;
 }
 
 TEST_F(GraficoToolbar, ShowsTheCustomZoomPressedWhileTheModeIsZoom) {
@@ -174,7 +174,7 @@ TEST_F(GraficoToolbar, CanBeReachedWithTheTabKey) {
   open(view);
   QTest::keyClick(picture, Qt::Key_Backtab);
   EXPECT_TRUE(control<QWidget>("LstGraficos").hasFocus());
-  for (const Row& row : kButtons) EXPECT_EQ(button(row.key).focusPolicy(), Qt::TabFocus);
+  for (const ToolbarRow& row : kButtons) EXPECT_EQ(button(row.key).focusPolicy(), Qt::TabFocus);
 }
 
 TEST_F(GraficoToolbar, OpensNoMenu) {
@@ -249,7 +249,7 @@ TEST_F(GraficoToolbar, OffersNoOtherGraphWhereThereIsNone) {
   EXPECT_TRUE(control<QWidget>("LblColor").isHidden());
   for (const char* name : {"CmdGrafAnterior", "CmdGrafSiguiente"})
     EXPECT_FALSE(control<QAbstractButton>(name).isEnabled());
-  for (const Row& row : kButtons) {
+  for (const ToolbarRow& row : kButtons) {
     if (row.key == std::string("Configurar")) continue;
     click(row.key);
     EXPECT_TRUE(window.isVisible()) << row.key;
@@ -285,7 +285,7 @@ TEST_F(GraficoToolbar, TheStepButtonsRepeatWhileTheyAreHeld) {
     settle();
     EXPECT_EQ(window.session().tracePosition(), after);
   }
-  for (const Row& row : kButtons) {
+  for (const ToolbarRow& row : kButtons) {
     const bool steps = std::string(row.key).starts_with("Recorrer_");
     EXPECT_EQ(button(row.key).autoRepeat(), steps) << row.key;
     if (steps) {

@@ -23,12 +23,12 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-using Step = std::function<void(QFileDialog&)>;
+using DialogStep = std::function<void(QFileDialog&)>;
 
-constexpr const char* kZel = "Declaraciones ZEL (*.zel)|*.zel";
+constexpr const char* kDocuments = "Declaraciones ZEL (*.zel)|*.zel";
 
 /// Types a name and accepts.
-Step type(const std::string& name) {
+DialogStep type(const std::string& name) {
   return [name](QFileDialog& dialog) {
     auto* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     ASSERT_NE(field, nullptr);
@@ -38,7 +38,7 @@ Step type(const std::string& name) {
   };
 }
 
-const Step kCancel = [](QFileDialog& dialog) { dialog.reject(); };
+const DialogStep kCancel = [](QFileDialog& dialog) { dialog.reject(); };
 
 class FileDialogsOfWidgets : public ::testing::Test {
  protected:
@@ -48,13 +48,13 @@ class FileDialogsOfWidgets : public ::testing::Test {
     putBytes(folder_ / "old.zel", "x");
   }
 
-  std::optional<std::string> open(const std::vector<Step>& steps) {
+  std::optional<std::string> open(const std::vector<DialogStep>& steps) {
     const ModalDriver<QFileDialog> driver(steps);
-    return files.askOpen(kZel, proposal);
+    return files.askOpen(kDocuments, proposal);
   }
-  std::optional<std::string> save(const std::vector<Step>& steps) {
+  std::optional<std::string> save(const std::vector<DialogStep>& steps) {
     const ModalDriver<QFileDialog> driver(steps);
-    return files.askSave(kZel, proposal);
+    return files.askSave(kDocuments, proposal);
   }
 
   LanguageGuard language_{"ES"};
@@ -78,7 +78,7 @@ TEST_F(FileDialogsOfWidgets, OpenAnExistingFile) {
 
 TEST_F(FileDialogsOfWidgets, BeginInTheFolderOfTheDocumentWithItsName) {
   proposal = folder_ / "inner/mine.zel";
-  const Step look = [&](QFileDialog& dialog) {
+  const DialogStep look = [&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder_ / "inner");
     EXPECT_EQ(dialog.selectedFiles(), QStringList(QString::fromStdString(proposal)));
     dialog.reject();
@@ -94,7 +94,7 @@ TEST_F(FileDialogsOfWidgets, BeginInTheUsersDocumentsWithoutADocumentOrItsFolder
 #endif
   const EnvironmentGuard config("XDG_CONFIG_HOME", utf8Of(folder_.path()).c_str());
   putBytes(folder_ / "user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"" + folder_ / "inner" + "\"\n");
-  const Step look = [&](QFileDialog& dialog) {
+  const DialogStep look = [&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.directory().absolutePath().toStdString(), folder_ / "inner");
     dialog.reject();
   };

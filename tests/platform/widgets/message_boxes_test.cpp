@@ -22,29 +22,29 @@ namespace {
 
 using ::testing::ElementsAre;
 
-using Step = std::function<void(QMessageBox&)>;
+using BoxStep = std::function<void(QMessageBox&)>;
 
-Step key(Qt::Key key) {
+BoxStep key(Qt::Key key) {
   return [key](QMessageBox& box) { QTest::keyClick(&box, key); };
 }
 
-Step click(int place) {
+BoxStep click(int place) {
   return [place](QMessageBox& box) { box.buttons().at(place)->click(); };
 }
 
-const Step kClose = [](QMessageBox& box) { box.close(); };
+const BoxStep kClose = [](QMessageBox& box) { box.close(); };
 
 class MessageBoxesOfWidgets : public ::testing::Test {
  protected:
   MessageBoxesOfWidgets() { application(); }
 
-  BoxAnswer answer(BoxStyle style, const Step& step) {
+  BoxAnswer answer(BoxStyle style, const BoxStep& step) {
     const ModalDriver<QMessageBox> driver({step});
     return boxes.show("text", "title", style);
   }
 
   /// Shows a box, looks at it and closes it.
-  void lookAt(const std::string& text, BoxStyle style, const Step& look) {
+  void lookAt(const std::string& text, BoxStyle style, const BoxStep& look) {
     const ModalDriver<QMessageBox> driver({[&](QMessageBox& box) {
       look(box);
       box.close();
@@ -111,7 +111,7 @@ TEST_F(MessageBoxesOfWidgets, AnswerTheFirstButtonOnEnter) {
 }
 
 TEST_F(MessageBoxesOfWidgets, AnswerEscAndClosingWithCancelWhereThereIsOne) {
-  for (const Step& step : {key(Qt::Key_Escape), kClose}) {
+  for (const BoxStep& step : {key(Qt::Key_Escape), kClose}) {
     EXPECT_EQ(answer(BoxStyle::stop, step), BoxAnswer::ok);
     EXPECT_EQ(answer(BoxStyle::ok_cancel, step), BoxAnswer::cancel);
     EXPECT_EQ(answer(BoxStyle::cancel_try_again_continue, step), BoxAnswer::cancel);
