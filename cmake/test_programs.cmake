@@ -26,7 +26,7 @@ function(zel_tests folder)
     ZEL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
     ZEL_EXAMPLES_DIR="${PROJECT_SOURCE_DIR}/examples")
   # Most of the time goes into headers, so several sources are compiled at once.
-  set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${ZEL_UNITY})
   target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <string> <vector>)
   if(folder STREQUAL "forms" OR folder STREQUAL "platform")
     target_precompile_headers(${target} PRIVATE <QTest> <QApplication> <QLineEdit> <QPushButton>)

@@ -4,9 +4,9 @@
 #include <array>
 #include <vector>
 
-#include "app/field_text.h"
-#include "app/graph_editing.h"
-#include "app/key_filter.h"
+#include "app/editor/field_text.h"
+#include "app/editor/graph_editing.h"
+#include "app/editor/key_filter.h"
 #include "app/main_commands.h"
 #include "base/code_page.h"
 #include "base/language.h"

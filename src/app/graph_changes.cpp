@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "app/editor/new_graph.h"
 #include "app/messages.h"
-#include "app/new_graph.h"
 #include "base/language.h"
 
 namespace zel {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "cli/console.h"
+#include "cli/console/console.h"
 #include "numbers/number_text.h"
 
 namespace zel {

@@ -9,7 +9,7 @@
 #include "base/language.h"
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/console.h"
+#include "cli/console/console.h"
 #include "cli/examples.h"
 #include "files/system_language.h"
 

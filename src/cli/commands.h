@@ -4,7 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "cli/console.h"
+#include "cli/console/console.h"
 
 namespace zel {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "cli/commands.h"
-#include "cli/input_output.h"
+#include "cli/console/input_output.h"
 #include "cli/session.h"
 #include "pictures/colour.h"
 

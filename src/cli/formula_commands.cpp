@@ -7,7 +7,7 @@
 #include "base/text.h"
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/progress.h"
+#include "cli/console/progress.h"
 #include "cli/session.h"
 #include "engine/compiler.h"
 #include "engine/self_test.h"

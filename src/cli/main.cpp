@@ -5,9 +5,9 @@
 #include <new>
 
 #include "cli/cli.h"
-#include "cli/console.h"
-#include "cli/interrupt.h"
-#include "cli/process.h"
+#include "cli/console/console.h"
+#include "cli/console/interrupt.h"
+#include "cli/console/process.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-#include "cli/input_output.h"
+#include "cli/console/input_output.h"
 #include "files/whole_file.h"
 
 namespace zel {

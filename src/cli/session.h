@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "cli/console.h"
+#include "cli/console/console.h"
 #include "engine/engine.h"
 #include "files/document.h"
 #include "graphs/graph_table.h"

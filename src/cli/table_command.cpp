@@ -6,7 +6,7 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
-#include "cli/progress.h"
+#include "cli/console/progress.h"
 #include "cli/session.h"
 #include "cli/table_rows.h"
 #include "plot/curves/parameter_range.h"

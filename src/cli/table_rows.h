@@ -5,7 +5,7 @@
 #include <optional>
 #include <span>
 
-#include "cli/console.h"
+#include "cli/console/console.h"
 
 namespace zel {
 

@@ -7,7 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "cli/console.h"
+#include "cli/console/console.h"
 #include "files/document.h"
 #include "plot/picture_file.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/field_text.h"
+#include "app/editor/field_text.h"
 #include "app/form_params.h"
 #include "app/program.h"
 

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QToolTip>
 
-#include "app/key_filter.h"
+#include "app/editor/key_filter.h"
 #include "forms/form.h"
 
 namespace zel {

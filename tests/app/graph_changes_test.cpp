@@ -1,6 +1,6 @@
 #include "app/graph_changes.h"
 
-#include "app/graph_editing.h"
+#include "app/editor/graph_editing.h"
 #include "app/main_commands.h"
 #include "program_fixture.h"
 

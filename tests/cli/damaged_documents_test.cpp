@@ -6,7 +6,7 @@
 #include <cstdio>
 
 #include "base/code_page.h"
-#include "cli/console.h"
+#include "cli/console/console.h"
 #include "cli_fixture.h"
 #include "files/loaded_twice.h"
 

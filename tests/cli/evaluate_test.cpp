@@ -1,6 +1,6 @@
 #include <string>
 
-#include "cli/line_reader.h"
+#include "cli/console/line_reader.h"
 #include "cli_fixture.h"
 
 namespace zel::test {

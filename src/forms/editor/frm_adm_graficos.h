@@ -7,8 +7,8 @@
 #include <optional>
 #include <string>
 
-#include "app/graph_editing.h"
-#include "app/graph_trial.h"
+#include "app/editor/graph_editing.h"
+#include "app/editor/graph_trial.h"
 #include "forms/form.h"
 
 class QComboBox;

@@ -5,7 +5,7 @@
 #include <QTabWidget>
 #include <QVariant>
 
-#include "app/new_graph.h"
+#include "app/editor/new_graph.h"
 #include "forms/editor/editor_fields.h"
 #include "forms/editor/frm_adm_graficos.h"
 #include "forms/tool_tip.h"

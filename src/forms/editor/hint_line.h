@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "app/field_hints.h"
+#include "app/editor/field_hints.h"
 
 namespace zel {
 

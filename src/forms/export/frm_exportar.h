@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "app/picture_export.h"
+#include "app/output/picture_export.h"
 #include "forms/form.h"
 
 class QComboBox;

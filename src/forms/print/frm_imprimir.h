@@ -3,7 +3,7 @@
 #include <QImage>
 #include <optional>
 
-#include "app/printing.h"
+#include "app/output/printing.h"
 #include "forms/form.h"
 #include "pictures/drawing_list.h"
 

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <optional>
 
-#include "app/print_preview.h"
+#include "app/output/print_preview.h"
 #include "forms/accessible_graphic.h"
 
 namespace zel {

@@ -1,4 +1,4 @@
-#include "app/new_graph.h"
+#include "app/editor/new_graph.h"
 #include "frm_adm_graficos_fixture.h"
 
 namespace zel::test {

@@ -1,6 +1,6 @@
 #include <QListView>
 
-#include "app/new_graph.h"
+#include "app/editor/new_graph.h"
 #include "forms/shown_tip.h"
 #include "frm_adm_graficos_fixture.h"
 

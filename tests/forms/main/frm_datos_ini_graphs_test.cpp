@@ -1,7 +1,7 @@
 // The main window's list of graphs, and undo and redo.
 #include <QScrollBar>
 
-#include "app/graph_editing.h"
+#include "app/editor/graph_editing.h"
 #include "frm_datos_ini_fixture.h"
 
 namespace zel::test {

@@ -1,9 +1,0 @@
-#include <unistd.h>
-
-#include "cli/terminal.h"
-
-namespace zel {
-
-bool errorIsTerminal() { return isatty(STDERR_FILENO) == 1; }
-
-}  // namespace zel

@@ -1,0 +1,144 @@
+#include "app/output/picture_export.h"
+
+#include <gmock/gmock.h>
+
+#include "app/program_fixture.h"
+#include "pictures/file_picture.h"
+#include "pictures/raster_picture.h"
+
+namespace zel::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+using ::testing::UnorderedElementsAre;
+
+class Export : public ProgramTest {
+ protected:
+  Export() {
+    addFunction('a', "x^2");
+    choice.width = 200;
+    choice.height = 100;
+  }
+
+  bool exportTo(const std::string& path) {
+    services.files.paths = {path};
+    return exportPicture(program, opened, choice, [](const StatusPanels&) { return true; });
+  }
+
+  TemporaryFolder folder;
+  OpenedView opened;
+  ExportChoice choice;
+};
+
+TEST_F(Export, WritesTheFormatThatIsChosen) {
+  const std::pair<const char*, const char*> formats[] = {
+      {"png", "\x89PNG"}, {"svg", "<?xml"}, {"pdf", "%PDF"}};
+  for (const auto& [ending, start] : formats) {
+    choice.ending = ending;
+    const std::string file = folder / (std::string("picture.") + ending);
+    EXPECT_TRUE(exportTo(file));
+    EXPECT_THAT(bytesOf(file), StartsWith(start));
+  }
+  EXPECT_THAT(services.files.asked, ElementsAre("save PNG (*.png)|*.png", "save SVG (*.svg)|*.svg",
+                                                "save PDF (*.pdf)|*.pdf"));
+  EXPECT_THAT(services.boxes.shown, IsEmpty());
+}
+
+TEST_F(Export, ProposesTheDocumentsNameInItsFolder) {
+  exportTo(folder / "one.png");
+  program.document_path = "/some.where/waves.zel";
+  exportTo(folder / "two.png");
+  program.document_path = "/some.where/waves";
+  exportTo(folder / "three.png");
+  EXPECT_THAT(services.files.proposals,
+              ElementsAre("", "/some.where/waves.png", "/some.where/waves.png"));
+}
+
+TEST_F(Export, FollowsTheEndingOfTheFileWhereItIsAPictures) {
+  choice.ending = "png";
+  EXPECT_TRUE(exportTo(folder / "picture.SVG"));
+  EXPECT_THAT(bytesOf(folder / "picture.SVG"), StartsWith("<?xml"));
+  EXPECT_TRUE(exportTo(folder / "my.plot"));
+  EXPECT_THAT(bytesOf(folder / "my.plot"), StartsWith("\x89PNG"));
+}
+
+TEST_F(Export, DrawsTheGraphsAsTheyAreInADocument) {
+  program.engine.SetP(7);
+  program.graphs.rebuildGraph('b', "p*x", "", 255, 'F', nullptr);
+  choice.ending = "svg";
+  exportTo(folder / "one.svg");
+  program.engine.SetP(3);
+  exportTo(folder / "other.svg");
+  EXPECT_EQ(bytesOf(folder / "one.svg"), bytesOf(folder / "other.svg"));
+  EXPECT_EQ(program.engine.GetP(), 3);
+}
+
+TEST_F(Export, WritesNothingWhenNoFileIsNamed) {
+  EXPECT_FALSE(exportPicture(program, opened, choice, [](const StatusPanels&) { return true; }));
+  EXPECT_THAT(services.boxes.shown, IsEmpty());
+}
+
+TEST_F(Export, WritesNothingWhenTheDrawingIsGivenUp) {
+  putBytes(folder / "a.png", "older");
+  services.files.paths = {folder / "a.png"};
+  EXPECT_FALSE(exportPicture(program, opened, choice, [](const StatusPanels&) { return false; }));
+  EXPECT_EQ(bytesOf(folder / "a.png"), "older");
+  EXPECT_THAT(folder.names(), UnorderedElementsAre("a.png"));
+  EXPECT_THAT(services.boxes.shown, IsEmpty());
+}
+
+TEST_F(Export, TellsWhyThereIsNoPicture) {
+  opened.view.xi = opened.view.xf = 1;
+  EXPECT_FALSE(exportTo(folder / "a.png"));
+  SetCurrentLanguage("EN");
+  EXPECT_FALSE(exportTo(folder / "a.png"));
+  ASSERT_EQ(services.boxes.shown.size(), 2u);
+  EXPECT_NE(services.boxes.shown[0].text, services.boxes.shown[1].text);
+  EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+TEST_F(Export, TellsThatTheFileCannotBeWritten) {
+  SetCurrentLanguage("EN");
+  EXPECT_FALSE(exportTo(folder / "missing/a.png"));
+  ASSERT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_THAT(services.boxes.shown[0].text, StartsWith("Error: Cannot save"));
+}
+
+TEST_F(Export, TellsTheSizeInPixelsOrOnPaper) {
+  choice = {"png", 800, 600, 1.5};
+  EXPECT_EQ(exportedSize(choice), (ExportedSize{1200, 900, true}));
+  choice.ending = "pdf";
+  EXPECT_EQ(exportedSize(choice), (ExportedSize{318, 238, false}));
+}
+
+TEST_F(Export, IsBounded) {
+  EXPECT_TRUE(isExported({"png", 32767, 1, 1}));
+  EXPECT_FALSE(isExported({"png", 32767, 1, 1.25}));
+  EXPECT_FALSE(isExported({"png", 100, 32768, 1}));
+  EXPECT_TRUE(isExported({"png", 16384, 8192, 1}));
+  EXPECT_FALSE(isExported({"png", 16384, 8193, 1}));
+  EXPECT_FALSE(isExported({"png", 8192, 4097, 2}));
+  EXPECT_FALSE(isExported({"png", 99, 100, 1}));
+}
+
+TEST_F(Export, IsLookedAtBefore) {
+  RasterPicture picture(200, 100);
+  EXPECT_EQ(
+      previewPicture(program, opened, choice, picture, [](const StatusPanels&) { return true; }),
+      RedrawOutcome::drawn);
+  exportTo(folder / "a.png");
+  const auto file = makeFilePicture("png", 200, 100);
+  Engine engine([this](char letter) { return program.graphs.codeOf(letter); });
+  drawOpenedView(opened, PictureSize::ofPixels(200, 100), engine, program.graphs, file->picture(),
+                 [](const StatusPanels&) { return true; });
+  EXPECT_EQ(file->bytes(), bytesOf(folder / "a.png"));
+  RasterPicture again(200, 100);
+  drawOpenedView(opened, PictureSize::ofPixels(200, 100), engine, program.graphs, again,
+                 [](const StatusPanels&) { return true; });
+  EXPECT_EQ(picture.finish(), again.finish());
+}
+
+}  // namespace
+}  // namespace zel::test
