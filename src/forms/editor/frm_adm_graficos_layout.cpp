@@ -19,16 +19,10 @@
 #include "forms/editor/frm_adm_graficos.h"
 #include "forms/editor/hint_line.h"
 #include "forms/editor/preview_box.h"
+#include "forms/named_controls.h"
 
 namespace zel {
 namespace {
-
-QLabel* makeLabel(const char* name, QWidget* buddy) {
-  auto* label = new QLabel;
-  label->setObjectName(QString::fromLatin1(name));
-  label->setBuddy(buddy);
-  return label;
-}
 
 template <class Widget>
 Widget* named(Widget* widget, const char* name) {

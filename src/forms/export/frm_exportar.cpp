@@ -26,7 +26,7 @@ namespace {
 constexpr int kDrawsAfter = 150;   // milliseconds without another change
 constexpr int kEventInterval = 5;  // milliseconds
 constexpr int kTellsAfter = 300;   // milliseconds that a drawing takes before it is told of
-constexpr QSize kFirstSize(760, 480);
+constexpr QSize kFirstWindow(760, 480);
 
 }  // namespace
 
@@ -75,7 +75,7 @@ void frmExportar::buildControls() {
   column->addLayout(upper, 1);
   column->addLayout(buttons);
   setCentralWidget(centre);
-  resize(kFirstSize.boundedTo(screen()->availableSize() * 9 / 10));
+  resize(kFirstWindow.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 QFormLayout* frmExportar::buildChoices() {

@@ -16,26 +16,11 @@
 #include "forms/main/frm_datos_ini.h"
 #include "forms/main/graph_list.h"
 #include "forms/main/recent_menu.h"
+#include "forms/named_controls.h"
 #include "forms/numeric_keys.h"
 #include "forms/text_box.h"
 
 namespace zel {
-namespace {
-
-QLabel* makeLabel(const char* name, QWidget* buddy) {
-  auto* label = new QLabel;
-  label->setObjectName(QString::fromLatin1(name));
-  label->setBuddy(buddy);
-  return label;
-}
-
-QPushButton* makeButton(const char* name) {
-  auto* button = new QPushButton;
-  button->setObjectName(QString::fromLatin1(name));
-  return button;
-}
-
-}  // namespace
 
 QAction* frmDatosIni::addCommand(QMenu* menu, const char* name, void (frmDatosIni::*handler)()) {
   auto* action = menu->addAction(QString());

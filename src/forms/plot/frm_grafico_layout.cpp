@@ -18,7 +18,7 @@ constexpr QSize kFirstPicture(800, 600);  // pixels
 constexpr QSize kLeastPicture(240, 180);  // pixels, as far as the window has a say
 constexpr int kMargin = 8;                // pixels around the picture
 
-PictureSize twipsOf(QSize pixels) {
+PictureSize sizeInTwips(QSize pixels) {
   return PictureSize::ofPixels(std::max(0, pixels.width()), std::max(0, pixels.height()));
 }
 
@@ -56,7 +56,7 @@ void frmGrafico::buildControls() {
   inside_->resize(corner.x() + 1 + kMargin, corner.y() + 1 + kMargin);  // until it is laid out
   const QSize wanted = inside_->size() + QSize(legend_->wantedWidth() + kMargin, bars);
   resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
-  session_.resize(twipsOf(kFirstPicture));
+  session_.resize(sizeInTwips(kFirstPicture));
 }
 
 /// As they are seen, from the top: the toolbar, the row with the active graph, the list, the
@@ -112,7 +112,7 @@ void frmGrafico::placeControls(const QRect& picture) {
 
 void frmGrafico::Form_Resize() {
   const QRect room = pictureRoom();
-  const PictureSize size = twipsOf(room.size());
+  const PictureSize size = sizeInTwips(room.size());
   if (std::exchange(is_resized_, false) && PlotSession::takesSize(size)) {
     placeControls(room);
     session_.resize(size);

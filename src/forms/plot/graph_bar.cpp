@@ -14,7 +14,7 @@
 namespace zel {
 namespace {
 
-QPushButton* makeButton(const char* name) {
+QPushButton* makeIconButton(const char* name) {
   auto* const button = new QPushButton;
   button->setObjectName(QString::fromLatin1(name));
   button->setIcon(plotIcon(name));
@@ -27,11 +27,11 @@ QPushButton* makeButton(const char* name) {
 
 GraphBar::GraphBar(QWidget* parent)
     : QWidget(parent),
-      CmdGrafAnterior_(makeButton("CmdGrafAnterior")),
-      CmdGrafSiguiente_(makeButton("CmdGrafSiguiente")),
+      CmdGrafAnterior_(makeIconButton("CmdGrafAnterior")),
+      CmdGrafSiguiente_(makeIconButton("CmdGrafSiguiente")),
       swatch_(new QFrame),
       LblGrafico_(new ElidedLabel),
-      CmdNumeros_(makeButton("CmdNumeros")) {
+      CmdNumeros_(makeIconButton("CmdNumeros")) {
   LblGrafico_->setObjectName("LblGrafico");
   LblGrafico_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   LblGrafico_->setIndent(0);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kLetterRole = Qt::UserRole;
 
-char letterOf(const QListWidgetItem& item) {
+char letterOfItem(const QListWidgetItem& item) {
   return static_cast<char>(item.data(kLetterRole).toInt());
 }
 
@@ -28,7 +28,7 @@ GraphLegend::GraphLegend(QWidget* parent) : QListWidget(parent) {
   setIconSize({side, side});
   hide();
   connect(this, &QListWidget::itemSelectionChanged, this, [this] {
-    if (!selectedItems().isEmpty()) emit chosen(letterOf(*selectedItems().front()));
+    if (!selectedItems().isEmpty()) emit chosen(letterOfItem(*selectedItems().front()));
   });
 }
 
@@ -52,7 +52,8 @@ void GraphLegend::listGraphs(const GraphTable& graphs) {
 /// move of the focus.
 void GraphLegend::showActive(std::optional<char> letter) {
   const QSignalBlocker blocker(this);
-  for (int row = 0; row < count(); ++row) item(row)->setSelected(letter == letterOf(*item(row)));
+  for (int row = 0; row < count(); ++row)
+    item(row)->setSelected(letter == letterOfItem(*item(row)));
 }
 
 /// The arrow keys go on from the active graph.

@@ -23,7 +23,7 @@
 namespace zel {
 namespace {
 
-constexpr QSize kFirstSize(620, 640);  // pixels
+constexpr QSize kFirstPreview(620, 640);  // pixels
 
 /// The window under "imprimir", if it is one with a picture.
 PrintedWindow* printedWindow(const FormParams& params) {
@@ -82,7 +82,7 @@ void frmImprimir::buildControls() {
   column->addLayout(buildChoices());
   column->addLayout(buttons);
   setCentralWidget(centre);
-  resize(kFirstSize.boundedTo(screen()->availableSize() * 9 / 10));
+  resize(kFirstPreview.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 QLayout* frmImprimir::buildChoices() {

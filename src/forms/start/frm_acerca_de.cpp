@@ -9,17 +9,9 @@
 
 #include "app/desktop.h"
 #include "app/presentation.h"
+#include "forms/named_controls.h"
 
 namespace zel {
-namespace {
-
-QPushButton* makeButton(const char* name) {
-  auto* button = new QPushButton;
-  button->setObjectName(QString::fromLatin1(name));
-  return button;
-}
-
-}  // namespace
 
 frmAcercaDe::frmAcercaDe(Program& program)
     : Form(program, "frmAcercaDe"),

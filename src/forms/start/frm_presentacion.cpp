@@ -18,7 +18,7 @@ namespace {
 
 constexpr QSize kFirstSize(360, 340);  // pixels; texts in a large font make it larger
 
-QLabel* makeLabel(const char* name) {
+QLabel* makeCentredLabel(const char* name) {
   auto* label = new QLabel;
   label->setObjectName(QString::fromLatin1(name));
   label->setAlignment(Qt::AlignCenter);
@@ -37,10 +37,10 @@ void enlarge(QLabel& label, qreal factor) {
 frmPresentacion::frmPresentacion(Program& program)
     : Form(program, "frmPresentacion"),
       inside_(new QFrame),
-      Image1_(makeLabel("Image1")),
-      LblVersion_(makeLabel("LblVersion")),
-      LblQueEsZEL_(makeLabel("LblQueEsZEL")),
-      LblEstado_(makeLabel("LblEstado")),
+      Image1_(makeCentredLabel("Image1")),
+      LblVersion_(makeCentredLabel("LblVersion")),
+      LblQueEsZEL_(makeCentredLabel("LblQueEsZEL")),
+      LblEstado_(makeCentredLabel("LblEstado")),
       bCerrar_(new QPushButton) {
   setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
   setWindowTitle("ZEL");
@@ -58,7 +58,7 @@ frmPresentacion::frmPresentacion(Program& program)
 void frmPresentacion::fillInside() {
   bCerrar_->setObjectName("bCerrar");
   LblVersion_->setText(QString("ZEL ") + kVersionText);
-  auto* credits = makeLabel("LblCreditos");
+  auto* credits = makeCentredLabel("LblCreditos");
   credits->setText("© 2026 ZEL · https://zel.example/");
   inside_->setFrameShape(QFrame::StyledPanel);
   auto* column = new QVBoxLayout(inside_);
