@@ -1,3 +1,6 @@
+// A lead byte says how many bytes follow, of six bits each. What is longer than it need be, a
+// surrogate, and what is beyond the last character of Unicode are no UTF-8.
+
 #include "base/utf8.h"
 
 #include <array>

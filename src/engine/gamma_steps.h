@@ -4,7 +4,8 @@
 #include "numbers/elementary/logarithm_steps.h"
 #include "numbers/elementary/power_steps.h"
 
-/// The series of LnGamma (Lanczos 1964), for the function library and for loops over lanes.
+/// The series of LnGamma (Lanczos 1964, with the parameter 5 and six terms), for the function
+/// library and for loops over lanes.
 namespace zel {
 
 /// ln(gamma(v)) = ln(argument) - rest.

@@ -1,3 +1,6 @@
+// One formula that takes operators, functions, a factorial, a blank and a decimal comma together is
+// compiled and evaluated; the test passes if its value is exactly the known one.
+
 #include "engine/self_test.h"
 
 #include "base/language.h"

@@ -1,3 +1,6 @@
+// The first of the three variables that holds a text decides, in the order that POSIX gives them,
+// and by its first two letters alone.
+
 #include "files/environment_language.h"
 
 #include <cstdlib>

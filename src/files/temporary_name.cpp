@@ -1,3 +1,6 @@
+// A name has 64 random bits, four to a digit, from the system's own generator: nobody can put a
+// file or a link there beforehand. Its form alone tells which files killed saves may have left.
+
 #include "files/temporary_name.h"
 
 #include <algorithm>

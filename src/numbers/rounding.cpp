@@ -1,3 +1,6 @@
+// The rounding of one value: by the arithmetic of rounding_steps.h, and by writing and reading the
+// text where that is in doubt. A text that is too large to be read back stands for an infinity.
+
 #include "numbers/rounding.h"
 
 #include <limits>

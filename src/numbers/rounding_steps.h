@@ -7,7 +7,10 @@
 #include "numbers/elementary/double_double.h"
 #include "numbers/instruction_sets.h"
 
-/// The steps of the rounding to 15 digits, to be compiled into loops for each instruction set.
+/// The steps of the rounding to 15 digits, to be compiled into loops for each instruction set:
+/// scaled by a power of ten the digits are a whole number, which goes half to even and is divided
+/// back. What is too near to a tie, or to the middle of two doubles, is left to the text.
+/// docs/evaluation.md shows why the result is right.
 namespace zel {
 
 /// roundTo15Digits by way of the text, for any finite value: slow, and never wrong.

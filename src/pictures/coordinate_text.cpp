@@ -1,3 +1,7 @@
+// The shortest text that gives the double back, without an exponent below 1e15. What is nearer to 0
+// than a millionth is 0, and so is a zero with a sign: such numbers would take hundreds of digits
+// or an exponent, which PDF does not know.
+
 #include "pictures/coordinate_text.h"
 
 #include <array>

@@ -1,3 +1,6 @@
+// The stream by ISA-L at its level 1. The same bytes in give the same bytes out wherever the stream
+// lies in memory, because its first few bytes are compressed by themselves.
+
 #include <algorithm>
 #include <array>
 #include <cstddef>

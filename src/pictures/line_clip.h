@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+/// A line is cut off at a box by the share of it that lies inside (Liang and Barsky 1984): each
+/// pair of opposite edges narrows the share. Rounding may leave an end beside the box, so ends are
+/// put into it.
 namespace zel {
 
 /// What lies beyond these places is cut off.

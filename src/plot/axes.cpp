@@ -25,8 +25,8 @@ struct MarkedRange {
   double scale;     // twips per plane unit
 };
 
-/// Marks this close leave no twip out, and there may be too many of them to be counted one by one.
-/// Calls `tick` with each twip from the first mark to the last.
+/// Calls `tick` with each twip from the first mark to the last: marks closer than kClosestCounted
+/// leave none out, and there may be too many of them to be counted one by one.
 template <class Map, class Tick>
 void forEachTwip(const MarkedRange& range, double first_mark, const Map& map, const Tick& tick) {
   const double count = std::floor((range.last - first_mark) / range.distance);

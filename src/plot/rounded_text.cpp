@@ -1,3 +1,8 @@
+// A number is rounded at a decimal place by counting how many times the unit of that place goes
+// into it. The unit is read from its text, so it is the double nearest to the power of ten, and
+// fractions are divided by a whole power in place of multiplied by its inverse: no digit too many
+// comes of it.
+
 #include "plot/rounded_text.h"
 
 #include <cmath>

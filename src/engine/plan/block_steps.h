@@ -9,7 +9,10 @@
 #include "numbers/elementary/lanes.h"
 #include "numbers/rounding_steps.h"
 
-/// The loops of BlockProgram, to be compiled for each instruction set.
+/// The loops of BlockProgram, to be compiled for each instruction set: an operation over the lanes
+/// of each chunk, then their rounding. That guesses that all lanes are in the decade of the last
+/// ones, otherwise rounds each as of any decade, and goes lane by lane only where one is in doubt
+/// or has failed.
 namespace zel {
 
 using Chunk = BlockProgram::Chunk;

@@ -9,6 +9,10 @@
 #include "engine/plan/plan.h"
 #include "numbers/elementary/second_stage.h"
 
+/// One operation on doubles, before the rounding to 15 digits, with its kind known to the compiler:
+/// what the function library gives, bit for bit, and no finite number where that fails. Functions
+/// of two stages take the first one where it is sure; so a lane of a block and a single value
+/// agree.
 namespace zel {
 
 /// Stands for a value that is not there.

@@ -1,3 +1,7 @@
+// The strict evaluation of a plan: its operations from front to back by the function library
+// itself, each value rounded to 15 digits, up to the first one that fails or cannot be read. It
+// tells which failure it was where the programs, which do the same faster, have no value.
+
 #include "engine/plan/plan.h"
 
 #include <cmath>

@@ -1,3 +1,6 @@
+// Plans are kept by their expanded code. When there are as many as may be, all are dropped: 26
+// graphs have fewer codes than that, so going to and fro between them drops none.
+
 #include "engine/plan/plan_cache.h"
 
 namespace zel {

@@ -1,3 +1,7 @@
+// One evaluation by the literal rules: the parse cache is prepared for the code as it was given,
+// calls of graphs are put in, and the code is reduced from number text to number text. A value
+// leaves a valid cache behind, an error an empty one, and a fault leaves the cache where it stood.
+
 #include "engine/reference/reference_engine.h"
 
 #include <cmath>

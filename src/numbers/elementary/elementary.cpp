@@ -1,3 +1,7 @@
+// A value comes in two stages: the first one's candidate where its rounding test is sure, otherwise
+// what the second stage settles. A processor with a fused multiply-add runs the first stage with
+// it; which candidates are in doubt may differ by that, the values never do.
+
 #include "numbers/elementary/elementary.h"
 
 #include "numbers/elementary/second_stage.h"

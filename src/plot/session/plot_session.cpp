@@ -1,3 +1,8 @@
+// A session is closed, opened, drawn or refused. It is drawn for the first time when its window is
+// shown; a range that cannot be drawn refuses it, tells why, and leads back to the main window.
+// Events may run inside of each drawing, so whatever outlives one asks first whether it is still
+// this opening that goes on.
+
 #include "plot/session/plot_session.h"
 
 #include "base/language.h"

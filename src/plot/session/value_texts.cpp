@@ -8,7 +8,6 @@
 #include "numbers/number_text.h"
 
 namespace zel {
-namespace {}  // namespace
 
 std::string valueTitle() { return Localize("Cálculo de un valor específico"); }
 
