@@ -89,8 +89,9 @@ Wide wideExponential(const Wide& x) {
 }
 
 double roughLogarithm(double x) {
-  if (isPositiveNormal(x)) return logarithmOf<PlainArithmetic>(x).high;
-  return logarithmOf<PlainArithmetic>(x * 0x1p54).high - 54 * kLn2.high;
+  const bool is_normal = isPositiveNormal(x);
+  const DoubleDouble first = logarithmOf<PlainArithmetic>(is_normal ? x : x * 0x1p54);
+  return first.high + first.low - (is_normal ? 0 : 54 * kLn2.high);
 }
 
 Wide wideLogarithm(double x) {
@@ -134,7 +135,8 @@ QuarterTurns quarterTurns(double radians) {
 Wide radiansOf(const Wide& quarter_turns) { return quarter_turns * halfPi(); }
 
 Wide wideArcTangent(double magnitude) {
-  const Wide near(arcTangentOf<PlainArithmetic>(magnitude).high);
+  const DoubleDouble first = arcTangentOf<PlainArithmetic>(magnitude);
+  const Wide near(first.high + first.low);
   const auto [sine, cosine] = wideSineCosine(near);
   const Wide x(magnitude);
   const Wide lacks = (x * cosine - sine) / (cosine + x * sine);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "numbers/elementary/functions.h"
 
 namespace zel::test {
@@ -8,8 +10,10 @@ namespace zel::test {
 double nearestByMpfr(Elementary function, double x);
 double nearestPowerByMpfr(double x, double y);
 
-/// How far high + low is from the exact value, relative to it, in a precision of 400 bits.
+/// How far high + low is from the exact value, relative to it, in a precision of 400 bits; or the
+/// sum of many parts.
 double relativeErrorByMpfr(Elementary function, double x, DoubleDouble value);
+double relativeErrorByMpfr(Elementary function, double x, std::span<const double> parts);
 
 /// The same for 2^(i/n) and for the sine of i steps of a circle of n.
 double relativeErrorOfPowerOfTwo(std::size_t i, std::size_t n, DoubleDouble value);
