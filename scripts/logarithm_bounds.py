@@ -10,7 +10,8 @@ from decimal import Decimal, getcontext
 getcontext().prec = 60
 PARTS = 64
 EXPONENTS = [-1022, -10, -3, -2, -1, 0, 1, 2, 3, 10, 1023]
-LN2_BEYOND = float(Decimal(2).ln() - Decimal(float.fromhex("0x1.62e42fefa3800p-1")))
+LN2 = int(Decimal(2).ln() * 2**32) / 2**32  # on the grid of the table
+LN2_BEYOND = float(Decimal(2).ln() - Decimal(LN2))
 
 
 def half(value):
@@ -20,9 +21,8 @@ def half(value):
 
 def table():
     """For each interval: the inverse, its logarithm on the grid, and what is beyond."""
-    for j in range(128):
-        bits = struct.unpack("<Q", struct.pack("<d", 128 / (128 + j)))[0] & 0xFFFFFFFF00000000
-        inverse = struct.unpack("<d", struct.pack("<Q", bits))[0]
+    for j in range(257):
+        inverse = (math.floor(131072 / (256 + j) + 0.5) if j < 255 else 256) / 512
         exact = -Decimal(inverse).ln()
         on_grid = Decimal(int(exact * 2**32)) / 2**32
         yield j, inverse, float(on_grid), float(exact - on_grid)
@@ -30,21 +30,20 @@ def table():
 
 def start(k, grid, beyond, r, split):
     """What both logarithms begin with: the size of `small`, its error, and the running sum."""
-    is_one = k == 0 and grid == 0  # next to 1 there is nothing but r
-    beyond = 0 if is_one else k * LN2_BEYOND + beyond
+    is_one = k * LN2 + grid == 0  # next to 1 there is nothing but r
+    beyond = 0 if is_one else abs(k * LN2_BEYOND + beyond)
     error = 0 if is_one else half(beyond) + abs(k) * half(LN2_BEYOND)
-    if k:
+    if k and not is_one:
         error += half(beyond) + (half(k * LN2_BEYOND) if split else 0)
     square = r * r / 2
-    rest = half(r) * (1 + r)
-    first = 0 if is_one else half(abs(k * math.log(2) + grid) + r)
-    total = abs(k * math.log(2) + grid) + r + square
-    small = abs(beyond) + half(square)
+    first = 0 if is_one else half(abs(k * LN2 + grid) + r)
+    total = abs(k * LN2 + grid) + r + square
+    small = beyond + half(square)
     error += half(small) if beyond else 0
-    small += rest
-    error += half(small) + half(rest) + (half(half(r) * r) if split else 0) + half(r) ** 2
-    small += first + half(total)
-    error += half(small) + (half(first + half(total)) if first else 0)
+    second = first + half(total)
+    error += half(second) if first else 0
+    small += second
+    error += half(small)
     return small, error, square, total
 
 
@@ -58,7 +57,7 @@ def natural(k, grid, beyond, r, split):
     of_cube = r * half(square) + half(cube)
     third = cube * factor
     error += of_cube * factor + cube * of_factor + (half(third) if split else 0)
-    return small + third, error + half(small + third) + 1.01 * r**10 / 10
+    return small + third, error + half(small + third) + 1.01 * r**9 / 9
 
 
 def fine(k, grid, beyond, r, split):
@@ -78,7 +77,7 @@ def fine(k, grid, beyond, r, split):
     small += third
     error += half(small)
     small += half(total + cube)
-    error += half(small) + half(small + fourth) + 1.01 * r**11 / 11
+    error += half(small) + half(small + fourth) + 1.01 * r**10 / 10
     return small + fourth, error
 
 
@@ -94,12 +93,12 @@ def worst(split):
     bounds = (0, 0, 0)
     for k in EXPONENTS:
         for j, inverse, grid, beyond in table():
-            low = 1 + (j - 0.5) / 128 if j else 1 - 2**-9
-            ends = [low + (1 + (j + 0.5) / 128 - low) * i / PARTS for i in range(PARTS + 1)]
+            low, high = max(1 + (j - 0.5) / 256, 1), min(1 + (j + 0.5) / 256, 2)
+            ends = [low + (high - low) * i / PARTS for i in range(PARTS + 1)]
             for one, other in zip(ends, ends[1:]):
                 r = max(abs(one * inverse - 1), abs(other * inverse - 1))
                 value = min(abs(k * math.log(2) + math.log(m)) for m in (one, other))
-                if one <= 1 <= other and k == 0:
+                if value == 0:
                     continue  # smaller and smaller powers of r beside r
                 bounds = tuple(map(max, bounds, sums(k, grid, beyond, r, split, value)))
     return bounds

@@ -153,13 +153,24 @@ TEST(Tables, HoldSinesToNinetyBitsAndTheirLowPartsToTwenty) {
 }
 
 TEST(Tables, HoldTheLogarithmsOfTheirInverses) {
-  for (std::size_t j = 1; j < kLogarithms; ++j) {
+  for (std::size_t j = 1; j <= kLogarithms; ++j) {
     const double inverse = std::bit_cast<double>(kLogarithmTable.word[j] & kUpperBits);
     const double on_grid = static_cast<double>(kLogarithmTable.word[j] & ~kUpperBits) * 0x1p-32;
     EXPECT_LE(relativeErrorByMpfr(Elementary::natural_logarithm, inverse,
                                   {-on_grid, -kLogarithmTable.beyond_grid[j]}),
-              0x1p-78);
-    EXPECT_NEAR(inverse * (1 + static_cast<double>(j) / kLogarithms), 1, 0x1p-20);
+              0x1p-76);
+  }
+}
+
+TEST(Tables, HoldInversesThatLeaveADoubleOfEachInterval) {
+  for (std::size_t j = 0; j <= kLogarithms; ++j) {
+    const double inverse = std::bit_cast<double>(kLogarithmTable.word[j] & kUpperBits);
+    EXPECT_EQ(std::nearbyint(inverse * kInverses), inverse * kInverses);
+    for (const double side : {-0.5, 0.5}) {
+      const double m = 1 + (static_cast<double>(j) + side) / kLogarithms;
+      if (m < 1 || m > 2) continue;
+      EXPECT_LT(std::fabs(m * inverse - 1), 0x1p-8);
+    }
   }
 }
 
