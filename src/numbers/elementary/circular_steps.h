@@ -162,14 +162,18 @@ ZEL_ALWAYS_INLINE DoubleDouble tangentOf(std::size_t steps, DoubleDouble rest) {
   return {quotient, remainder / cosine.high};
 }
 
-/// An error of the angle grows with the slope of the tangent, 1 + tan^2.
+/// For an error of a share of it and one of the angle, which grows with the slope, 1 + tan^2.
+template <class Arithmetic>
+ZEL_ALWAYS_INLINE Candidate roundedTangent(DoubleDouble tangent, double share, double of_angle) {
+  const double slope = multiplyAdd<Arithmetic>(tangent.high, tangent.high, 1);
+  return rounded(tangent.high, tangent.low,
+                 multiplyAdd<Arithmetic>(std::fabs(tangent.high), share, 2 * of_angle * slope));
+}
+
 template <class Arithmetic>
 ZEL_ALWAYS_INLINE Candidate tangentCandidateOf(const ReducedAngle& angle) {
-  const DoubleDouble tangent = tangentOf<Arithmetic>(angle.steps, angle.rest);
-  const double slope = multiplyAdd<Arithmetic>(tangent.high, tangent.high, 1);
-  return rounded(
-      tangent.high, tangent.low,
-      multiplyAdd<Arithmetic>(std::fabs(tangent.high), kTangentError, 2 * angle.error * slope));
+  return roundedTangent<Arithmetic>(tangentOf<Arithmetic>(angle.steps, angle.rest), kTangentError,
+                                    angle.error);
 }
 
 ZEL_ALWAYS_INLINE bool isModerateAngle(double x) { return std::fabs(x) <= kLargestAngle; }

@@ -1,7 +1,7 @@
 // What the first stage leaves: special values, arguments outside its range, and those few whose
-// value is too near to the middle of two doubles. Those are computed in 256 bits, which decides
-// every case that is known; a power that is exactly a double or such a middle is found as a whole
-// number first.
+// value is too near to the middle of two doubles. Those are computed with more bits, at last with
+// 256, which decide every case that is known; a power that is exactly a double or such a middle is
+// found as a whole number first.
 #include "numbers/elementary/second_stage.h"
 
 #include <bit>
@@ -9,6 +9,7 @@
 #include <limits>
 #include <optional>
 
+#include "numbers/elementary/fine_functions.h"
 #include "numbers/elementary/large_angles.h"
 #include "numbers/elementary/wide_functions.h"
 
@@ -38,27 +39,34 @@ double wideCircular(Elementary function, double x) {
   return sign * nearestCircular(function, turns.quarters, radiansOf(turns.rest));
 }
 
-/// The first stage again, with an angle that is reduced for sure.
-Candidate largeAngleCandidate(Elementary function, double magnitude) {
-  ReducedAngle angle = reduceLargeAngle(magnitude);
-  if (function == Elementary::tangent) return tangentCandidateOf<PlainArithmetic>(angle);
-  if (function == Elementary::cosine) angle.steps += kStepsOfQuarter;
-  return sineCandidateOf<PlainArithmetic>(angle);
+Candidate fineCircular(Elementary function, const ReducedAngle& angle) {
+  if (function == Elementary::tangent)
+    return roundedTangent<PlainArithmetic>(fineTangent(angle), kFineTangentError, angle.error);
+  const auto [sine, cosine] = fineSineCosine(angle);
+  const DoubleDouble& value = function == Elementary::sine ? sine : cosine;
+  return rounded(value.high, value.low, std::fabs(value.high) * kFineSineError + angle.error);
 }
 
 double settleCircular(Elementary function, double x) {
   if (!std::isfinite(x)) return kNoNumber;
-  if (isModerateAngle(x)) return wideValue(function, x);
-  const Candidate candidate = largeAngleCandidate(function, std::fabs(x));
+  const double magnitude = std::fabs(x);
+  const Candidate candidate =
+      fineCircular(function, isModerateAngle(x) ? reduceAngle<PlainArithmetic>(magnitude)
+                                                : reduceLargeAngle(magnitude));
   if (!candidate.isSure()) return wideValue(function, x);
-  return x < 0 && function != Elementary::cosine ? -candidate.value : candidate.value;
+  return std::signbit(x) && function != Elementary::cosine ? -candidate.value : candidate.value;
 }
 
 double settleArcTangent(double x) {
   constexpr double kAllButVertical = 0x1p64;
   if (std::isnan(x)) return x;
-  if (std::fabs(x) >= kAllButVertical) return std::copysign(kPiInTwo.high / 2, x);
-  return wideValue(Elementary::arc_tangent, x);
+  const double magnitude = std::fabs(x);
+  if (magnitude >= kAllButVertical) return std::copysign(kPiInTwo.high / 2, x);
+  if (magnitude < kLeastFineTangent) return wideValue(Elementary::arc_tangent, x);
+  const DoubleDouble fine = fineArcTangent(magnitude);
+  const Candidate candidate = rounded(fine.high, fine.low, fine.high * kFineArcTangentError);
+  if (!candidate.isSure()) return wideValue(Elementary::arc_tangent, x);
+  return std::copysign(candidate.value, x);
 }
 
 double settleExponential(double x) {
@@ -74,7 +82,11 @@ double settleLogarithm(Elementary function, double x) {
   if (x == 0) return -kInfinity;
   if (x < 0) return kNoNumber;
   if (!std::isfinite(x)) return x;
-  return wideValue(function, x);
+  if (!isPositiveNormal(x)) return wideValue(function, x);
+  DoubleDouble fine = fineLogarithmOf<PlainArithmetic>(x);
+  if (function == Elementary::decimal_logarithm) fine = multiply(fine, kDecimalPerNatural);
+  const Candidate candidate = rounded(fine.high, fine.low, fine.high * (2 * kFineLogarithmError));
+  return candidate.isSure() ? candidate.value : wideValue(function, x);
 }
 
 bool isWhole(double y) { return std::nearbyint(y) == y; }

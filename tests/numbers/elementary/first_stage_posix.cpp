@@ -1,4 +1,5 @@
-// The bounds of the first stage as docs/numbers.md derives them, beside MPFR, and the tables.
+// The bounds of what comes before 256 bits as docs/numbers.md derives them, beside MPFR, and the
+// tables.
 
 #include <bit>
 #include <cmath>
@@ -6,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "numbers/elementary/fine_functions.h"
 #include "numbers/elementary/large_angles.h"
 #include "numbers/elementary/mpfr_oracle.h"
 
@@ -98,6 +100,56 @@ TYPED_TEST(FirstStage, KeepsTheBoundOfTheArcTangent) {
                                   : std::exp(this->between(-30, 600));
     ASSERT_LE(relativeErrorByMpfr(Elementary::arc_tangent, x, arcTangentOf<TypeParam>(x)),
               kArcTangentError)
+        << x;
+  }
+}
+
+/// Next to zero, of everyday size, any, and next to whole turns.
+double angleOfSort(int i, std::mt19937_64& random) {
+  const double size = i % 4 == 0 ? 0.02 : i % 4 == 1 ? 10 : kLargestAngle;
+  if (i % 4 == 3) return i * 3.14159265358979;
+  return std::uniform_real_distribution<double>(-size, size)(random);
+}
+
+TEST(FineFunctions, KeepTheBoundsOfSineCosineAndTangent) {
+  std::mt19937_64 random(8);
+  for (int i = 1; i < kArguments / 10; ++i) {
+    const double x = angleOfSort(i, random);
+    const ReducedAngle angle = reduceAngle<PlainArithmetic>(x);
+    const auto [sine, cosine] = fineSineCosine(angle);
+    EXPECT_LE(relativeErrorByMpfr(Elementary::sine, x, sine),
+              kFineSineError + angle.error / std::fabs(sine.high))
+        << x;
+    EXPECT_LE(relativeErrorByMpfr(Elementary::cosine, x, cosine),
+              kFineSineError + angle.error / std::fabs(cosine.high))
+        << x;
+    const DoubleDouble tangent = fineTangent(angle);
+    const double slope = 1 + tangent.high * tangent.high;
+    EXPECT_LE(relativeErrorByMpfr(Elementary::tangent, x, tangent),
+              kFineTangentError + 2 * angle.error * slope / std::fabs(tangent.high))
+        << x;
+  }
+}
+
+TEST(FineFunctions, KeepTheBoundOfTheSineAtLargeAngles) {
+  std::mt19937_64 random(9);
+  std::uniform_real_distribution<double> significand(1, 2);
+  for (int i = 0; i < kArguments / 10; ++i) {
+    const double x = std::ldexp(significand(random), i % 1024);
+    EXPECT_LE(relativeErrorByMpfr(Elementary::sine, x, fineSineCosine(reduceLargeAngle(x)).sine),
+              kFineSineError)
+        << x;
+  }
+}
+
+TEST(FineFunctions, KeepTheBoundOfTheArcTangent) {
+  std::mt19937_64 random(10);
+  std::uniform_real_distribution<double> exponent(-270, 44);
+  std::uniform_real_distribution<double> size(0, 10);
+  for (int i = 0; i < kArguments / 10; ++i) {
+    const double x = i % 2 == 0 ? std::exp(exponent(random)) : size(random);
+    EXPECT_LE(relativeErrorByMpfr(Elementary::arc_tangent, x, fineArcTangent(x)),
+              kFineArcTangentError)
         << x;
   }
 }
