@@ -142,6 +142,18 @@ TEST_F(Evaluation, LeavesTheResultAloneWhenItFails) {
   EXPECT_EQ(result, 7);
 }
 
+TEST_F(Evaluation, TellsACodeFromTheLastOneByAnyCharacter) {
+  std::string code = "x";
+  for (std::size_t terms = 1; terms <= 41; ++terms, code += "+x") {
+    for (std::size_t i = 0; i < code.size(); i += 2) {
+      std::string other = code;
+      other[i] = '1';
+      ASSERT_EQ(evaluateCode(code, 3), "= " + std::to_string(3 * terms)) << code;
+      ASSERT_EQ(evaluateCode(other, 3), "= " + std::to_string(3 * terms - 2)) << other;
+    }
+  }
+}
+
 TEST_F(Evaluation, RefusesAnXThatIsNoFiniteNumber) {
   EXPECT_EQ(evaluate("x", HUGE_VAL), kFault);
   EXPECT_EQ(evaluate("x", std::nan("")), kFault);

@@ -64,7 +64,7 @@ ZEL_ALWAYS_INLINE double ScalarProgram::run(ScalarProgram& program, double x, do
     last = operation.result;
     values[last] = value;
   }
-  return values[program.result_];
+  return program.result_ == last ? value : values[program.result_];
 }
 
 double ScalarProgram::runPlain(ScalarProgram& program, double x, double t, double p) {
