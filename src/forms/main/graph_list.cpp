@@ -9,23 +9,15 @@
 #include "forms/form.h"
 #include "forms/graph_swatch.h"
 #include "forms/kind_captions.h"
+#include "forms/listed_text.h"
 #include "forms/tool_tip.h"
-#include "platform/qt/one_line.h"
 
 namespace zel {
 namespace {
 
 enum Column { kName, kKind, kText };
 
-constexpr qsizetype kLongestText = 1000;  // characters, more than a screen has room for
-
 char letterOf(const QTreeWidgetItem& item) { return item.text(kName).at(0).toLatin1(); }
-
-/// A style lays out all of a row's text each time that it measures or paints the row.
-QString shownText(const GraphDef& def) {
-  const QString text = inOneLine(toQt(displayText(def)));
-  return text.size() > kLongestText ? text.first(kLongestText) + u'…' : text;
-}
 
 }  // namespace
 
@@ -77,7 +69,7 @@ void GraphList::addRow(const GraphDef& def) {
   bold.setBold(true);
   item->setFont(kName, bold);
   item->setText(kKind, kindCaption(def.tipo));
-  item->setText(kText, shownText(def));
+  item->setText(kText, listedText(def));
   item->setToolTip(kText, toolTipOf(toQt(displayText(def))));
 }
 

@@ -4,6 +4,7 @@
 
 #include "forms/form.h"
 #include "forms/graph_swatch.h"
+#include "forms/listed_text.h"
 #include "forms/tool_tip.h"
 #include "platform/qt/one_line.h"
 
@@ -40,10 +41,10 @@ void GraphLegend::listGraphs(const GraphTable& graphs) {
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const auto def = graphs.graph(letter);
     if (!def || !def->defined) continue;
-    const QString text = inOneLine(toQt(displayText(*def)));
-    auto* const item = new QListWidgetItem(graphSwatch(def->color, SwatchLook::square), text, this);
+    const QIcon swatch = graphSwatch(def->color, SwatchLook::square);
+    auto* const item = new QListWidgetItem(swatch, listedText(*def), this);
     item->setData(kLetterRole, static_cast<int>(letter));
-    item->setToolTip(toolTipOf(text));
+    item->setToolTip(toolTipOf(inOneLine(toQt(displayText(*def)))));
   }
   setVisible(count() > 1);
 }

@@ -342,6 +342,15 @@ TEST_F(GraficoToolbar, TheListHasASwatchAndTheTextOfEveryGraph) {
   EXPECT_FALSE(list.item(1)->isSelected());
 }
 
+TEST_F(GraficoToolbar, TheListCutsATextAfterAThousandCharacters) {
+  const std::string formula = "x" + std::string(998, '1');
+  program.graphs.rebuildGraph('a', formula, formula, 255, 'F', nullptr);
+  addFunction('b', "x");
+  openUsual();
+  EXPECT_EQ(fromQt(control<QListWidget>("LstGraficos").item(0)->text()),
+            "a(x)=" + formula.substr(0, 995) + "…");
+}
+
 TEST_F(GraficoToolbar, AClickInTheListMakesAGraphTheActiveOneWithoutARedraw) {
   addFunction('b', "x");
   addFunction('d', "x^2");

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+#include "graphs/graph_def.h"
+
+namespace zel {
+
+/// What a list shows of a graph, on one line: at most a thousand characters of it, with "…" where
+/// it is longer.
+QString listedText(const GraphDef& def);
+
+}  // namespace zel
