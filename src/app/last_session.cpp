@@ -10,6 +10,7 @@
 
 #include "app/main_commands.h"
 #include "app/messages.h"
+#include "base/code_page.h"
 #include "base/language.h"
 #include "files/whole_file.h"
 
@@ -28,6 +29,12 @@ bool makeFolder(const std::string& folder) {
   return !error;
 }
 
+bool isKept(const std::string& kept, const MainView& view, const GraphTable& graphs) try {
+  return !kept.empty() && kept == toCodePage(documentText(view, graphs));
+} catch (const std::bad_alloc&) {
+  return false;
+}
+
 }  // namespace
 
 LastSession::LastSession(const std::string& folder)
@@ -38,10 +45,12 @@ bool LastSession::isThere() const {
   return previous_ ? !previous_->empty() : fileExists(path_);
 }
 
+/// Whether a document can be read back, which documentBytes looks at, takes long to tell; that it
+/// is the one that was kept does not.
 void LastSession::keep(const MainView& view, const GraphTable& graphs) {
-  if (path_.empty() || graphs.count() < 1) return;
+  if (path_.empty() || graphs.count() < 1 || isKept(kept_, view, graphs)) return;
   auto bytes = documentBytes(view, graphs);
-  if (!bytes || *bytes == kept_) return;
+  if (!bytes) return;
   takePrevious();
   if (makeFolder(folder_) && writeWholeFile(path_, *bytes).written) kept_ = std::move(*bytes);
 }

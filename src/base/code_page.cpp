@@ -22,11 +22,12 @@ constexpr std::array<char16_t, 32> kHighControls = {
 constexpr char32_t kFirstHighControl = 0x80;
 
 char encodeByte(char32_t character) {
+  if (character < kFirstHighControl) return static_cast<char>(character);
   const auto found = std::ranges::find(kHighControls, static_cast<char16_t>(character));
   if (character <= 0xFFFF && found != kHighControls.end())
     return static_cast<char>(kFirstHighControl +
                              static_cast<char32_t>(found - kHighControls.begin()));
-  const bool is_own_number = character < 0x80 || (character >= 0xA0 && character <= 0xFF);
+  const bool is_own_number = character >= 0xA0 && character <= 0xFF;
   return is_own_number ? static_cast<char>(character) : '?';
 }
 
