@@ -85,8 +85,9 @@ void frmAdmGraficos::mInsertarFuncion_Click(const std::string& name) {
   formula->cursorBackward(false, static_cast<int>(insertion.caret_back));
 }
 
+/// It is hidden: of a window that is closed the toolkit would keep something each time.
 void frmAdmGraficos::closeEvent(QCloseEvent* event) {
-  event->accept();
+  event->ignore();
   if (isVisible()) returnToCaller();
 }
 

@@ -37,12 +37,13 @@ void frmGrafico::takeArguments() {
   session_.open(viewIn(params), program().marks);
 }
 
+/// It is hidden: of a window that is closed the toolkit would keep something each time.
 void frmGrafico::closeEvent(QCloseEvent* event) {
+  event->ignore();
   if (session_.isOpen())
     leave(session_.openedView());
   else if (isVisible())
     returnToCaller();
-  event->setAccepted(isHidden());  // its caller may have shown it again
 }
 
 void frmGrafico::pictureDrawn() {
