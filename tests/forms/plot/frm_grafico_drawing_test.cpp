@@ -207,8 +207,10 @@ TEST_F(GraficoDrawing, SurvivesHundredsOfRandomEvents) {
     window.showForm();
   };
   int left = 600;
+  bool has_ended = false;
   std::function<void()> go_on = [&] {
     if (left == 0) {
+      has_ended = true;
       program.graphs.clearGraphs();
       window.close();
       return;
@@ -217,7 +219,7 @@ TEST_F(GraficoDrawing, SurvivesHundredsOfRandomEvents) {
     for (int i = 0; i < 3 && left > 0; ++i, --left) user.act(show);
   };
   go_on();
-  while (left > 0) open(view);
+  while (!has_ended) open(view);
   settle();
   EXPECT_FALSE(window.session().isOpen());
   addFunction('b', "x^2");
