@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# scripts/monkey.sh [EVENTS [SEED [PRESET]]]: random clicks, keys, resizes and closes over all windows,
-# a million without a word; the preset asan-gui runs them under the sanitizers. The last line tells
-# the longest wait of an event.
+# scripts/monkey.sh [EVENTS [SEED [PRESET]]]: random clicks, keys, texts, documents, resizes and closes
+# over all windows, a million without a word; the preset asan-gui runs them under the sanitizers. The
+# last lines tell the longest wait of an event, and how many waited for more than 50 ms for what.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
@@ -13,4 +13,4 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 QT_QPA_PLATFORM=offscreen ZEL_MONKEY_EVENTS=${1:-1000000} ZEL_MONKEY_SEED=${2:-1} \
   "build/$preset/bin/forms_tests" --gtest_filter='Monkey.*' | tee "$log"
-grep '^longest wait' "$log"
+grep -E '^(monkey:|longest wait|waits )' "$log"

@@ -1,20 +1,20 @@
-// Random clicks, keys, resizes and closes over all windows: nothing crashes, hangs or warns.
-// ZEL_MONKEY_EVENTS and ZEL_MONKEY_SEED choose how many and which.
+// Random clicks, keys, texts, documents, resizes and closes over all windows, also while a plot is
+// being drawn: nothing crashes, hangs or warns. ZEL_MONKEY_EVENTS and ZEL_MONKEY_SEED choose how
+// many and which.
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
-#include <QPointer>
 #include <QTimer>
-#include <QWheelEvent>
+#include <array>
 #include <cstdlib>
 #include <iostream>
 #include <map>
 #include <optional>
-#include <random>
 
 #include "forms/forms.h"
-#include "forms/longest_wait.h"
+#include "forms/hostile_inputs.h"
+#include "forms/monkey_hands.h"
+#include "forms/waits.h"
 #include "forms/window_fixture.h"
 
 namespace zel::test {
@@ -26,12 +26,20 @@ unsigned long setting(const char* name, unsigned long otherwise) {
 }
 
 class Monkey : public WindowTest {
+  MonkeyHands hands_{setting("ZEL_MONKEY_SEED", 1)};
+
  protected:
-  Monkey() : random_(setting("ZEL_MONKEY_SEED", 1)) {
+  Monkey() {
     services.boxes.on_show = [this](const FakeMessageBoxes::Box&) { answerSomething(); };
     program.end_process = [this] { ended_ = true; };
     QObject::connect(&patience_, &QTimer::timeout, [this] { closeForgottenMenu(); });
     patience_.start(20);
+    for (QTimer& timer : inside_) {
+      QObject::connect(&timer, &QTimer::timeout, [this] { actInside(); });
+      timer.start(0);
+    }
+    program.last_session = LastSession("state");
+    writeHostileDocuments();
     addFunction('a', "x^2/4-2");
     addFunction('b', "inv(x)");
     program.graphs.rebuildGraph('f', "p*x", "", 0x00FF00, 'Z', family());
@@ -46,7 +54,7 @@ class Monkey : public WindowTest {
     return parameters;
   }
 
-  int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
+  int below(int limit) { return hands_.below(limit); }
 
   void answerSomething() {
     constexpr std::array<BoxAnswer, 4> kAnswers = {BoxAnswer::ok, BoxAnswer::cancel,
@@ -62,18 +70,18 @@ class Monkey : public WindowTest {
     services.files.paths.clear();
     if (below(2) == 0) services.files.paths.push_back(below(2) == 0 ? "uno.zel" : "no/dos.zel");
     services.colours.initials.clear();
-    services.colours.colours = {static_cast<std::int32_t>(random_() & 0xFFFFFF)};
+    services.colours.colours = {below(0x1000000)};
     services.browser.calls.clear();
     services.mail.calls.clear();
     services.help.shown.clear();
     services.inputs.asked.clear();
-    services.inputs.answers = {below(2) == 0 ? "0,5" : "nada"};
+    services.inputs.answers = {below(2) == 0 ? "0,5" : hands_.anyText().toStdString()};
     services.clipboard.calls.clear();
     services.printer.asked.clear();
     services.printer.printed.clear();
     services.printer.made_pdfs.clear();
     services.recent.added.clear();
-    services.recent.listed = {"uno.zel", "tres.zel"};
+    services.recent.listed = {"uno.zel", "tres.zel", "&amp;[*].zel"};
     constexpr std::array<PrintOutcome, 4> kOutcomes = {
         PrintOutcome::printed, PrintOutcome::cancelled, PrintOutcome::not_started,
         PrintOutcome::failed};
@@ -87,64 +95,10 @@ class Monkey : public WindowTest {
     return visible.isEmpty() ? nullptr : visible[below(static_cast<int>(visible.size()))];
   }
 
-  /// The window itself now and then, otherwise one of its controls.
-  QWidget* anyControl(QWidget& window) {
-    QWidgetList controls = {&window};
-    for (QWidget* child : window.findChildren<QWidget*>())
-      if (child->isVisible() && child->isEnabled()) controls.append(child);
-    return controls[below(static_cast<int>(controls.size()))];
-  }
-
   static bool isReachable(const QWidget& window) {
     if (const QWidget* popup = QApplication::activePopupWidget()) return popup == &window;
     const QWidget* modal = QApplication::activeModalWidget();
     return !modal || modal == &window;
-  }
-
-  void click(QWidget& target) {
-    const QPointF place(below(std::max(1, target.width())), below(std::max(1, target.height())));
-    const auto button = below(6) == 0 ? Qt::RightButton : Qt::LeftButton;
-    const QPointF global = target.mapToGlobal(place);
-    QMouseEvent press(below(8) == 0 ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, place,
-                      global, button, button, Qt::NoModifier);
-    const QPointer<QWidget> alive(&target);
-    QApplication::sendEvent(&target, &press);
-    if (alive && below(3) == 0) {
-      const QPointF further = place + QPointF(below(200) - 100, below(200) - 100);
-      QMouseEvent move(QEvent::MouseMove, further, target.mapToGlobal(further), Qt::NoButton,
-                       button, Qt::NoModifier);
-      QApplication::sendEvent(&target, &move);
-    }
-    if (!alive) return;
-    QMouseEvent release(QEvent::MouseButtonRelease, place, global, button, Qt::NoButton,
-                        Qt::NoModifier);
-    QApplication::sendEvent(&target, &release);
-  }
-
-  void turnWheel(QWidget& target) {
-    const QPointF place(below(std::max(1, target.width())), below(std::max(1, target.height())));
-    QWheelEvent event(place, target.mapToGlobal(place), QPoint(), QPoint(0, 60 * (below(9) - 4)),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&target, &event);
-  }
-
-  void press(QWidget& target) {
-    constexpr std::array<Qt::Key, 16> kKeys = {
-        Qt::Key_Return, Qt::Key_Escape,    Qt::Key_Tab,  Qt::Key_Space,
-        Qt::Key_Up,     Qt::Key_Down,      Qt::Key_Left, Qt::Key_Right,
-        Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Home, Qt::Key_End,
-        Qt::Key_PageUp, Qt::Key_PageDown,  Qt::Key_F1,   Qt::Key_Backtab};
-    constexpr std::string_view kTyped = "0123456789,.-+*/^()!xtpeEsincolg CcPp";
-    if (below(2) == 0) {
-      const Qt::Key key = kKeys[static_cast<std::size_t>(below(kKeys.size()))];
-      const QString text = key == Qt::Key_Escape ? "\x1b" : key == Qt::Key_Space ? " " : "";
-      QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
-      QApplication::sendEvent(&target, &down);
-    } else {
-      const char typed = kTyped[static_cast<std::size_t>(below(static_cast<int>(kTyped.size())))];
-      QKeyEvent down(QEvent::KeyPress, typed, Qt::NoModifier, QString(QChar(typed)));
-      QApplication::sendEvent(&target, &down);
-    }
   }
 
   void chooseAction(QWidget& window) {
@@ -154,17 +108,22 @@ class Monkey : public WindowTest {
     if (action->isEnabled()) action->trigger();
   }
 
+  void openDocument(QWidget& window) {
+    auto* const open = window.findChild<QAction*>("mAbrir");
+    if (!open) return chooseAction(window);
+    const auto number = static_cast<std::size_t>(below(int{kHostileDocuments.size()}));
+    if (kHostileDocuments[number] == "danado.zel")
+      writeDamagedDocument(static_cast<std::size_t>(below(int{DamagedDocuments::kCount})));
+    services.files.paths = {std::string(kHostileDocuments[number])};
+    open->trigger();
+  }
+
   /// Few random clicks lead to the plot and from there to the print window, so both are opened on
   /// purpose now and then.
-  bool goFurther(QWidget& window) {
-    if (below(50) != 0) return false;
-    for (const char* name : {"CmdGraficarLista", "Imprimir"}) {
-      auto* const button = window.findChild<QAbstractButton*>(name);
-      if (!button) continue;
-      button->click();
-      return true;
-    }
-    return false;
+  void goFurther(QWidget& window) {
+    for (const char* name : {"CmdGraficarLista", "Imprimir"})
+      if (auto* const button = window.findChild<QAbstractButton*>(name)) return button->click();
+    hands_.click(window);
   }
 
   /// The menu of a toolbar that is too narrow waits for its user; one who has gone is not coming.
@@ -174,23 +133,74 @@ class Monkey : public WindowTest {
     events_seen_ = events_;
   }
 
-  void doSomething(QWidget& window) {
+  struct Kind {
+    const char* name;
+    int share;  // in a thousand events
+    void (*act)(Monkey& monkey, QWidget& window);
+  };
+  static constexpr auto kKinds = std::to_array<Kind>(
+      {{"click", 470, [](Monkey& m, QWidget& window) { m.hands_.click(window); }},
+       {"key", 320, [](Monkey& m, QWidget& window) { m.hands_.press(window); }},
+       {"wheel", 40, [](Monkey& m, QWidget& window) { m.hands_.turnWheel(window); }},
+       {"text", 30, [](Monkey& m, QWidget& window) { m.hands_.enterText(window); }},
+       {"action", 40, [](Monkey& m, QWidget& window) { m.chooseAction(window); }},
+       {"document", 10, [](Monkey& m, QWidget& window) { m.openDocument(window); }},
+       {"further", 20, [](Monkey& m, QWidget& window) { m.goFurther(window); }},
+       {"resize", 50, [](Monkey& m, QWidget& window) { m.hands_.resize(window); }},
+       {"close", 20, [](Monkey&, QWidget& window) { window.close(); }}});
+
+  const Kind& anyKind() {
+    int left = below(1000);
+    for (const Kind& kind : kKinds)
+      if ((left -= kind.share) < 0) return kind;
+    return kKinds.back();
+  }
+
+  /// One event for a window that the user can reach.
+  void act() {
+    QWidget* const window = anyWindow();
+    if (!window || !isReachable(*window)) return;
+    preset();
     ++events_;
-    if (goFurther(window)) return;
-    const int choice = below(100);
-    QWidget& target = *anyControl(window);
-    if (choice < 48)
-      click(target);
-    else if (choice < 52)
-      turnWheel(target);
-    else if (choice < 88)
-      press(target);
-    else if (choice < 93)
-      chooseAction(window);
-    else if (choice < 98)
-      window.resize(40 + below(1000), 40 + below(700));
-    else
-      window.close();
+    const std::string name = window->objectName().toStdString();
+    ++visits_[name];
+    const Kind& kind = anyKind();
+    wait_.begin(name + " " + kind.name);
+    kind.act(*this, *window);
+    wait_.end();
+  }
+
+  /// What the user does while a plot is being drawn or a menu is up. Only so many of these run
+  /// inside one another; then the plot is stopped and the menu closed.
+  void actInside() {
+    if (depth_ == 0 || ended_) return;
+    if (depth_ <= kDeepest) {
+      ++depth_;
+      ++inside_events_;
+      act();
+      --depth_;
+      return;
+    }
+    if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+      if (window->objectName() != "frmGrafico") continue;
+      QKeyEvent stop(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, "\x1b");
+      QApplication::sendEvent(window, &stop);
+    }
+  }
+
+  /// The main window is the end of the program, and so the monkey starts it anew.
+  void actOutside() {
+    ++rounds_;
+    if (ended_ || !anyWindow()) return start(StartStep::presentation);
+    depth_ = 1;
+    act();
+    if (rounds_ % 4 == 0) {
+      wait_.begin("pending events");
+      QApplication::processEvents();
+      wait_.end();
+    }
+    depth_ = 0;
   }
 
   void start(StartStep step) {
@@ -198,41 +208,36 @@ class Monkey : public WindowTest {
     forms_.reset();
     program.params = makeFormParams();
     forms_.emplace(program, "");
+    wait_.begin("start");
     forms_->begin(step);
+    wait_.end();
   }
 
-  bool ended_ = false;
+  unsigned long events_ = 0;
+  unsigned long rounds_ = 0;
+  unsigned long inside_events_ = 0;  // of the events, those inside of others
   std::map<std::string, unsigned long> visits_;
-  LongestWait wait_;
+  Waits wait_;
 
  private:
-  std::mt19937 random_;
   std::optional<Forms> forms_;
   QTimer patience_;
-  unsigned long events_ = 0;
+  static constexpr int kDeepest = 3;
+  std::array<QTimer, kDeepest + 1> inside_;  // a timer does not go off inside of itself
+  int depth_ = 0;                            // of the events that are under way
+  bool ended_ = false;
   unsigned long events_seen_ = 0;
 };
 
 TEST_F(Monkey, CannotBreakTheProgram) {
   start(StartStep::first_start);
   const unsigned long events = setting("ZEL_MONKEY_EVENTS", 40000);
-  for (unsigned long i = 0; i < events; ++i) {
-    preset();
-    QWidget* window = anyWindow();
-    // The main window is the end of the program, and so the monkey starts it anew.
-    if (!window || ended_) {
-      start(StartStep::presentation);
-      continue;
-    }
-    if (!isReachable(*window)) continue;
-    const std::string name = fromQt(window->objectName());
-    ++visits_[name];
-    wait_.begin();
-    doSomething(*window);
-    if (i % 4 == 0) QApplication::processEvents();
-    wait_.end(name);
-  }
-  std::cout << wait_.text() << '\n';
+  while (events_ < events && rounds_ < 10 * events && !HasFailure()) actOutside();
+  std::cout << "monkey: " << events_ << " events, " << inside_events_
+            << " of them inside of others\n"
+            << wait_.text() << '\n';
+  EXPECT_GE(events_, events) << "most windows could not be reached";
+  EXPECT_GT(inside_events_, 0u);
   // A monkey that sits in a corner has tried nothing.
   for (const char* name : {"frmIdioma", "frmPresentacion", "frmDatosIni", "frmAdmGraficos",
                            "frmGrafico", "frmImprimir", "frmExportar", "frmAcercaDe"})

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <QAbstractEventDispatcher>
+#include <QObject>
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <map>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zel::test {
+
+/// How long an event would have waited: the stretches between two looks at pending events, and the
+/// begin and the end of what is watched. Other programs take their share of the clock's time, so
+/// the thread's processor time is measured, too.
+class Waits {
+ public:
+  static constexpr double kLongest = 50;  // milliseconds
+
+  Waits() {
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
+                     &context_, [this] { look(); });
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                     &context_, [this] { look(); });
+  }
+
+  /// Until the end stretches count for this kind; what begins inside of it has a kind of its own.
+  void begin(std::string kind) {
+    look();
+    kinds_.push_back(std::move(kind));
+  }
+
+  void end() {
+    look();
+    kinds_.pop_back();
+  }
+
+  /// "longest wait: 18.2 ms of the processor (frmGrafico key), 31.0 ms by the clock (main open)",
+  /// how many of all were too long, and a line for each kind that had such a one.
+  std::string text() const {
+    std::ostringstream text;
+    text.setf(std::ios::fixed);
+    text.precision(1);
+    text << "longest wait: " << longest_.processor << " ms of the processor (" << by_processor_
+         << "), " << longest_.clock << " ms by the clock (" << by_clock_ << ")\n"
+         << "waits over " << kLongest << " ms: " << longest_.over_by_processor
+         << " by the processor and " << longest_.over_by_clock << " by the clock, of "
+         << longest_.count;
+    for (const auto& [kind, figures] : figures_) {
+      if (figures.over_by_clock + figures.over_by_processor == 0) continue;
+      text << "\nwaits of " << kind << ": " << figures.count
+           << ", over: " << figures.over_by_processor << " (longest " << figures.processor
+           << " ms) and " << figures.over_by_clock << " (longest " << figures.clock << " ms)";
+    }
+    return text.str();
+  }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  struct Figures {
+    unsigned long count = 0;
+    unsigned long over_by_processor = 0;
+    unsigned long over_by_clock = 0;
+    double processor = 0;  // the longest, in milliseconds
+    double clock = 0;
+
+    void add(double by_processor, double by_clock) {
+      ++count;
+      over_by_processor += by_processor > kLongest;
+      over_by_clock += by_clock > kLongest;
+      processor = std::max(processor, by_processor);
+      clock = std::max(clock, by_clock);
+    }
+  };
+
+  static double processorTime() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+  }
+
+  void look() {
+    const Clock::time_point clock = Clock::now();
+    const double processor = processorTime();
+    if (!kinds_.empty())
+      note(processor - processor_,
+           std::chrono::duration<double, std::milli>(clock - clock_).count());
+    clock_ = clock;
+    processor_ = processor;
+  }
+
+  void note(double processor, double clock) {
+    const std::string& kind = kinds_.back();
+    if (processor > longest_.processor) by_processor_ = kind;
+    if (clock > longest_.clock) by_clock_ = kind;
+    longest_.add(processor, clock);
+    figures_[kind].add(processor, clock);
+  }
+
+  QObject context_;
+  std::vector<std::string> kinds_;  // of what is under way, the innermost last
+  std::map<std::string, Figures> figures_;
+  Figures longest_;
+  std::string by_processor_;
+  std::string by_clock_;
+  Clock::time_point clock_;
+  double processor_ = 0;
+};
+
+}  // namespace zel::test
