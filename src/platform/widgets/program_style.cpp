@@ -39,4 +39,12 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
+QIcon ProgramStyle::standardIcon(StandardPixmap name, const QStyleOption* option,
+                                 const QWidget* widget) const {
+  const std::lock_guard lock(icons_guard_);
+  const auto [icon, is_new] = icons_.try_emplace(name);
+  if (is_new) icon->second = QProxyStyle::standardIcon(name, option, widget);
+  return icon->second;
+}
+
 }  // namespace zel

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
+#include <map>
+#include <mutex>
 
 namespace zel {
 
-/// The desktop's style but for two things: a button that has the focus shows it, a default one too,
-/// and no button of a dialog has an icon, so that those of message boxes look like all others.
+/// The desktop's style but for three things: a button that has the focus shows it, a default one
+/// too; no button of a dialog has an icon, so that those of message boxes look like all others; and
+/// an icon is the same one each time, because the toolkit caches the pictures of each new one anew.
 class ProgramStyle : public QProxyStyle {
  public:
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -14,6 +18,12 @@ class ProgramStyle : public QProxyStyle {
                           QPainter* painter, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;
+  QIcon standardIcon(StandardPixmap name, const QStyleOption* option,
+                     const QWidget* widget) const override;
+
+ private:
+  mutable std::mutex icons_guard_;  // file dialogs read folders in threads of their own
+  mutable std::map<StandardPixmap, QIcon> icons_;
 };
 
 }  // namespace zel

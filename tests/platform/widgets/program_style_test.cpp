@@ -65,6 +65,14 @@ TEST_F(StyleOfTheProgram, MarksAToolButtonThatHasTheFocus) {
   EXPECT_LT(marked<QStyleOptionToolButton>({}, false, draw), kRing);
 }
 
+TEST_F(StyleOfTheProgram, GivesTheSameIconEachTime) {
+  const QIcon folder = style.standardIcon(QStyle::SP_DirIcon, nullptr, nullptr);
+  EXPECT_FALSE(folder.isNull());
+  EXPECT_EQ(style.standardIcon(QStyle::SP_DirIcon, nullptr, nullptr).cacheKey(), folder.cacheKey());
+  EXPECT_NE(style.standardIcon(QStyle::SP_FileIcon, nullptr, nullptr).cacheKey(),
+            folder.cacheKey());
+}
+
 TEST_F(StyleOfTheProgram, GivesTheButtonsOfDialogsNoIcons) {
   QDialogButtonBox box;
   box.setStyle(&style);
