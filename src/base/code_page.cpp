@@ -1,7 +1,7 @@
 // Files hold one byte a character, the program UTF-8. Of the 256 bytes, 224 are the characters of
 // their own number; the 32 from 0x80 on have a table. Whatever is no character of the code page,
 // and whatever is no UTF-8, becomes a question mark, so that a text always has a form that can be
-// written.
+// written. Most texts are ASCII, which is the same in both.
 
 #include "base/code_page.h"
 
@@ -29,6 +29,11 @@ char encodeByte(char32_t character) {
                              static_cast<char32_t>(found - kHighControls.begin()));
   const bool is_own_number = character >= 0xA0 && character <= 0xFF;
   return is_own_number ? static_cast<char>(character) : '?';
+}
+
+bool isAscii(std::string_view text) {
+  return std::ranges::all_of(
+      text, [](char byte) { return static_cast<unsigned char>(byte) < kFirstHighControl; });
 }
 
 /// Hands the byte of each character to `take`, until that returns false.
@@ -74,12 +79,17 @@ std::string toCodePage(std::string_view utf8) {
 }
 
 std::size_t codePageSize(std::string_view utf8) {
+  if (isAscii(utf8)) return utf8.size();
   std::size_t size = 0;
   encode(utf8, [&](char) { return ++size > 0; });
   return size;
 }
 
 void appendToCodePage(std::string_view utf8, std::string& bytes) {
+  if (isAscii(utf8)) {
+    bytes += utf8;
+    return;
+  }
   encode(utf8, [&](char byte) {
     bytes += byte;
     return true;
@@ -87,6 +97,7 @@ void appendToCodePage(std::string_view utf8, std::string& bytes) {
 }
 
 bool isKeptByCodePage(std::string_view written, std::string_view read) {
+  if (isAscii(written)) return written == read;
   bool is_kept = true;
   encode(written, [&](char byte) {
     const Utf8Character kept = utf8Of(decodeByte(byte));
@@ -98,6 +109,7 @@ bool isKeptByCodePage(std::string_view written, std::string_view read) {
 }
 
 std::string fromCodePage(std::string_view bytes) {
+  if (isAscii(bytes)) return std::string(bytes);
   std::size_t size = 0;
   for (const char byte : bytes) size += utf8Of(decodeByte(byte)).size;
   std::string utf8;
