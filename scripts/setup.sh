@@ -19,7 +19,7 @@ declare -A groups=(
     wine wine64 fonts-wine fonts-liberation xvfb xauth"
   [bench]="gnuplot-nox libbenchmark-dev libmuparser-dev python3 x11-utils xvfb"
   [fuzz]="clang libclang-rt-14-dev"
-  [tidy]="clang clang-tidy"
+  [tidy]="clang clang-tidy cppcheck git python3"
   [format]="clang-format"
   [coverage]="gcovr"
 )

@@ -62,7 +62,7 @@ RedrawOutcome Drawing::redraw(Viewport& viewport, const ScaleMarks& marks) {
     return RedrawOutcome::abandoned;
   }
   const Nesting nesting(*this);
-  RedrawOutcome outcome;
+  auto outcome = RedrawOutcome::abandoned;
   do {
     begins_anew_ = false;
     outcome = drawOnce(viewport, marks);

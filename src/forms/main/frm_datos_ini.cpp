@@ -29,7 +29,7 @@ namespace {
 QString documentIn(const QMimeData& data) {
   for (const QUrl& url : data.urls()) {
     // A name that is no UTF-8 does not come through whole, and then is no file's.
-    const QString path = url.toLocalFile();
+    QString path = url.toLocalFile();
     if (path.endsWith(".zel", Qt::CaseInsensitive) && QFileInfo(path).isFile()) return path;
   }
   return {};
