@@ -21,7 +21,7 @@ declare -A groups=(
   [fuzz]="clang libclang-rt-14-dev"
   [tidy]="clang clang-tidy cppcheck git python3"
   [format]="clang-format"
-  [coverage]="gcovr"
+  [coverage]="clang libclang-rt-14-dev llvm-14"
 )
 
 packages=()

@@ -149,8 +149,6 @@ Computed ComputeOperator(double left, double right, char op) {
 
 std::string FailureMessage(Failure failure, double left, char op) {
   switch (failure) {
-    case Failure::none:
-    case Failure::fault: return {};
     case Failure::syntax: return Localize("Error de sintaxis.");
     case Failure::no_ln_gamma:
       return Localize("La función LnGamma no existe para el valor solicitado.");

@@ -43,7 +43,8 @@ struct Computed {
 /// that of "#" is the right value, as it stands.
 Computed ComputeOperator(double left, double right, char op);
 
-/// The message of a failure of an operator with this left value, in the current language.
+/// The message of an error of an operator with this left value, in the current language; a fault
+/// has none.
 std::string FailureMessage(Failure failure, double left, char op);
 
 /// ComputeOperator with the message of an error.

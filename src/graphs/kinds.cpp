@@ -12,8 +12,6 @@
 namespace zel {
 namespace {
 
-using KindTable = std::array<KindInfo, 26>;
-
 constexpr std::size_t placeInTable(char letter) { return static_cast<std::size_t>(letter - 'A'); }
 
 /// The names are kept as they are, accents or none. "7@" is the code of the square root.
@@ -27,13 +25,11 @@ constexpr std::array<KindInfo, 7> kKinds = {{
     {'T', "Paramétrica", false, "", ""},
 }};
 
-constexpr KindTable makeKindTable() {
-  KindTable table;
+constexpr auto kTable = [] {
+  std::array<KindInfo, 26> table;
   for (const KindInfo& kind : kKinds) table[placeInTable(kind.letter)] = kind;
   return table;
-}
-
-constexpr KindTable kTable = makeKindTable();
+}();
 
 }  // namespace
 

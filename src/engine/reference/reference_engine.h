@@ -39,7 +39,6 @@ class ReferenceEngine {
   /// meanwhile, which is meant.
   std::string_view lastCode() const { return references_.code; }
   std::string_view expanded() const { return references_.expanded; }
-  bool hasOutgrown() const { return references_.outgrown; }
 
   ParseCache& parseCache() { return cache_; }
   const ParseCache& parseCache() const { return cache_; }
