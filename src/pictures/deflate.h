@@ -15,13 +15,10 @@ class Deflate {
  public:
   Deflate();
   ~Deflate();
-  Deflate(Deflate&&) noexcept;
   Deflate& operator=(Deflate&&) noexcept;
 
   void take(std::span<const std::uint8_t> part);
   void take(std::string_view part);
-  /// So many bytes have come out so far; those that are still held back are not among them.
-  std::size_t size() const { return output_.size(); }
   /// Ends the stream: all of it, once. Empty when it could not be made.
   std::string finish();
 

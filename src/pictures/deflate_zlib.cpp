@@ -32,7 +32,6 @@ Deflate::Deflate() : stream_(std::make_unique<Stream>()) {
 }
 
 Deflate::~Deflate() = default;
-Deflate::Deflate(Deflate&&) noexcept = default;
 Deflate& Deflate::operator=(Deflate&&) noexcept = default;
 
 void Deflate::take(std::span<const std::uint8_t> part) {

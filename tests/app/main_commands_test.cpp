@@ -188,6 +188,35 @@ TEST_F(MainCommands, SaveAsKeepsTheChosenNameAndOpensAgain) {
   EXPECT_TRUE(services.boxes.shown.empty());
 }
 
+TEST_F(MainCommands, ARecentDocumentIsOpenedWithoutAFileDialog) {
+  addFunction('a', "x^2");
+  MainView view;
+  view.xf = "7";
+  services.files.paths = {"uno.zel"};
+  saveDocumentAs(program, view);
+  newDocument(program, view);
+  MainView opened;
+  EXPECT_TRUE(openRecent(program, absolutePath("uno.zel"), opened));
+  EXPECT_EQ(opened.xf, "7");
+  EXPECT_EQ(program.document_name, "uno.zel");
+  EXPECT_EQ(program.graphs.count(), 1);
+  EXPECT_EQ(services.files.asked.size(), 1u);
+}
+
+TEST_F(MainCommands, ARecentDocumentThatIsMissingIsToldAndNotMade) {
+  addFunction('a', "x^2");
+  program.document_name = "uno.zel";
+  MainView view;
+  view.xf = "7";
+  EXPECT_FALSE(openRecent(program, absolutePath("dos.zel"), view));
+  EXPECT_EQ(services.boxes.shown,
+            std::vector<Box>{attention("Error: No se pudo abrir el archivo.")});
+  EXPECT_FALSE(std::filesystem::exists("dos.zel"));
+  EXPECT_EQ(program.document_name, "uno.zel");
+  EXPECT_EQ(program.graphs.count(), 1);
+  EXPECT_EQ(view.xf, "7");
+}
+
 TEST_F(MainCommands, FileDialogsAreProposedThePathOfTheDocument) {
   MainView view;
   openDocument(program, view);

@@ -46,6 +46,17 @@ TEST_F(Start, KeepsADamagedConfigurationThatHoldsAnything) {
   EXPECT_EQ(bytesOf("config.ini"), "EN");
 }
 
+TEST_F(Start, HasAnEngineThatCallsTheGraphsOfTheProgram) {
+  addFunction('f', "x^2");
+  double value = 0;
+  std::string message;
+  EXPECT_TRUE(EvaluateFormula(program.engine, 3, value, "f(x)+1", message));
+  EXPECT_EQ(value, 10);
+  addFunction('f', "x+5");
+  EXPECT_TRUE(EvaluateFormula(program.engine, 3, value, "1+f(x)", message));
+  EXPECT_EQ(value, 9);
+}
+
 TEST_F(Start, KeepsItsConfigurationInTheFolderOfTheStart) {
   const std::string start = std::filesystem::current_path().string();
   const TemporaryFolder elsewhere;

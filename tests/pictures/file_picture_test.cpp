@@ -65,5 +65,16 @@ TEST(FilePictureInAScale, StaysOneWhenItIsCleared) {
   }
 }
 
+TEST(FilePicture, IsMadeForThreeEndingsInLowerCaseAndForNoOther) {
+  for (const char* ending : {"svg", "png", "pdf"}) {
+    EXPECT_TRUE(canMakePicture(ending)) << ending;
+    EXPECT_NE(makeFilePicture(ending, 20, 10), nullptr) << ending;
+  }
+  for (const char* ending : {"", "SVG", ".png", "gif", "pdf "}) {
+    EXPECT_FALSE(canMakePicture(ending)) << ending;
+    EXPECT_EQ(makeFilePicture(ending, 20, 10), nullptr) << ending;
+  }
+}
+
 }  // namespace
 }  // namespace zel::test

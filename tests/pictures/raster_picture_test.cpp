@@ -184,6 +184,14 @@ TEST_F(Raster, DrawsALaterGraphOverAnEarlierOne) {
   EXPECT_EQ(pixel(picture.finish(), 20, 5), 0xFF0000FF);
 }
 
+TEST_F(Raster, HoldsAGraphBackUntilItHasEnded) {
+  picture.beginGraph('a', kRed);
+  piece({atPixel(0, 15), atPixel(40, 15)});
+  EXPECT_EQ(pixel(picture.bitmap(), 20, 15), 0xFFFFFFFFu);
+  EXPECT_EQ(pixel(picture.soFar(), 20, 15), pixel(picture.finish(), 20, 15));
+  EXPECT_NE(pixel(picture.bitmap(), 20, 15), 0xFFFFFFFFu);
+}
+
 TEST_F(Raster, ShowsAPieceOfOnePointAsADot) {
   picture.beginGraph('a', 0);
   picture.startPiece(atPixel(10.5, 10.5));

@@ -82,5 +82,17 @@ TEST_F(GraphPicker, LooksAtTheFirstMembersOfAFamilyWithoutEnd) {
   EXPECT_FALSE(pick('a', 0, 5));
 }
 
+TEST_F(GraphPicker, AWalkThatIsEndedPicksNothingAndPutsTheParameterBack) {
+  graphs.storeGraph(
+      graphOf('Z', {{"inicio", "0"}, {"fin", "1E+9"}, {"variacion", "1"}}, longFormula("p")));
+  addFunction('b', "5");
+  engine.SetP(7);
+  int looks = 0;
+  Walk walk(engine, [&] { return ++looks < 2; });
+  EXPECT_FALSE(pickGraph(engine, graphs, 'a', {0, 5}, walk));
+  EXPECT_EQ(looks, 2);
+  EXPECT_EQ(engine.GetP(), 7);
+}
+
 }  // namespace
 }  // namespace zel::test
