@@ -11,10 +11,11 @@ tests=("${folders[@]}" memory)
 bin=build/coverage/bin
 profiles=build/coverage/profiles
 
-# run_tests FOLDER: one program for all of its tests, which is quicker than one for each.
+# run_tests FOLDER: one program for all of its tests, which is quicker than one for each. The counts are
+# kept in the file while it runs (%c), for children that end in the middle.
 run_tests() {
   local log=build/coverage/$1.log
-  LLVM_PROFILE_FILE=$profiles/$1-%2m.profraw "$bin/$1_tests" --gtest_brief=1 >"$log" 2>&1 || {
+  LLVM_PROFILE_FILE=%c$profiles/$1-%p.profraw "$bin/$1_tests" --gtest_brief=1 >"$log" 2>&1 || {
     cat "$log"
     return 1
   }

@@ -44,7 +44,7 @@ def outcomes(entry):
         place = sums[tuple(branch[:4])]
         place[0] += branch[4]
         place[1] += branch[5]
-    return {place: counts for place, counts in sorted(sums.items())
+    return {place: counts for place, counts in sums.items()
             if any(counts) or not count_at(entry["segments"], place[:2])}
 
 
@@ -56,19 +56,35 @@ class Folder:
         return 100 * self.branches_run / self.branches if self.branches else 100
 
 
+class Source:
+    """A file, which may come more than once, by paths that lead to the same one."""
+
+    def __init__(self, path):
+        self.text = path.read_text(encoding="utf-8").splitlines()
+        self.lines = collections.Counter()
+        self.branches = collections.defaultdict(lambda: [0, 0])
+
+    def add(self, entry):
+        self.lines.update(line_counts(entry["segments"], len(self.text)))
+        for place, counts in outcomes(entry).items():
+            self.branches[place] = [sum(both) for both in zip(self.branches[place], counts)]
+
+
 def read(export):
     """The folders' sums, the lines that did not run, and the outcomes that did not happen."""
+    sources = {}
+    for entry in export["data"][0]["files"]:
+        path = pathlib.Path(entry["filename"]).resolve()
+        sources.setdefault(path.relative_to(ROOT), Source(path)).add(entry)
     folders, lines_left, branches_left = collections.defaultdict(Folder), [], []
-    for entry in sorted(export["data"][0]["files"], key=lambda entry: entry["filename"]):
-        path = pathlib.Path(entry["filename"]).resolve().relative_to(ROOT)
-        text = (ROOT / path).read_text(encoding="utf-8").splitlines()
+    for path, source in sorted(sources.items()):
         folder = folders[path.parts[1]]
-        for line, count in line_counts(entry["segments"], len(text)).items():
+        for line, count in sorted(source.lines.items()):
             folder.lines += 1
             folder.lines_run += count > 0
             if not count:
-                lines_left.append((path, line, text[line - 1].strip()))
-        for (line, column, *_), counts in outcomes(entry).items():
+                lines_left.append((path, line, source.text[line - 1].strip()))
+        for (line, column, *_), counts in sorted(source.branches.items()):
             folder.branches += 2
             folder.branches_run += sum(count > 0 for count in counts)
             branches_left += [f"{path}:{line}:{column}: never {name}"
