@@ -149,5 +149,43 @@ TEST_F(Rounding, KnowsItsPowersOfTen) {
   EXPECT_FALSE(isSafeDecade(decadeOf(DBL_MIN)));
 }
 
+TEST(DecadeGuess, HoldsNothingToBeginWithAndThenTheDecadeOfTheLastValue) {
+  DecadeGuess guess;
+  EXPECT_FALSE(guess.holds(5) || guess.holds(1) || guess.holds(0));
+  guess.moveTo(-37);
+  for (const double value : {10.0, -10.0, 55.5, std::nextafter(100, 0)})
+    EXPECT_TRUE(guess.holds(value)) << value;
+  for (const double value : {100.0, std::nextafter(10, 0), 0.0, HUGE_VAL})
+    EXPECT_FALSE(guess.holds(value)) << value;
+}
+
+TEST(DecadeGuess, StaysWhereItIsForAValueOfNoExactDecade) {
+  DecadeGuess guess;
+  guess.moveTo(5);
+  for (const double value : {9.9e-5, 1e15, 1e300, 1e-300, 0.0, HUGE_VAL, std::nan("")}) {
+    guess.moveTo(value);
+    EXPECT_TRUE(guess.holds(5)) << value;
+    EXPECT_FALSE(guess.holds(value)) << value;
+  }
+  for (const double value : {1e-4, 9.9e14}) {
+    guess.moveTo(value);
+    EXPECT_TRUE(guess.holds(value)) << value;
+  }
+}
+
+TEST_F(Rounding, IsThatOfTheTextInADecadeThatWasGuessed) {
+  DecadeGuess guess;
+  for (int exponent = kLowestExactDecade; exponent <= kHighestExactDecade; ++exponent) {
+    const Decade& in = decade(exponent);
+    guess.moveTo(in.low);
+    std::uniform_real_distribution<double> within(in.low, in.high);
+    for (int i = 0; i < 2'000; ++i) {
+      const double value = within(random);
+      ASSERT_EQ(bits(guess.round(value)), bits(throughText(value))) << std::hexfloat << value;
+      ASSERT_EQ(bits(guess.round(-value)), bits(throughText(-value))) << std::hexfloat << value;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace zel::test

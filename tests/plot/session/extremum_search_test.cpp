@@ -39,6 +39,11 @@ TEST_F(ExtremumSearch, AFlatTopIsAMaximumAtTheLastRisingSample) {
   expectFound("abs(x+2)-abs(x-1)", -2, "MAX", {1, 3}, {1.5, 3});
 }
 
+TEST_F(ExtremumSearch, AFlatBottomIsAMinimumAtTheLastFallingSample) {
+  expectFound("abs(x-1)-abs(x+2)", -4.5, "MAX", {-2, 3}, {-1.5, 2});
+  expectFound("abs(x-1)-abs(x+2)", -2, "Min", {1, -3}, {1.5, -3});
+}
+
 TEST_F(ExtremumSearch, GoesOnAtTheLeftEndOnce) {
   expectFound("x^2-4", 3, "Min", {0, -4}, {0.5, -3.75});
 }
