@@ -62,6 +62,10 @@ TEST_F(Export, FollowsTheEndingOfTheFileWhereItIsAPictures) {
   EXPECT_THAT(bytesOf(folder / "picture.SVG"), StartsWith("<?xml"));
   EXPECT_TRUE(exportTo(folder / "my.plot"));
   EXPECT_THAT(bytesOf(folder / "my.plot"), StartsWith("\x89PNG"));
+  EXPECT_TRUE(exportTo(folder / "plot"));
+  EXPECT_THAT(bytesOf(folder / "plot"), StartsWith("\x89PNG"));
+  EXPECT_TRUE(exportTo("here"));
+  EXPECT_THAT(bytesOf("here"), StartsWith("\x89PNG"));
 }
 
 TEST_F(Export, DrawsTheGraphsAsTheyAreInADocument) {
@@ -121,6 +125,8 @@ TEST_F(Export, IsBounded) {
   EXPECT_FALSE(isExported({"png", 16384, 8193, 1}));
   EXPECT_FALSE(isExported({"png", 8192, 4097, 2}));
   EXPECT_FALSE(isExported({"png", 99, 100, 1}));
+  EXPECT_FALSE(isExported({"png", 100, 0, 1}));
+  EXPECT_FALSE(isExported({"png", 100, 1, 0.25}));
 }
 
 TEST_F(Export, IsLookedAtBefore) {

@@ -30,5 +30,24 @@ TEST_F(SessionTools, IsDrawingWhileEventsRunInADrawingAndNotBehindIt) {
   EXPECT_FALSE(session.isDrawing());
 }
 
+TEST_F(SessionTools, EachArrowPansTheView) {
+  for (const PlotCommand arrow :
+       {PlotCommand::arriba, PlotCommand::abajo, PlotCommand::izquierda, PlotCommand::derecha}) {
+    const ViewSettings expected = zel::panned(session.view(), arrow);
+    session.execute(arrow);
+    EXPECT_EQ(session.view(), expected);
+  }
+}
+
+TEST_F(SessionTools, NoGraphIsChosenWithoutAPictureOrOutsideOfTheLetters) {
+  session.choose('{');
+  EXPECT_FALSE(session.activate('{'));
+  EXPECT_FALSE(session.activate('b'));
+  EXPECT_EQ(session.activeGraph(), 'a');
+  session.close();
+  session.choose('c');
+  EXPECT_EQ(session.activeGraph(), 'a');
+}
+
 }  // namespace
 }  // namespace zel::test

@@ -1,0 +1,92 @@
+// Want of memory in an export, in its preview and in the last session: it is told, and the files
+// that were there stay as they were.
+
+#include <new>
+
+#include <gmock/gmock.h>
+
+#include "app/last_session.h"
+#include "app/picture_export.h"
+#include "app/program_fixture.h"
+#include "failing_new.h"
+#include "files/document.h"
+#include "pictures/file_picture.h"
+#include "pictures/raster_picture.h"
+
+namespace zel::test {
+namespace {
+
+using ::testing::Contains;
+
+bool always(const StatusPanels&) { return true; }
+
+class PicturesInWantOfMemory : public ProgramTest {
+ protected:
+  PicturesInWantOfMemory() {
+    addFunction('a', "x^2");
+    choice.ending = "png";
+    choice.width = 200;
+    choice.height = 100;
+  }
+
+  TemporaryFolder folder;
+  OpenedView opened;
+  ExportChoice choice;
+};
+
+TEST_F(PicturesInWantOfMemory, AreNotMade) {
+  for (const char* ending : {"svg", "png", "pdf"}) {
+    auto file = makeFilePicture(ending, 200, 100);
+    ASSERT_NE(file, nullptr);
+    withFailingMemory(1, false, [&] { file = makeFilePicture(ending, 200, 100); });
+    EXPECT_EQ(file, nullptr) << ending;
+  }
+}
+
+TEST_F(PicturesInWantOfMemory, FailLikeADrawingInThePreview) {
+  RasterPicture picture(200, 100);
+  auto outcome = previewPicture(program, opened, choice, picture, always);
+  ASSERT_EQ(outcome, RedrawOutcome::drawn);
+  withFailingMemory(1, true,
+                    [&] { outcome = previewPicture(program, opened, choice, picture, always); });
+  EXPECT_EQ(outcome, RedrawOutcome::failed);
+}
+
+TEST_F(PicturesInWantOfMemory, AreToldAndLeaveTheOlderFile) {
+  const std::string path = folder / "a.png";
+  putBytes(path, "older");
+  services.files.paths = {path};
+  bool written = false;
+  const auto attempt = [&] {
+    try {
+      written = exportPicture(program, opened, choice, always);
+    } catch (const std::bad_alloc&) {  // of the recorders
+      written = false;
+    }
+  };
+  failEachAllocation(false, attempt, [&] {
+    EXPECT_EQ(bytesOf(path) == "older", !written);
+    services.files.paths = {path};
+  });
+  EXPECT_TRUE(written);
+  EXPECT_THAT(services.boxes.shown, Contains(attention("Valores demasiado grandes para operar.")));
+}
+
+TEST_F(PicturesInWantOfMemory, LeaveALastSessionThatCannotBeRead) {
+  const std::string path = folder / "session.zel";
+  const std::string bytes = documentText(MainView(), program.graphs);
+  putBytes(path, bytes);
+  LastSession last(folder.path());
+  MainView view;
+  GraphTable graphs;
+  std::string message;
+  bool recovered = true;
+  ASSERT_TRUE(last.isThere());
+  withFailingMemory(1, false, [&] { recovered = last.recover(view, graphs, message); });
+  EXPECT_FALSE(recovered);
+  EXPECT_FALSE(last.isThere());
+  EXPECT_EQ(bytesOf(path), bytes);
+}
+
+}  // namespace
+}  // namespace zel::test
