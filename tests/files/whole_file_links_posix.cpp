@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "child_posix.h"
+#include "faulty_calls_posix.h"
 #include "files/absolute_path.h"
 #include "files/text_file.h"
 #include "files/whole_file.h"
@@ -231,6 +232,20 @@ TEST_F(WholeFileOnPosix, GivesTheErrorOfTheCallThatFailed) {
   EXPECT_EQ(writeWholeFile(folder / std::string(300, 'n'), "x").error, ENAMETOOLONG);
   putBytes(path, "old");
   EXPECT_EQ(writeWholeFile(path + "/below", "x").error, ENOTDIR);
+}
+
+TEST_F(WholeFileOnPosix, WasThereWhicheverCallFailsAfterTheFirstLook) {
+  int failing = 1;
+  int calls = 0;
+  do {
+    putBytes(path, "old");
+    beginFaults({.first = ++failing, .error = EIO});
+    const WriteResult result = writeWholeFile(path, "new");
+    calls = endFaults();
+    EXPECT_TRUE(result.existed) << failing;
+    EXPECT_EQ(bytesOf(path), result.written ? "new" : "old") << failing;
+  } while (failing <= calls);
+  EXPECT_GT(calls, 10);
 }
 
 TEST_F(WholeFileOnPosix, GivesTheErrorOfAWriteBeyondTheLimitOfTheProcess) {
