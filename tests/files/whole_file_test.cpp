@@ -122,6 +122,7 @@ TEST_F(WholeFile, IsNotTakenForAnotherByAPathThatHoldsAZero) {
 
 TEST_F(WholeFile, IsReadUpToItsLongestLengthAndNotBeyond) {
   putBytes(path, "");
+  ASSERT_EQ(kMaxWholeFile, 268'435'456u);
   std::filesystem::resize_file(path, kMaxWholeFile + 1);
   EXPECT_EQ(readWholeFile(path), std::nullopt);
   std::filesystem::resize_file(path, kMaxWholeFile);
