@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 
 #include "app/last_session.h"
-#include "app/picture_export.h"
+#include "app/output/picture_export.h"
 #include "app/program_fixture.h"
 #include "failing_new.h"
 #include "files/document.h"
