@@ -17,6 +17,26 @@ std::string narrow(const wchar_t* name) {
   return text;
 }
 
+/// The names of a folder, one after the other.
+class Names {
+ public:
+  explicit Names(const std::wstring& folder)
+      : handle_(FindFirstFileW((folder + L"*").c_str(), &entry_)) {}
+  Names(const Names&) = delete;
+  Names& operator=(const Names&) = delete;
+  ~Names() {
+    if (handle_ != INVALID_HANDLE_VALUE) FindClose(handle_);
+  }
+
+  bool areThere() const { return handle_ != INVALID_HANDLE_VALUE; }
+  const wchar_t* name() const { return entry_.cFileName; }
+  bool goOn() { return FindNextFileW(handle_, &entry_) != 0; }
+
+ private:
+  WIN32_FIND_DATAW entry_{};
+  HANDLE handle_;
+};
+
 void removeUnlessHeld(const std::wstring& path) {
   const HANDLE handle = CreateFileW(path.c_str(), GENERIC_READ | DELETE, 0, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
@@ -38,16 +58,14 @@ void removeLeftovers(const std::filesystem::path& path) {
   const std::wstring& wide = path.native();
   const std::size_t name_begin = wide.find_last_of(L"\\/:") + 1;
   const std::wstring folder = wide.substr(0, name_begin);
-  WIN32_FIND_DATAW entry{};
-  const HANDLE names = FindFirstFileW((folder + L"*").c_str(), &entry);
-  if (names == INVALID_HANDLE_VALUE) return;
+  Names names(folder);
+  if (!names.areThere()) return;
   std::size_t count = 0;
   do {
-    const std::wstring name = entry.cFileName;
-    if (isTemporaryName(narrow(entry.cFileName)) && wide.substr(name_begin) != name)
+    const std::wstring name = names.name();
+    if (isTemporaryName(narrow(names.name())) && wide.substr(name_begin) != name)
       removeUnlessHeld(folder + name);
-  } while (++count < kMostNamesLookedAt && FindNextFileW(names, &entry) != 0);
-  FindClose(names);
+  } while (++count < kMostNamesLookedAt && names.goOn());
 }
 
 }  // namespace zel

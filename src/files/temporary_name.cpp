@@ -14,6 +14,7 @@ constexpr std::string_view kStart = ".zel-";
 constexpr std::string_view kEnd = ".tmp";
 constexpr std::string_view kDigits = "0123456789abcdef";
 constexpr std::size_t kRandomDigits = 16;
+static_assert(kStart.size() + kRandomDigits + kEnd.size() == kTemporaryNameSize);
 
 }  // namespace
 
@@ -30,7 +31,7 @@ std::string newTemporaryName() {
 }
 
 bool isTemporaryName(std::string_view name) {
-  if (name.size() != kStart.size() + kRandomDigits + kEnd.size()) return false;
+  if (name.size() != kTemporaryNameSize) return false;
   if (!name.starts_with(kStart) || !name.ends_with(kEnd)) return false;
   return std::ranges::all_of(name.substr(kStart.size(), kRandomDigits),
                              [](char c) { return kDigits.find(c) != std::string_view::npos; });

@@ -12,6 +12,7 @@
 #include "files/leftovers.h"
 #include "files/temporary_name.h"
 #include "files/whole_file.h"
+#include "files/wide_path.h"
 
 namespace zel {
 namespace {
@@ -51,24 +52,10 @@ class File {
   HANDLE handle_;
 };
 
-/// Empty for a text that is no path.
-std::wstring widePath(const std::string& path) {
-  constexpr std::size_t kLongestPath = 32767;
-  if (path.empty() || path.size() > 3 * kLongestPath || path.find('\0') != std::string::npos)
-    return {};
-  const int size = static_cast<int>(path.size());
-  const int wide_size =
-      MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, path.data(), size, nullptr, 0);
-  if (wide_size <= 0) return {};
-  std::wstring wide(static_cast<std::size_t>(wide_size), L'\0');
-  MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, path.data(), size, wide.data(), wide_size);
-  return wide;
-}
-
-HANDLE openFile(const std::wstring& path, DWORD access, DWORD disposition,
-                DWORD share = FILE_SHARE_READ, DWORD flags = 0) {
-  return CreateFileW(path.c_str(), access, share, nullptr, disposition,
-                     FILE_ATTRIBUTE_NORMAL | flags, nullptr);
+HANDLE openFile(const wchar_t* path, DWORD access, DWORD disposition, DWORD share = FILE_SHARE_READ,
+                DWORD flags = 0) {
+  return CreateFileW(path, access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL | flags,
+                     nullptr);
 }
 
 DWORD writeAll(HANDLE handle, std::string_view bytes) {
@@ -86,8 +73,8 @@ bool isMissing(DWORD error) {
   return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
-bool isThere(const std::wstring& path) {
-  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES || !isMissing(GetLastError());
+bool isThere(const wchar_t* path) {
+  return GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES || !isMissing(GetLastError());
 }
 
 /// The folder with its separator, or nothing for the current one.
@@ -97,11 +84,12 @@ std::wstring folderOf(const std::wstring& path) {
 
 /// Puts the file that an existing path leads to, links followed, into `target`: one on a disk that
 /// may be written.
-DWORD findTarget(const std::wstring& path, std::wstring& target) {
-  const File file(openFile(path, GENERIC_WRITE, OPEN_EXISTING, FILE_SHARE_READ | FILE_SHARE_WRITE));
+DWORD findTarget(const WidePath& path, std::wstring& target) {
+  const File file(
+      openFile(path.c_str(), GENERIC_WRITE, OPEN_EXISTING, FILE_SHARE_READ | FILE_SHARE_WRITE));
   if (!file) return GetLastError();
   if (GetFileType(file.handle()) != FILE_TYPE_DISK) return ERROR_NOT_SUPPORTED;
-  target = path;
+  target = path.c_str();
   const DWORD attributes = GetFileAttributesW(path.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return GetLastError();
   if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return ERROR_ACCESS_DENIED;  // to some it opens
@@ -137,7 +125,7 @@ class TemporaryFile {
   /// Another handle holds it, which lets it be moved.
   DWORD finish() {
     constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    hold_.reset(openFile(path_, GENERIC_READ, OPEN_EXISTING, kShareAll));
+    hold_.reset(openFile(path_.c_str(), GENERIC_READ, OPEN_EXISTING, kShareAll));
     if (!hold_) return GetLastError();
     const DWORD error = errorUnless(FlushFileBuffers(file_.handle()) != 0);
     const DWORD close_error = file_.close();
@@ -154,7 +142,7 @@ class TemporaryFile {
     const DWORD error =
         replaced ? NO_ERROR : errorUnless(MoveFileExW(path_.c_str(), path.c_str(), kMove) != 0);
     // A replacement that broke off may have taken the older file away: then this is the only one.
-    if (error == NO_ERROR || (existed && !isThere(path))) path_.clear();
+    if (error == NO_ERROR || (existed && !isThere(path.c_str()))) path_.clear();
     return error;
   }
 
@@ -166,7 +154,7 @@ class TemporaryFile {
       if (name.empty()) break;
       path_ = folder + std::wstring(name.begin(), name.end());
       const HANDLE handle =
-          openFile(path_, GENERIC_WRITE, CREATE_NEW, FILE_SHARE_READ | FILE_SHARE_DELETE);
+          openFile(path_.c_str(), GENERIC_WRITE, CREATE_NEW, FILE_SHARE_READ | FILE_SHARE_DELETE);
       error_ = errorUnless(handle != INVALID_HANDLE_VALUE);
       if (error_ == NO_ERROR) return handle;
       if (error_ != ERROR_FILE_EXISTS) break;
@@ -196,12 +184,12 @@ WriteResult resultOf(bool existed, DWORD error) {
 }
 
 WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
-  const std::wstring wide = widePath(path);
-  if (wide.empty()) return resultOf(false, ERROR_INVALID_NAME);
+  const WidePath wide(path);
+  if (wide.isEmpty()) return resultOf(false, ERROR_INVALID_NAME);
   const DWORD attributes = GetFileAttributesW(wide.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) {
     const DWORD error = GetLastError();
-    return resultOf(false, isMissing(error) ? replaceFile(wide, bytes, false) : error);
+    return resultOf(false, isMissing(error) ? replaceFile(wide.c_str(), bytes, false) : error);
   }
   if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return resultOf(false, ERROR_ACCESS_DENIED);
   std::wstring target;
@@ -229,22 +217,22 @@ std::optional<std::string> readAll(HANDLE handle) {
 }  // namespace
 
 bool fileExists(const std::string& path) {
-  const std::wstring wide = widePath(path);
-  return !wide.empty() && isThere(wide);
+  const WidePath wide(path);
+  return !wide.isEmpty() && isThere(wide.c_str());
 }
 
 bool createMissingFile(const std::string& path) {
-  const std::wstring wide = widePath(path);
-  if (wide.empty()) return false;
-  File file(
-      openFile(wide, GENERIC_WRITE, CREATE_NEW, FILE_SHARE_READ, FILE_FLAG_OPEN_REPARSE_POINT));
+  const WidePath wide(path);
+  if (wide.isEmpty()) return false;
+  File file(openFile(wide.c_str(), GENERIC_WRITE, CREATE_NEW, FILE_SHARE_READ,
+                     FILE_FLAG_OPEN_REPARSE_POINT));
   return file && file.close() == NO_ERROR;
 }
 
 void removeEmptyFile(const std::string& path) {
-  const std::wstring wide = widePath(path);
+  const WidePath wide(path);
   WIN32_FILE_ATTRIBUTE_DATA found{};
-  if (wide.empty() || GetFileAttributesExW(wide.c_str(), GetFileExInfoStandard, &found) == 0)
+  if (wide.isEmpty() || GetFileAttributesExW(wide.c_str(), GetFileExInfoStandard, &found) == 0)
     return;
   constexpr DWORD kNotRegular = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
   if ((found.dwFileAttributes & kNotRegular) == 0 && found.nFileSizeHigh == 0 &&
@@ -253,9 +241,9 @@ void removeEmptyFile(const std::string& path) {
 }
 
 std::optional<std::string> readWholeFile(const std::string& path) {
-  const std::wstring wide = widePath(path);
-  if (wide.empty()) return std::nullopt;
-  const File file(openFile(wide, GENERIC_READ, OPEN_EXISTING,
+  const WidePath wide(path);
+  if (wide.isEmpty()) return std::nullopt;
+  const File file(openFile(wide.c_str(), GENERIC_READ, OPEN_EXISTING,
                            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE));
   if (!file || GetFileType(file.handle()) != FILE_TYPE_DISK) return std::nullopt;
   return readAll(file.handle());

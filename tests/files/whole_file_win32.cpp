@@ -1,6 +1,7 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 
@@ -48,19 +49,47 @@ TEST_F(WholeFileOfWindows, LeavesAFileThatAnotherProgramKeepsForItself) {
   expectOnly("newer");
 }
 
-TEST_F(WholeFileOfWindows, ReachesPathsLongerThanTheSystemsOldBound) {
+/// The form of a whole path that no bound holds for.
+std::wstring unbounded(const std::string& path) {
+  return L"\\\\?\\" + pathOf(path).make_preferred().wstring();
+}
+
+/// A new folder, levels below another one, whose path has this many letters or one less.
+std::string deepFolder(const TemporaryFolder& folder, std::size_t size) {
+  constexpr std::size_t kLevel = 30;
   std::string deep = utf8Of(folder.path());
-  for (int i = 0; i < 12; ++i) deep += "/" + std::string(30, static_cast<char>('a' + i));
-  ASSERT_TRUE(std::filesystem::create_directories(pathOf("\\\\?\\" + [&] {
-    std::string native = deep;
-    for (char& c : native) c = c == '/' ? '\\' : c;
-    return native;
-  }())));
-  const std::string document = deep + "/é Ω.zel";
-  ASSERT_GT(document.size(), 300u);
-  EXPECT_EQ(writeWholeFile(document, "one"), (WriteResult{false, true}));
-  EXPECT_EQ(writeWholeFile(document, "two"), (WriteResult{true, true}));
-  EXPECT_EQ(readWholeFile(document), "two");
+  while (deep.size() + 1 < size) {
+    deep += "/" + std::string(std::min(kLevel, size - deep.size() - 1), 'a');
+    EXPECT_TRUE(CreateDirectoryW(unbounded(deep).c_str(), nullptr)) << deep;
+  }
+  return deep;
+}
+
+TEST_F(WholeFileOfWindows, ReachesPathsLongerThanTheSystemsOldBound) {
+  for (const std::size_t size : {228u, 240u, 250u, 257u, 400u, 2000u}) {
+    const TemporaryFolder around;
+    const std::string deep = deepFolder(around, size);
+    const std::string document = deep + "/é Ω.zel";
+    EXPECT_FALSE(fileExists(document));
+    EXPECT_EQ(writeWholeFile(document, "one"), (WriteResult{false, true})) << size;
+    EXPECT_EQ(writeWholeFile(document, "two"), (WriteResult{true, true})) << size;
+    EXPECT_TRUE(fileExists(document));
+    EXPECT_EQ(readWholeFile(document), "two");
+    const std::string empty = deep + "/empty";
+    EXPECT_TRUE(createMissingFile(empty));
+    removeEmptyFile(empty);
+    EXPECT_FALSE(fileExists(empty));
+    const std::string left = deep + "/.zel-0123456789abcdef.tmp";
+    EXPECT_TRUE(createMissingFile(left));
+    EXPECT_TRUE(writeWholeFile(document, "three").written);
+    EXPECT_FALSE(fileExists(left));
+  }
+}
+
+TEST_F(WholeFileOfWindows, IsTriedWhereTheOldBoundHolds) {
+  const std::string deep = deepFolder(folder, 300);
+  EXPECT_EQ(GetFileAttributesW(pathOf(deep).c_str()), INVALID_FILE_ATTRIBUTES);
+  EXPECT_NE(GetFileAttributesW(unbounded(deep).c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
 }  // namespace
