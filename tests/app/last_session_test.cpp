@@ -126,10 +126,11 @@ TEST_F(SessionBefore, IsWrittenOnceForTheSameDeclarations) {
 }
 
 TEST_F(SessionBefore, IsForTheUserAlone) {
-#ifndef _WIN32
+#ifdef _WIN32
+  GTEST_SKIP() << "the folder takes its rights from the user's own, in which it is made";
+#endif
   leave("x");
   EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
-#endif
 }
 
 TEST_F(SessionBefore, CostsNothingWhenItCannotBeRead) {

@@ -159,10 +159,17 @@ TEST(Model, AgreesWithTheEngineToTheLastBitWhereNoFunctionIsApproximated) {
   EXPECT_GT(tally.errors, tally.compared / 5);
 }
 
-/// Two libraries of elementary functions differ now and then in the last of the 15 digits.
+/// Two libraries of elementary functions differ now and then in the last of the 15 digits; the one
+/// of Windows is also rough at angles of many turns and in powers with whole exponents.
+#ifdef _WIN32
+constexpr std::size_t kOneIn = 250;
+#else
+constexpr std::size_t kOneIn = 500;
+#endif
+
 TEST(Model, AgreesWithTheEngineOnAllFunctionsButForARareLastDigit) {
   const Tally tally = compareSessions(Vocabulary::all);
-  EXPECT_LE(tally.differences, tally.compared / 500) << tally.first_difference;
+  EXPECT_LE(tally.differences, tally.compared / kOneIn) << tally.first_difference;
   EXPECT_GT(tally.values, tally.compared / 5);
   EXPECT_GT(tally.errors, tally.compared / 5);
 }

@@ -111,7 +111,10 @@ TEST_F(RenderFolder, RefusesTwoPicturesOfOneNameBeforeAnyIsDrawn) {
 TEST_F(RenderFolder, RefusesTwoPicturesThatALinkMakesOne) {
   std::filesystem::create_directory(path("linked"));
   write("linked/two.png", "");
-  std::filesystem::create_symlink("two.png", path("linked/one.png"));
+  std::error_code error;
+  std::filesystem::create_symlink("two.png", path("linked/one.png"), error);
+  if (error == std::errc::function_not_supported) GTEST_SKIP() << "no links can be made here";
+  ASSERT_FALSE(error);
   EXPECT_EQ(render({one, two, "-o", path("linked")}).status, 2);
   EXPECT_EQ(bytesOf(path("linked/two.png")), "");
 }

@@ -317,6 +317,9 @@ TEST_F(MainWindow, ReportsAScaleOfBlanks) {
 }
 
 TEST_F(MainWindow, OpensADocumentWhoseNameIsNoUtf8AndSavesItThere) {
+#ifdef _WIN32
+  GTEST_SKIP() << "names are made of letters there, not of bytes";
+#endif
   const std::string name = "n\xFF.zel";
   putBytes(name, bytesOf(std::string(ZEL_EXAMPLES_DIR) + "/waves.zel"));
   window.openCommandLine(name);
