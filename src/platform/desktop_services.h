@@ -21,7 +21,7 @@ struct DesktopServices {
 DesktopServices makeDesktopServices(const std::string& program_path);
 
 /// The folder, not always there yet, in which an installed program keeps what is the user's own:
-/// "zel" among the user's configurations. UTF-8.
+/// "zel" among the user's configurations. Empty where the user has none. UTF-8.
 std::string userFolder();
 
 /// The folder, not always there yet, of what the program itself remembers of the user's work: "zel"

@@ -18,7 +18,7 @@ class Installation : public ::testing::Test {
 
   /// Names in the file system may reach the temporary folder by another way.
   static bool isCurrent(const std::string& folder) {
-    return fs::equivalent(fs::current_path(), folder);
+    return fs::equivalent(fs::current_path(), pathOf(folder));
   }
 
   TemporaryFolder folder_;
@@ -56,7 +56,12 @@ TEST_F(Installation, StaysWhereItIsWhenAFolderCannotBeMade) {
   putBytes(folder_ / "file", "");
   EXPECT_FALSE(enterFolder(folder_ / "file/zel"));
   EXPECT_FALSE(enterFolder(folder_ / "file"));
-  EXPECT_TRUE(isCurrent(folder_.path().string()));
+  EXPECT_TRUE(isCurrent(utf8Of(folder_.path())));
+}
+
+TEST_F(Installation, StaysWhereItIsForAUserWithoutAFolder) {
+  EXPECT_FALSE(enterFolder(""));
+  EXPECT_TRUE(isCurrent(utf8Of(folder_.path())));
 }
 
 TEST_F(Installation, TakesARelativePathFromWhereItWasSaid) {

@@ -20,19 +20,23 @@ namespace {
 
 /// A folder that the environment names; empty where it names none.
 std::string folderOf(const wchar_t* variable) {
-  wchar_t folder[MAX_PATH] = L"";
-  const DWORD length = GetEnvironmentVariableW(variable, folder, MAX_PATH);
-  return fromWide({folder, length < MAX_PATH ? length : 0});
+  const DWORD size = GetEnvironmentVariableW(variable, nullptr, 0);
+  std::wstring folder(size, L'\0');
+  const DWORD length = GetEnvironmentVariableW(variable, folder.data(), size);
+  return fromWide({folder.data(), length < size ? length : 0});
+}
+
+/// The program's own folder in one that the environment names.
+std::string ownFolderIn(const wchar_t* variable) {
+  const std::string folder = folderOf(variable);
+  return folder.empty() ? folder : folder + "\\zel";
 }
 
 }  // namespace
 
-std::string userFolder() { return folderOf(L"APPDATA") + "\\zel"; }
+std::string userFolder() { return ownFolderIn(L"APPDATA"); }
 
-std::string stateFolder() {
-  const std::string folder = folderOf(L"LOCALAPPDATA");
-  return folder.empty() ? folder : folder + "\\zel";
-}
+std::string stateFolder() { return ownFolderIn(L"LOCALAPPDATA"); }
 
 ProgramPlace programPlace(const std::string& program_path) {
   constexpr std::string_view kEnding = ".exe";

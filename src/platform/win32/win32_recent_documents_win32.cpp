@@ -33,11 +33,12 @@ std::wstring recentFolder() {
              : L"";
 }
 
-/// The links to documents, the one written last first.
+/// The links, the one written last first. Where endings are hidden, the name of a link does not say
+/// what it leads to.
 std::vector<std::wstring> links(const std::wstring& folder) {
   std::vector<std::pair<std::uint64_t, std::wstring>> found;
   WIN32_FIND_DATAW file;
-  const HANDLE search = FindFirstFileW((folder + L"\\*.zel.lnk").c_str(), &file);
+  const HANDLE search = FindFirstFileW((folder + L"\\*.lnk").c_str(), &file);
   if (search == INVALID_HANDLE_VALUE) return {};
   do {
     const FILETIME time = file.ftLastWriteTime;
