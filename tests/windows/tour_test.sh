@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # The program as its user meets it, under Wine, in both languages: the first start, a function
 # declared, plotted, traced and evaluated, help, a page printed, the document saved under a name
-# that no code page has, and opened again from the command line. TOUR_PICTURES=FOLDER keeps pictures
-# of the screens.
+# that no code page has, and opened again from the command line; last, all kinds of graph. With
+# TOUR_PICTURES=FOLDER pictures of the screens are kept, and those of README (windows_*.png).
 set -uo pipefail
 # shellcheck source-path=SCRIPTDIR
 . "$(dirname "$0")/wine.sh"
@@ -22,6 +22,12 @@ children+=("$print_server")
 export CUPS_SERVER=$work/printer/socket
 
 look() { import -window root "$pictures/$code-$1.png"; }
+# The window that has the focus, with its frame, in few colours.
+take() {
+  import -frame -window "$(xdotool getactivewindow)" "$work/window.png"
+  convert "$work/window.png" +dither -colors 256 -strip -define png:compression-level=9 \
+    "$pictures/windows_${code,,}.png"
+}
 # changes FROM TO COMPLAINT: waits until the screen is another one than in picture FROM, and keeps it.
 changes() { seconds 30 differs "$1" "$2" || fail "$3"; }
 differs() {
@@ -156,6 +162,21 @@ tour() {
   keys Return
   window "ZEL - $(basename "$saved")"
   look opened
+  keys alt+F4
+  ended "$program"
+
+  start "$root/examples/all_kinds.zel"
+  window ZEL
+  keys Return
+  window 'ZEL - all_kinds.zel'
+  click 90 40
+  window "$plot"
+  seconds 30 colourful plotted || fail "nothing is drawn"
+  click -250 -200
+  changes plotted walked "a click does not trace"
+  take
+  keys alt+F4
+  window 'ZEL - all_kinds.zel'
   keys alt+F4
   ended "$program"
 }
