@@ -11,6 +11,11 @@
 #include "platform/widgets/widget_message_boxes.h"
 
 namespace zel {
+namespace {
+
+constexpr int kBesideTitle = 100;  // pixels: an icon and the buttons of a frame
+
+}  // namespace
 
 std::optional<std::string> WidgetInputBoxes::ask(const std::string& prompt,
                                                  const std::string& title) {
@@ -22,8 +27,11 @@ std::optional<std::string> WidgetInputBoxes::ask(const std::string& prompt,
   box->setLabelText(QString::fromStdString(boxText(prompt)));
   box->setOkButtonText(inLanguage("Aceptar", "OK"));
   box->setCancelButtonText(inLanguage("Cancelar", "Cancel"));
-  for (QLineEdit* const line : box->findChildren<QLineEdit*>())
+  const int title_width = box->fontMetrics().horizontalAdvance(box->windowTitle());
+  for (QLineEdit* const line : box->findChildren<QLineEdit*>()) {
     line->setValidator(new OneLine(line));
+    line->setMinimumWidth(title_width + kBesideTitle);
+  }
   const bool accepted = box->exec() == QDialog::Accepted;
   std::optional<std::string> typed;
   if (box && accepted) typed = box->textValue().toStdString();

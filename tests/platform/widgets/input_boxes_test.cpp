@@ -53,6 +53,15 @@ TEST_F(InputBoxesOfWidgets, GiveWhatWasTypedAsItIs) {
   EXPECT_EQ(inputs.ask("x", "t"), " 2,5 ");
 }
 
+TEST_F(InputBoxesOfWidgets, HaveRoomForTheirTitles) {
+  const ModalDriver<QInputDialog> driver({[](QInputDialog& box) {
+    const int title_width = box.fontMetrics().horizontalAdvance(box.windowTitle());
+    EXPECT_GE(field(box).width(), title_width + 100);
+    box.reject();
+  }});
+  inputs.ask("x", "Cálculo de un valor específico");
+}
+
 TEST_F(InputBoxesOfWidgets, DropControlCharactersFromWhatIsPasted) {
   QApplication::clipboard()->setText(QStringLiteral("\r\n1\t\r\n \r\n2\u0085") +
                                      QChar(QChar::LineSeparator) + "3\n");
