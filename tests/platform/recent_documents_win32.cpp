@@ -74,8 +74,8 @@ class RecentDocumentsOfWindows : public ::testing::Test {
 
 TEST_F(RecentDocumentsOfWindows, AreTheOnesThatTheLinksLeadToTheLastOneFirst) {
   addDocument("older.zel", "zel-test older.zel.lnk", Minutes(2));
-  addDocument("é Ω.zel", "zel-test newer.zel.lnk", Minutes(1));
-  EXPECT_EQ(listed(), (Names{"é Ω.zel", "older.zel"}));
+  addDocument("newer.zel", "zel-test newer.zel.lnk", Minutes(1));
+  EXPECT_EQ(listed(), (Names{"newer.zel", "older.zel"}));
 }
 
 /// Where endings are hidden, the shell leaves them out of the links' names.

@@ -16,10 +16,13 @@ drive=$WINEPREFIX/drive_c
 
 # value KEY NAME: a text of the registry; /ve for the key's own.
 value() { wine reg query "$1" ${2:+/v} "${2:-/ve}" | tr -d '\r' | sed -n 's/.*REG_[A-Z]* *//p'; }
-files() { (cd "$drive" && find . -type f | grep -v -e '\.tmp$' -e '/Temp/' | LC_ALL=C sort); }
+# The shell's own list of recent documents belongs to the user.
+files() {
+  (cd "$drive" && find . -type f | grep -v -e '\.tmp$' -e '/Temp/' -e '/Recent/' | LC_ALL=C sort)
+}
 registry_keys() {
   wine reg export "$1" "Z:${work//\//\\}\\$2.reg" /y >/dev/null
-  iconv -f utf-16 -t utf-8 "$work/$2.reg" | tr -d '\r' | grep '^\[' | grep -v '[\]Wine[\]'
+  iconv -f utf-16 -t utf-8 "$work/$2.reg" | tr -d '\r' | grep '^\[' | grep -v -e '[\]Wine[\]' -e '[\]RecentDocs'
 }
 expect() { [[ $2 == "$3" ]] || complain "$1: expected '$3', found '$2'"; }
 

@@ -6,6 +6,13 @@ set -uo pipefail
 . "$(dirname "$0")/wine.sh"
 [[ -x $linux_path ]] || skip "there is no zel-cli of this system in build/release"
 
+# Wine's own services start with its first program, and complain where that one does: here one that
+# waits for the end of the test.
+mkfifo "$work/waiting"
+"$root/scripts/wine.sh" "$cli_path" evaluate --batch <>"$work/waiting" >"$work/services" 2>&1 &
+waiting=$!
+trap 'kill "$waiting"; wait; rm -rf "$work"' EXIT
+
 # both NAME INPUT ARGUMENT...: the same command by both programs, with their outputs in files.
 both() {
   local name=$1 input=$2
