@@ -52,7 +52,7 @@ double expectedValue(std::string text) {
   return std::strtod(text.c_str(), nullptr);
 }
 
-void compare(double value) {
+void compareTexts(double value) {
   const std::string text = writeNumber(value).str();
   ASSERT_EQ(text, expectedText(value)) << std::hexfloat << value;
   ASSERT_TRUE(isNumeric(text)) << text;
@@ -67,10 +67,10 @@ void compare(double value) {
   }
 }
 
-void compareWithNeighbours(double value) {
-  compare(value);
-  compare(std::nextafter(value, -DBL_MAX));
-  compare(std::nextafter(value, DBL_MAX));
+void compareTextsAround(double value) {
+  compareTexts(value);
+  compareTexts(std::nextafter(value, -DBL_MAX));
+  compareTexts(std::nextafter(value, DBL_MAX));
 }
 
 class NumberTextOracle : public ::testing::TestWithParam<const char*> {
@@ -87,7 +87,7 @@ class NumberTextOracle : public ::testing::TestWithParam<const char*> {
 TEST_P(NumberTextOracle, AgreesOnRandomBitPatterns) {
   for (int i = 0; i < 200'000; ++i) {
     const double value = std::bit_cast<double>(random());
-    if (std::isfinite(value)) compare(value);
+    if (std::isfinite(value)) compareTexts(value);
     if (HasFatalFailure()) return;
   }
 }
@@ -96,14 +96,14 @@ TEST_P(NumberTextOracle, AgreesOnNumbersOfEverydaySize) {
   std::uniform_real_distribution<double> mantissa(-10, 10);
   std::uniform_int_distribution<int> exponent(-8, 18);
   for (int i = 0; i < 200'000; ++i) {
-    compare(mantissa(random) * std::pow(10, exponent(random)));
+    compareTexts(mantissa(random) * std::pow(10, exponent(random)));
     if (HasFatalFailure()) return;
   }
 }
 
 TEST_P(NumberTextOracle, AgreesOnSubnormals) {
   for (int i = 0; i < 20'000; ++i) {
-    compare(std::bit_cast<double>(random() >> (12 + i % 52)));
+    compareTexts(std::bit_cast<double>(random() >> (12 + i % 52)));
     if (HasFatalFailure()) return;
   }
 }
@@ -113,7 +113,7 @@ TEST_P(NumberTextOracle, AgreesOnExactTies) {
   for (int i = 0; i < 20'000; ++i) {
     const auto whole = static_cast<double>(fifteen_digits(random));
     for (const double tie : {whole + 0.5, whole / 16 + 0.5 / 16, 10 * whole + 5}) {
-      compareWithNeighbours(tie);
+      compareTextsAround(tie);
       if (HasFatalFailure()) return;
     }
   }
@@ -122,19 +122,19 @@ TEST_P(NumberTextOracle, AgreesOnExactTies) {
 TEST_P(NumberTextOracle, AgreesAtThePowersOfTenAndOfTwo) {
   for (int exponent = -323; exponent <= 308; ++exponent) {
     const double power = expectedValue("1e" + std::to_string(exponent));
-    compareWithNeighbours(power);
-    compareWithNeighbours(-power);
+    compareTextsAround(power);
+    compareTextsAround(-power);
   }
   for (int exponent = -1074; exponent <= 1023; ++exponent)
-    compareWithNeighbours(std::ldexp(1, exponent));
+    compareTextsAround(std::ldexp(1, exponent));
 }
 
 TEST_P(NumberTextOracle, AgreesAtTheEndsOfTheRange) {
-  compare(0);
-  compare(DBL_MAX);
-  compare(-DBL_MAX);
-  compareWithNeighbours(DBL_MIN);
-  compare(std::numeric_limits<double>::denorm_min());
+  compareTexts(0);
+  compareTexts(DBL_MAX);
+  compareTexts(-DBL_MAX);
+  compareTextsAround(DBL_MIN);
+  compareTexts(std::numeric_limits<double>::denorm_min());
 }
 
 TEST_P(NumberTextOracle, ReadsLikeTheLibraryWhatUsersType) {
