@@ -231,7 +231,7 @@ class Monkey : public WindowTest {
 
 TEST_F(Monkey, CannotBreakTheProgram) {
   start(StartStep::first_start);
-  const unsigned long events = setting("ZEL_MONKEY_EVENTS", 40000);
+  const unsigned long events = setting("ZEL_MONKEY_EVENTS", 10000);
   while (events_ < events && rounds_ < 10 * events && !HasFailure()) actOutside();
   std::cout << "monkey: " << events_ << " events, " << inside_events_
             << " of them inside of others\n"
