@@ -76,7 +76,7 @@ TEST_F(PicturesInWantOfMemory, LeaveALastSessionThatCannotBeRead) {
   const std::string path = folder / "session.zel";
   const std::string bytes = documentText(MainView(), program.graphs);
   putBytes(path, bytes);
-  LastSession last(folder.path());
+  LastSession last(folder.path().string());
   MainView view;
   GraphTable graphs;
   std::string message;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <optional>
@@ -13,8 +14,10 @@ namespace zel::test {
 /// of numbers only; an infinity where it is too large. Nothing where the text is no number.
 inline std::optional<double> plainNumber(std::string_view text) {
   if (text.find_first_not_of("0123456789.,eE+-") != std::string_view::npos) return std::nullopt;
+  // The toolkit sets the C library's locale.
+  const char point = *std::localeconv()->decimal_point;
   std::string pointed(text);
-  std::ranges::replace(pointed, ',', '.');
+  std::ranges::replace_if(pointed, [](char c) { return c == ',' || c == '.'; }, point);
   char* end = nullptr;
   const double value = std::strtod(pointed.c_str(), &end);
   if (end == pointed.c_str() || *end != '\0') return std::nullopt;
