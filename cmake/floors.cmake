@@ -21,12 +21,17 @@ endfunction()
 # zel_library(TARGET FOLDER [LIBRARY...])
 # A floor: a static library of a folder's sources (but a main.cpp), which hands on what it stands on.
 # A folder without sources is still a target, so that what stands on it can name it.
+# What has a toolkit's or a library's headers is compiled many sources at once; the rest source by
+# source, each of which includes its own header first and so shows that it compiles alone.
 function(zel_library target folder)
   zel_glob(sources "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   if(sources)
     add_library(${target} STATIC ${sources})
     set(scope PUBLIC)
+    if(folder MATCHES "^(platform|forms|cli)")
+      set_target_properties(${target} PROPERTIES UNITY_BUILD ${ZEL_UNITY})
+    endif()
   else()
     add_library(${target} INTERFACE)
     set(scope INTERFACE)

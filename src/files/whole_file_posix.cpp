@@ -125,8 +125,8 @@ class TemporaryFile {
   int hide() {
     struct stat made {};
     if (::fstat(number(), &made) != 0) return errno;
-    constexpr mode_t kPermissions = 07777;
-    if (::fchmod(number(), kHiddenMode) == 0) mode_ = made.st_mode & kPermissions;
+    constexpr mode_t kPermissionBits = 07777;
+    if (::fchmod(number(), kHiddenMode) == 0) mode_ = made.st_mode & kPermissionBits;
     return 0;
   }
 

@@ -48,9 +48,9 @@ std::uint32_t colours(std::uint32_t pixel) {
 }
 
 /// Paper mostly, of which this many pixels are seen at a look.
-constexpr std::size_t kAtOnce = 8;
-constexpr std::array<std::uint32_t, kAtOnce> kPaper = [] {
-  std::array<std::uint32_t, kAtOnce> pixels{};
+constexpr std::size_t kPixelsAtOnce = 8;
+constexpr std::array<std::uint32_t, kPixelsAtOnce> kPaper = [] {
+  std::array<std::uint32_t, kPixelsAtOnce> pixels{};
   pixels.fill(0xFFFFFFFF);
   return pixels;
 }();
@@ -68,12 +68,12 @@ void writeColours(const std::uint32_t* pixels, std::size_t count, std::uint8_t* 
 void writeRow(std::span<const std::uint32_t> pixels, std::uint8_t* row) {
   *row = 0;
   std::uint8_t* bytes = row + 1;
-  for (; pixels.size() >= kAtOnce; pixels = pixels.subspan(kAtOnce)) {
+  for (; pixels.size() >= kPixelsAtOnce; pixels = pixels.subspan(kPixelsAtOnce)) {
     if (std::memcmp(pixels.data(), kPaper.data(), sizeof kPaper) == 0)
-      std::memset(bytes, 0xFF, kBytesPerPixel * kAtOnce);
+      std::memset(bytes, 0xFF, kBytesPerPixel * kPixelsAtOnce);
     else
-      writeColours(pixels.data(), kAtOnce, bytes);
-    bytes += kBytesPerPixel * kAtOnce;
+      writeColours(pixels.data(), kPixelsAtOnce, bytes);
+    bytes += kBytesPerPixel * kPixelsAtOnce;
   }
   writeColours(pixels.data(), pixels.size(), bytes);
 }

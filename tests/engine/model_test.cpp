@@ -42,7 +42,7 @@ struct Tally {
   }
 };
 
-std::string textOf(double value) {
+std::string exactTextOf(double value) {
   char text[40];
   std::snprintf(text, sizeof text, "= %.17g", value + 0.0);
   return text;
@@ -90,8 +90,8 @@ class Encounter {
     double value = 0;
     std::string message;
     const bool defined = engine_.Evaluate(x, value, code, message);
-    tally_.compare(defined ? textOf(value) : "! " + message, model_.evaluate(x, code),
-                   code + " at " + textOf(x));
+    tally_.compare(defined ? exactTextOf(value) : "! " + message, model_.evaluate(x, code),
+                   code + " at " + exactTextOf(x));
   }
 
   void sweep(const std::string& code) {
@@ -121,8 +121,8 @@ class Encounter {
   void compareSample(double value, double x, const std::string& code, const char* what) {
     std::string expected = model_.evaluate(x, code);
     if (expected.front() == '!') expected = "!";
-    tally_.compare(std::isnan(value) ? "!" : textOf(value), expected,
-                   what + code + " at " + textOf(x));
+    tally_.compare(std::isnan(value) ? "!" : exactTextOf(value), expected,
+                   what + code + " at " + exactTextOf(x));
   }
 
   double finite() {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "graphs/parameters_of.h"
+
 namespace zel::test {
 namespace {
 
@@ -14,12 +16,6 @@ void expectKind(char letter, std::string_view name, bool two_branches, std::stri
   EXPECT_EQ(kind->two_branches, two_branches);
   EXPECT_EQ(kind->template1, template1);
   EXPECT_EQ(kind->template2, template2);
-}
-
-Parameters parametersOf(std::initializer_list<std::pair<const char*, const char*>> pairs) {
-  Parameters parameters;
-  for (const auto& [key, value] : pairs) parameters.Add(key, value);
-  return parameters;
 }
 
 TEST(Kinds, AreSevenWithTheirNamesAndTemplates) {

@@ -1,20 +1,19 @@
 #include <gtest/gtest.h>
 
 #include "graphs/graph_table.h"
+#include "graphs/parameters_of.h"
 
 namespace zel::test {
 namespace {
 
-std::shared_ptr<Parameters> parametersOf(
+std::shared_ptr<Parameters> shared(
     std::initializer_list<std::pair<const char*, const char*>> pairs) {
-  auto parameters = std::make_shared<Parameters>();
-  for (const auto& [key, value] : pairs) parameters->Add(key, value);
-  return parameters;
+  return std::make_shared<Parameters>(parametersOf(pairs));
 }
 
 TEST(RebuildGraph, StoresAGraphInUse) {
   GraphTable table;
-  EXPECT_TRUE(table.rebuildGraph('c', "x^2", "", 16711680, 'F', parametersOf({{"key", "value"}})));
+  EXPECT_TRUE(table.rebuildGraph('c', "x^2", "", 16711680, 'F', shared({{"key", "value"}})));
   const auto def = table.graph('c');
   EXPECT_TRUE(def->defined);
   EXPECT_EQ(def->nombre, 'c');
@@ -45,14 +44,14 @@ TEST(RebuildGraph, TakesTheUpperBranchOfAConicAsItsCode) {
   GraphTable table;
   for (const char tipo : std::string("CEH")) {
     table.rebuildGraph('a', "a(0;0;1)", "ignored", 0, tipo,
-                       parametersOf({{"codigo1", "upper"}, {"codigo2", "lower"}}));
+                       shared({{"codigo1", "upper"}, {"codigo2", "lower"}}));
     EXPECT_EQ(table.codeOf('a'), "upper") << tipo;
   }
 }
 
 TEST(RebuildGraph, CompilesBothFormulasOfAParametricCurveIntoItsParameters) {
   GraphTable table;
-  const auto parameters = parametersOf({{"ecuacion_xt", "Cos(t)"}, {"ecuacion_yt", "Sen(t)"}});
+  const auto parameters = shared({{"ecuacion_xt", "Cos(t)"}, {"ecuacion_yt", "Sen(t)"}});
   table.rebuildGraph('a', "[X(t)=Cos(t);Y(t)=Sen(t)]", "ignored", 0, 'T', parameters);
   EXPECT_EQ(table.codeOf('a'), "");
   EXPECT_EQ(parameters->keys(),
@@ -64,7 +63,7 @@ TEST(RebuildGraph, CompilesBothFormulasOfAParametricCurveIntoItsParameters) {
 TEST(RebuildGraph, RecomputesTheCodesOfAParametricCurveInTheirPlaces) {
   GraphTable table;
   const auto parameters =
-      parametersOf({{"codigo_yt", "stale"}, {"ecuacion_xt", "t"}, {"codigo_xt", "stale"}});
+      shared({{"codigo_yt", "stale"}, {"ecuacion_xt", "t"}, {"codigo_xt", "stale"}});
   table.rebuildGraph('a', "", "", 0, 'T', parameters);
   EXPECT_EQ(parameters->keys(),
             (std::vector<std::string>{"codigo_yt", "ecuacion_xt", "codigo_xt"}));

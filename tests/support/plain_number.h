@@ -17,7 +17,8 @@ inline std::optional<double> plainNumber(std::string_view text) {
   // The toolkit sets the C library's locale.
   const char point = *std::localeconv()->decimal_point;
   std::string pointed(text);
-  std::ranges::replace_if(pointed, [](char c) { return c == ',' || c == '.'; }, point);
+  std::ranges::replace_if(
+      pointed, [](char c) { return c == ',' || c == '.'; }, point);
   char* end = nullptr;
   const double value = std::strtod(pointed.c_str(), &end);
   if (end == pointed.c_str() || *end != '\0') return std::nullopt;
