@@ -173,8 +173,8 @@ TEST(DecadeGuess, StaysWhereItIsForAValueOfNoExactDecade) {
   }
 }
 
-// The program takes this way only where the processor has the instruction; a C library without it may
-// be less exact.
+// The program takes this way only where the processor has the instruction; a C library without it
+// may be less exact.
 TEST_F(Rounding, IsThatOfTheTextInADecadeThatWasGuessed) {
   const volatile double above = 1 + 0x1p-52;  // the compiler would know the exact result
   if (std::fma(0x1p-53, above, 1.0) != 1 + 0x1p-52) GTEST_SKIP() << "std::fma rounds twice here";
