@@ -1,5 +1,6 @@
 // Two lines: the language and whether deletions are confirmed. The first is taken even when the
-// second is missing, which is damage all the same.
+// second is missing, which is damage all the same. Of a long line only the beginning is copied,
+// which needs no memory: there may be none left.
 
 #include "files/config.h"
 
@@ -17,12 +18,14 @@ namespace {
 
 /// The first characters, which are bytes in the code page of the file.
 std::string firstCharacters(std::string_view text, std::size_t count) {
-  return fromCodePage(toCodePage(text).substr(0, count));
+  constexpr std::size_t kLongestCharacter = 3;
+  return fromCodePage(toCodePage(text.substr(0, count * kLongestCharacter)).substr(0, count));
 }
 
 bool readBoolean(std::string_view text) {
-  const std::string word = toUpperAscii(trimBlanks(text));
-  return word == "VERDADERO" || word == "TRUE";
+  constexpr std::string_view kSpanish = "VERDADERO";
+  const std::string word = toUpperAscii(trimBlanks(text).substr(0, kSpanish.size() + 1));
+  return word == kSpanish || word == "TRUE";
 }
 
 std::string_view booleanText(bool value) {

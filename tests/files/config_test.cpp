@@ -44,6 +44,11 @@ TEST_F(Config, CreatesTheFileEmptyAtTheFirstStart) {
   EXPECT_EQ(bytesOf(folder / "config.ini"), "");
 }
 
+TEST_F(Config, AsksForNoConfirmationUntilItIsSet) {
+  EXPECT_EQ(readConfig(path, configuration), ConfigRead::missing);
+  EXPECT_FALSE(configuration.confirm_deletion);
+}
+
 TEST_F(Config, IsDamagedAtTheStartAfterAFirstOneThatWasBrokenOff) {
   EXPECT_EQ(readConfig(path, configuration), ConfigRead::missing);
   EXPECT_EQ(readConfig(path, configuration), ConfigRead::damaged);
@@ -102,7 +107,7 @@ TEST_F(Config, TakesTheTwoWordsInAnyCaseAndWithBlanksAround) {
 
 TEST_F(Config, TakesAnythingElseAsNo) {
   for (const char* const line :
-       {"", "Falso", "False", "1", "-1", "Si", "Verdad", "\tTrue", "True."}) {
+       {"", "Falso", "False", "1", "-1", "Si", "Verdad", "Verdaderos", "\tTrue", "True."}) {
     configuration.confirm_deletion = true;
     EXPECT_EQ(read(std::string("ES\r\n") + line), ConfigRead::read);
     EXPECT_FALSE(configuration.confirm_deletion) << line;
