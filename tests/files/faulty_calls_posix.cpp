@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <string>
 
 #include <dirent.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,15 +19,32 @@ bool is_counting = false;
 int calls = 0;
 
 /// Counts a call, and tells whether it fails; errno is set then.
-bool isFaulty() {
-  if (!is_counting) return false;
+bool isFaulty(std::string_view name) {
+  if (!is_counting || (!fault.only.empty() && fault.only != name)) return false;
   ++calls;
   const bool is_hit =
       fault.first != 0 && (fault.lasts ? calls >= fault.first : calls == fault.first);
   if (!is_hit) return false;
+  if (fault.event) {
+    is_counting = false;
+    fault.event();
+    is_counting = true;
+    return false;
+  }
   if (fault.error == 0) ::kill(::getpid(), SIGKILL);
   errno = fault.error;
   return true;
+}
+
+bool hasAnswer(std::string_view name) {
+  return is_counting && fault.only == name && !fault.answer.empty();
+}
+
+/// Without room it is the size that is asked for.
+ssize_t answer(void* bytes, size_t size) {
+  const size_t given =
+      size == 0 ? fault.answer.size() : fault.answer.copy(static_cast<char*>(bytes), size);
+  return static_cast<ssize_t>(given);
 }
 
 }  // namespace
@@ -43,13 +62,30 @@ int endFaults() {
   return calls;
 }
 
+void atEachCall(Fault fault, const std::function<void()>& prepare,
+                const std::function<void()>& attempt, const std::function<void()>& look) {
+  int made = 0;
+  do {
+    ++fault.first;
+    SCOPED_TRACE("call " + std::to_string(fault.first));
+    prepare();
+    beginFaults(fault);
+    attempt();
+    made = endFaults();
+    look();
+  } while (made >= fault.first && !::testing::Test::HasFailure());
+  EXPECT_GT(fault.first, 1) << "there is no call";
+}
+
 }  // namespace zel::test
 
 // Each as the system declares it, `failed` being what it returns then.
 #define ZEL_CAUGHT(result, name, failed, parameters, arguments)        \
   extern "C" result real_##name parameters __asm__("__real_" #name);   \
   extern "C" result caught_##name parameters __asm__("__wrap_" #name); \
-  extern "C" result caught_##name parameters { return isFaulty() ? failed : real_##name arguments; }
+  extern "C" result caught_##name parameters {                         \
+    return isFaulty(#name) ? failed : real_##name arguments;           \
+  }
 
 ZEL_CAUGHT(int, open, -1, (const char* path, int flags, mode_t mode), (path, flags, mode))
 ZEL_CAUGHT(int, openat, -1, (int folder, const char* path, int flags, mode_t mode),
@@ -69,9 +105,6 @@ ZEL_CAUGHT(int, fstatat, -1, (int folder, const char* path, struct stat* status,
            (folder, path, status, flags))
 ZEL_CAUGHT(int, faccessat, -1, (int folder, const char* path, int how, int flags),
            (folder, path, how, flags))
-ZEL_CAUGHT(ssize_t, readlink, -1, (const char* path, char* text, size_t size), (path, text, size))
-ZEL_CAUGHT(ssize_t, getxattr, -1, (const char* path, const char* name, void* value, size_t size),
-           (path, name, value, size))
 ZEL_CAUGHT(ssize_t, listxattr, -1, (const char* path, char* list, size_t size), (path, list, size))
 ZEL_CAUGHT(int, fsetxattr, -1,
            (int number, const char* name, const void* value, size_t size, int flags),
@@ -85,20 +118,38 @@ ZEL_CAUGHT(dirent*, readdir, nullptr, (DIR * folder), (folder))
 extern "C" ssize_t real_write(int number, const void* bytes, size_t size) __asm__("__real_write");
 extern "C" ssize_t caught_write(int number, const void* bytes, size_t size) __asm__("__wrap_write");
 extern "C" ssize_t caught_write(int number, const void* bytes, size_t size) {
-  if (isFaulty()) return -1;
+  if (isFaulty("write")) return -1;
   const auto most = is_counting ? static_cast<size_t>(fault.piece) : size;
   return real_write(number, bytes, std::min(size, most));
 }
 
+extern "C" ssize_t real_readlink(const char* path, char* text,
+                                 size_t size) __asm__("__real_readlink");
+extern "C" ssize_t caught_readlink(const char* path, char* text,
+                                   size_t size) __asm__("__wrap_readlink");
+extern "C" ssize_t caught_readlink(const char* path, char* text, size_t size) {
+  if (isFaulty("readlink")) return -1;
+  return hasAnswer("readlink") ? answer(text, size) : real_readlink(path, text, size);
+}
+
+extern "C" ssize_t real_getxattr(const char* path, const char* name, void* value,
+                                 size_t size) __asm__("__real_getxattr");
+extern "C" ssize_t caught_getxattr(const char* path, const char* name, void* value,
+                                   size_t size) __asm__("__wrap_getxattr");
+extern "C" ssize_t caught_getxattr(const char* path, const char* name, void* value, size_t size) {
+  if (isFaulty("getxattr")) return -1;
+  return hasAnswer("getxattr") ? answer(value, size) : real_getxattr(path, name, value, size);
+}
+
 /// Nobody waits for the disk.
 extern "C" int caught_fsync(int number) __asm__("__wrap_fsync");
-extern "C" int caught_fsync(int) { return isFaulty() ? -1 : 0; }
+extern "C" int caught_fsync(int) { return isFaulty("fsync") ? -1 : 0; }
 
 /// One that fails has closed all the same, as on Linux.
 extern "C" int real_close(int number) __asm__("__real_close");
 extern "C" int caught_close(int number) __asm__("__wrap_close");
 extern "C" int caught_close(int number) {
-  const bool fails = isFaulty();
+  const bool fails = isFaulty("close");
   const int error = errno;
   const int result = real_close(number);
   if (!fails) return result;

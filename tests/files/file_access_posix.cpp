@@ -1,13 +1,17 @@
 // Who may use a file stays the same when it is replaced; what cannot be kept gives nobody more.
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 #include "child_posix.h"
+#include "faulty_calls_posix.h"
 #include "files/whole_file.h"
 #include "support/temporary_folder.h"
 
@@ -46,6 +50,17 @@ class FileAccess : public ::testing::Test {
     return std::system(("setfacl " + entries + " '" + name + "' 2>/dev/null").c_str()) == 0;
   }
 
+  static std::string attributeOf(const std::string& name, const char* attribute) {
+    std::string value(100, ' ');
+    const auto size = ::getxattr(name.c_str(), attribute, value.data(), value.size());
+    value.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+    return value;
+  }
+
+  static bool putAttribute(const std::string& name, const char* attribute, std::string_view value) {
+    return ::setxattr(name.c_str(), attribute, value.data(), value.size(), 0) == 0;
+  }
+
   void rewrite() { EXPECT_EQ(writeWholeFile(path, "new"), (WriteResult{true, true})); }
 
   /// Gives the file to strangers and lets another one write it, who cannot keep its group.
@@ -59,7 +74,9 @@ class FileAccess : public ::testing::Test {
   std::string path = folder / "file";
 };
 
+constexpr const char* kListAttribute = "system.posix_acl_access";
 constexpr const char* kNoLists = "there is no setfacl, or no lists in this file system";
+constexpr const char* kNoAttributes = "no extended attributes in this file system";
 constexpr const char* kNoRoot = "only root may give files away";
 
 TEST_F(FileAccess, KeepsTheAccessControlList) {
@@ -119,25 +136,126 @@ TEST_F(FileAccess, KeepsOutWhoWasKeptOutByTheGroup) {
   EXPECT_EQ(modeOf(path), mode_t{0622});
 }
 
+TEST_F(FileAccess, KeepsTheGroupOfWhoIsOneOfItsMembers) {
+  if (::geteuid() != 0) GTEST_SKIP() << kNoRoot;
+  ASSERT_EQ(::chmod(path.c_str(), 0660), 0);
+  const gid_t group = 1234;
+  const int result = inAChild([&] {
+    if (::setgroups(1, &group) == 0) rewriteAsNobody();
+    return HasFailure() ? 1 : 0;
+  });
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(bytesOf(path), "new");
+  EXPECT_EQ(modeOf(path), mode_t{0660});
+  struct stat status {};
+  ASSERT_EQ(::stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_gid, group);
+  EXPECT_EQ(status.st_uid, uid_t{65534});
+}
+
 TEST_F(FileAccess, KeepsExtendedAttributes) {
   const std::string value("text\0bytes\xFF", 11);
-  if (::setxattr(path.c_str(), "user.one", value.data(), value.size(), 0) != 0)
-    GTEST_SKIP() << "no extended attributes in this file system";
-  ASSERT_EQ(::setxattr(path.c_str(), "user.empty", "", 0, 0), 0);
+  if (!putAttribute(path, "user.one", value)) GTEST_SKIP() << kNoAttributes;
+  ASSERT_TRUE(putAttribute(path, "user.empty", ""));
   rewrite();
-  std::string found(20, ' ');
-  const auto size = ::getxattr(path.c_str(), "user.one", found.data(), found.size());
-  ASSERT_EQ(size, 11);
-  EXPECT_EQ(found.substr(0, 11), value);
+  EXPECT_EQ(attributeOf(path, "user.one"), value);
   EXPECT_EQ(::getxattr(path.c_str(), "user.empty", nullptr, 0), 0);
 }
 
 TEST_F(FileAccess, DoesNotGiveNewBytesTheCapabilitiesOfTheOldOnes) {
   const std::string nothing("\1\0\0\2\0\4\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 20);
-  if (::setxattr(path.c_str(), "security.capability", nothing.data(), nothing.size(), 0) != 0)
+  if (!putAttribute(path, "security.capability", nothing))
     GTEST_SKIP() << "no file capabilities here";
   rewrite();
   EXPECT_LT(::getxattr(path.c_str(), "security.capability", nullptr, 0), 0);
+}
+
+/// With a list the group's permissions are those of everybody whom the list names.
+TEST_F(FileAccess, IsGivenToNobodyMoreWhicheverCallFails) {
+  if (!setList("-m u:1234:rw,g::r,m::rw,o::-", path)) GTEST_SKIP() << kNoLists;
+  if (!putAttribute(path, "user.one", "kept")) GTEST_SKIP() << kNoAttributes;
+  const std::string list = attributeOf(path, kListAttribute);
+  const auto prepare = [&] {
+    fs::remove(path);
+    putBytes(path, "old");
+    ASSERT_TRUE(putAttribute(path, kListAttribute, list));
+    ASSERT_TRUE(putAttribute(path, "user.one", "kept"));
+    ASSERT_EQ(modeOf(path), mode_t{0660});
+  };
+  WriteResult result;
+  const auto look = [&] {
+    EXPECT_EQ(bytesOf(path), result.written ? "new" : "old");
+    const bool is_listed = attributeOf(path, kListAttribute) == list;
+    EXPECT_EQ(modeOf(path), is_listed ? mode_t{0660} : mode_t{0600});
+    const std::string attribute = attributeOf(path, "user.one");
+    EXPECT_TRUE(attribute == "kept" || (result.written && attribute.empty())) << attribute;
+    EXPECT_EQ(folder.names(), std::set<std::string>{"file"});
+  };
+  for (const int error : {EIO, ENOSPC, EPERM}) {
+    SCOPED_TRACE(error);
+    atEachCall(
+        {.error = error}, prepare, [&] { result = writeWholeFile(path, "new"); }, look);
+  }
+  EXPECT_EQ(attributeOf(path, kListAttribute), list);
+  EXPECT_EQ(attributeOf(path, "user.one"), "kept");
+}
+
+TEST_F(FileAccess, KeepsThePermissionsWhereTheFileSystemKnowsNoLists) {
+  ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
+  for (const char* const call : {"getxattr", "fremovexattr", "listxattr"}) {
+    beginFaults({.first = 1, .lasts = true, .error = ENOTSUP, .only = call});
+    rewrite();
+    EXPECT_GT(endFaults(), 0) << call;
+    EXPECT_EQ(modeOf(path), mode_t{0640}) << call;
+  }
+}
+
+TEST_F(FileAccess, IsItsOwnersAloneWhereTheListOfTheFolderStaysOnIt) {
+  ASSERT_EQ(::chmod(path.c_str(), 0660), 0);
+  if (!setList("-d -m u:1234:rw", folder.path().string())) GTEST_SKIP() << kNoLists;
+  beginFaults({.first = 1, .error = EIO, .only = "fremovexattr"});
+  rewrite();
+  endFaults();
+  EXPECT_EQ(modeOf(path), mode_t{0600});
+}
+
+/// The bytes of a list: its version, and tag and permissions of each entry, which names nobody.
+std::string listOfEntries(const std::vector<std::pair<char, char>>& entries) {
+  std::string bytes("\2\0\0\0", 4);
+  for (const auto& [tag, permissions] : entries)
+    bytes.append({tag, '\0', permissions, '\0', '\xFF', '\xFF', '\xFF', '\xFF'});
+  return bytes;
+}
+
+constexpr char kOwner = 0x01;
+constexpr char kGroup = 0x04;
+constexpr char kOthers = 0x20;
+
+/// Linux gives such a list as permissions only, other file systems as it is.
+TEST_F(FileAccess, FollowsAListWithoutAMaskIntoAnotherGroup) {
+  if (::geteuid() != 0) GTEST_SKIP() << kNoRoot;
+  if (!setList("-m o::r", path)) GTEST_SKIP() << kNoLists;
+  ASSERT_EQ(::chmod(path.c_str(), 0666), 0);
+  const std::string list = listOfEntries({{kOwner, 6}, {kGroup, 6}, {kOthers, 4}});
+  beginFaults({.only = "getxattr", .answer = list});
+  rewriteAsNobody();
+  endFaults();
+  EXPECT_EQ(modeOf(path), mode_t{0644});
+}
+
+TEST_F(FileAccess, IsItsOwnersAloneUnderAListThatSaysTooLittle) {
+  if (::geteuid() != 0) GTEST_SKIP() << kNoRoot;
+  for (const std::string& list :
+       {listOfEntries({}), listOfEntries({{kOwner, 6}, {kGroup, 6}}),
+        listOfEntries({{kOwner, 6}, {kOthers, 6}}), std::string("\2\0\0", 3)}) {
+    putBytes(path, "old");
+    ASSERT_EQ(::chmod(path.c_str(), 0666), 0);
+    beginFaults({.only = "getxattr", .answer = list});
+    rewriteAsNobody();
+    endFaults();
+    EXPECT_EQ(bytesOf(path), "new") << list.size();
+    EXPECT_EQ(modeOf(path), mode_t{0600}) << list.size();
+  }
 }
 
 }  // namespace

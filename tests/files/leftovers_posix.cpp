@@ -1,5 +1,6 @@
 // What killed saves leave behind goes away with the next save, and nothing else does.
 
+#include <cerrno>
 #include <csignal>
 
 #include <fcntl.h>
@@ -8,6 +9,7 @@
 #include <sys/stat.h>
 
 #include "child_posix.h"
+#include "faulty_calls_posix.h"
 #include "files/leftovers.h"
 #include "files/temporary_name.h"
 #include "files/whole_file.h"
@@ -36,10 +38,14 @@ TEST(TemporaryNames, AreNeverTheSameAndAreKnownAgain) {
   std::set<std::string> names;
   for (int i = 0; i < 1000; ++i) names.insert(newTemporaryName());
   EXPECT_EQ(names.size(), 1000u);
+  std::set<char> digits;
   for (const std::string& name : names) {
     EXPECT_TRUE(isTemporaryName(name)) << name;
     EXPECT_EQ(name.size(), std::string_view(".zel-0123456789abcdef.tmp").size());
+    const std::string random = name.substr(std::string_view(".zel-").size(), 16);
+    digits.insert(random.begin(), random.end());
   }
+  EXPECT_EQ(digits.size(), 16u);
 }
 
 TEST(TemporaryNames, AreNothingElse) {
@@ -47,8 +53,8 @@ TEST(TemporaryNames, AreNothingElse) {
   for (const char* const name :
        {"", ".zel-.tmp", ".zel-0123456789abcde.tmp", ".zel-0123456789abcdef0.tmp",
         ".zel-0123456789ABCDEF.tmp", ".zel-0123456789abcdeg.tmp", ".zel-0123456789abcdef",
-        ".zel-0123456789abcdef.zel", "zel-0123456789abcdef.tmp", "x.zel-0123456789abcdef.tmp",
-        ".zel-0123456789abcdef.tmp~", ".zel-1234-0"})
+        ".zel-0123456789abcdef.zel", "zel-0123456789abcdef.tmp", "xzel-0123456789abcdef.tmp",
+        "x.zel-0123456789abcdef.tmp", ".zel-0123456789abcdef.tmp~", ".zel-1234-0"})
     EXPECT_FALSE(isTemporaryName(name)) << name;
 }
 
@@ -85,7 +91,9 @@ TEST_F(Leftovers, AreRegularFilesOnly) {
   ASSERT_EQ(::mkfifo((folder / ".zel-000000000000000b.tmp").c_str(), 0600), 0);
   fs::create_symlink("file", folder / ".zel-000000000000000c.tmp");
   fs::create_symlink("nothing", folder / ".zel-000000000000000d.tmp");
+  beginFaults({.only = "openat"});
   write();
+  EXPECT_EQ(endFaults(), 0);  // nothing else is even opened
   EXPECT_EQ(folder.names(), names);
   EXPECT_EQ(bytesOf(path), "x");
 }
@@ -116,11 +124,31 @@ TEST_F(Leftovers, AreNotSomebodyElses) {
   ASSERT_EQ(::chown((folder / own).c_str(), 65534, 65534), 0);
   EXPECT_EQ(asNobody([&] { return writeWholeFile(path, "x").written ? 1 : 0; }), 1);
   EXPECT_EQ(folder.names(), (Names{"file", others}));
+  ASSERT_EQ(::chown((folder / others).c_str(), 4321, 1234), 0);
   write();  // root takes them all away
   EXPECT_EQ(folder.names(), Names{"file"});
 }
 
+TEST_F(Leftovers, AreTheOnlyFilesTakenAwayWhicheverCallFails) {
+  std::string left;
+  const auto prepare = [&] {
+    for (const std::string& name : folder.names()) fs::remove(folder / name);
+    for (const char* const name : {"file", "other", ".zel-1234-0"}) leave(name);
+    left = leave();
+  };
+  const auto look = [&] {
+    Names names = folder.names();
+    names.erase(left);
+    EXPECT_EQ(names, (Names{"file", "other", ".zel-1234-0"}));
+  };
+  for (const bool lasts : {false, true})
+    atEachCall(
+        {.lasts = lasts, .error = EIO}, prepare, [this] { removeLeftovers(path); }, look);
+  EXPECT_FALSE(fs::exists(folder / left));
+}
+
 TEST_F(Leftovers, StayBehindTheFirstNamesOfALargeFolder) {
+  ASSERT_EQ(kMostNamesLookedAt, 10'000u);
   for (std::size_t i = 0; i < kMostNamesLookedAt; ++i) leave();
   write();  // two of the names are "." and ".."
   EXPECT_EQ(folder.names().size(), 3u);

@@ -227,11 +227,18 @@ TEST_F(WholeFileOnPosix, RefusesADevice) {
 }
 
 TEST_F(WholeFileOnPosix, GivesTheErrorOfTheCallThatFailed) {
-  EXPECT_EQ(writeWholeFile(folder.path().string(), "x").error, EISDIR);
-  EXPECT_EQ(writeWholeFile(folder / "missing/file", "x").error, ENOENT);
-  EXPECT_EQ(writeWholeFile(folder / std::string(300, 'n'), "x").error, ENAMETOOLONG);
+  const auto errorOf = [](const std::string& name) {
+    const WriteResult result = writeWholeFile(name, "x");
+    EXPECT_FALSE(result.existed || result.written) << name;
+    return result.error;
+  };
+  EXPECT_EQ(errorOf(folder.path().string()), EISDIR);
+  EXPECT_EQ(errorOf(folder / "missing/file"), ENOENT);
+  EXPECT_EQ(errorOf(folder / std::string(300, 'n')), ENAMETOOLONG);
+  EXPECT_EQ(errorOf(""), ENOENT);
   putBytes(path, "old");
-  EXPECT_EQ(writeWholeFile(path + "/below", "x").error, ENOTDIR);
+  EXPECT_EQ(errorOf(path + "/below"), ENOTDIR);
+  EXPECT_EQ(errorOf(path + std::string("\0y", 2)), EINVAL);
 }
 
 TEST_F(WholeFileOnPosix, WasThereWhicheverCallFailsAfterTheFirstLook) {

@@ -83,6 +83,7 @@ TEST_F(WholeFile, IsTakenAwayWhenItIsEmptyOnly) {
   std::filesystem::create_directory(folder / "sub");
   removeEmptyFile(path);
   removeEmptyFile(folder / "sub");
+  removeEmptyFile("");
   EXPECT_EQ(folder.names(), std::set<std::string>{"sub"});
 }
 
