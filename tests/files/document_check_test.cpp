@@ -1,5 +1,7 @@
 // What is never written: a document that a load would not give back.
 
+#include "files/document_check.h"
+
 #include "base/code_page.h"
 #include "document_fixture.h"
 
@@ -132,6 +134,70 @@ TEST_F(DocumentCheck, TakesGraphsWithoutKindOrParameters) {
   def.ecuacion = def.codigo = "";
   def.parameters = nullptr;
   EXPECT_FALSE(isRefusedWith(def));
+}
+
+/// Bytes that a writer with a fault might have made of the sample.
+TEST_F(DocumentCheck, NoticesEachValueThatALoadWouldNotGiveBack) {
+  ASSERT_TRUE(load(sampleText()));
+  ASSERT_TRUE(isReadBack(sampleText(), view, graphs));
+  const std::pair<const char*, const char*> faults[] = {
+      {"xi=-10", "xi=-1"},
+      {"xf=10", "xf=1"},
+      {"yi=-10", "yi=-1"},
+      {"yf=10", "yf=1"},
+      {"definicion=5", "definicion=6"},
+      {"proporcional=1", "proporcional=0"},
+      {"escala_x=1", "escala_x=2"},
+      {"escala_y=1", "escala_y=2"},
+      {"nombre=a", "nombre=c"},
+      {"nombre=b", "nombre=a"},
+      {"color=255", "color=256"},
+      {"ecuacion=x^2", "ecuacion=x^3"},
+      {"ecuacion=b(0;0;3)", "ecuacion=b(0;0;4)"},
+      {"tipo=F", "tipo=Z"},
+      {"codigo1=7", "codigo1=8"},
+      {"codigo2=-7", "codigo2=-8"},
+      {"h=0", "h=1"},
+      {"r=3\r\n", ""},
+      {"r=3\r\n", "r=3\r\nr2=4\r\n"},
+      {"h=0\r\nk=0", "k=0\r\nh=0"},
+      {"[PARAMETROS]\r\n \r\n", "[PARAMETROS]\r\nx=1\r\n \r\n"},
+      {"[VISTA PRINCIPAL]", "[VISTA]"},
+  };
+  for (const auto& [from, to] : faults) {
+    const std::string text = replaceAll(sampleText(), from, to);
+    ASSERT_NE(text, sampleText()) << from;
+    EXPECT_FALSE(isReadBack(text, view, graphs)) << to;
+  }
+}
+
+TEST_F(DocumentCheck, NoticesAGraphOfAnyLetterThatIsNotThere) {
+  const std::string text = documentText(view, GraphTable());
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    graphs.clearGraphs();
+    ASSERT_TRUE(isReadBack(text, view, graphs));
+    graphs.rebuildGraph(letter, "x", "", 0, 'F', nullptr);
+    EXPECT_FALSE(isReadBack(text, view, graphs)) << letter;
+  }
+}
+
+TEST_F(DocumentCheck, NoticesParametersThatAGraphDoesNotHave) {
+  GraphDef def = sampleGraph();
+  graphs.storeGraph(def);
+  const std::string text = documentText(view, graphs);
+  ASSERT_TRUE(isReadBack(text, view, graphs));
+  def.parameters = nullptr;
+  graphs.storeGraph(def);
+  EXPECT_FALSE(isReadBack(text, view, graphs));
+}
+
+/// The value ends the graph that it stands in, and what follows takes the place of the next one.
+TEST_F(DocumentCheck, RefusesAValueThatSwallowsAGraph) {
+  GraphDef def = sampleGraph();
+  def.parameters->set("h", "\r\n \r\n[PROPIEDADES]\r\nnombre=n\r\ncolor=0");
+  graphs.storeGraph(def);
+  graphs.rebuildGraph('o', "x", "", 0, 'F', nullptr);
+  EXPECT_TRUE(isRefused());
 }
 
 TEST_F(DocumentCheck, RefusesADocumentThatIsTooLongToBeRead) {

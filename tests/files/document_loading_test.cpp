@@ -80,7 +80,7 @@ TEST_F(DocumentLoading, RefusesAFileThatIsNotCompatible) {
 }
 
 TEST_F(DocumentLoading, LooksForTheOldestVersionAnywhereAndInAnyCase) {
-  EXPECT_TRUE(loadSampleWith("01.versiones_compatibles=2.0", "99.VERSIONES_compatibles=2.0.5"));
+  EXPECT_TRUE(loadSampleWith("01.versiones_compatibles=2.0", "99.VERSIONES_COMPATIBLES=2.0.5"));
   EXPECT_TRUE(load("versiones_compatibles=2.0" + replaceAll(sampleText(), "=2.0", "=1.9")));
 }
 

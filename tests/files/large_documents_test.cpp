@@ -35,6 +35,7 @@ constexpr std::size_t kPropertyPairs = 6;
 constexpr std::size_t kCircleParameters = 5;
 
 TEST_F(LargeDocuments, MayHoldManyHeaderPairsAndNotOneMore) {
+  ASSERT_EQ(kMostPairs, 16'384u);
   ASSERT_TRUE(loadPairs(kMostPairs, kHeaderPairs, "usuario="));
   EXPECT_EQ(header.Count(), kMostPairs);
   EXPECT_EQ(header.Item("usuario"), "desconocido");
