@@ -20,7 +20,7 @@ auto retried(Call call) {
 /// Owns a file descriptor.
 class Descriptor {
  public:
-  explicit Descriptor(int number = -1) : number_(number) {}
+  explicit Descriptor(int number = kNone) : number_(number) {}
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
   ~Descriptor() { close(); }
@@ -35,6 +35,8 @@ class Descriptor {
   int close();
 
  private:
+  static constexpr int kNone = -1;
+
   int number_;
 };
 

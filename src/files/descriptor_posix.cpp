@@ -13,7 +13,7 @@ void Descriptor::reset(int number) {
 int Descriptor::close() {
   if (number_ < 0) return 0;
   const int error = ::close(number_) == 0 || errno == EINTR ? 0 : errno;
-  number_ = -1;
+  number_ = kNone;
   return error;
 }
 

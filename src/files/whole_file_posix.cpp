@@ -205,12 +205,12 @@ WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
 /// told before.
 Descriptor openRegularFile(const std::string& path, struct stat& status) {
   if (!isPath(path) || ::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
-    return Descriptor(-1);
+    return Descriptor();
   const int number = openFile(path, O_RDONLY | O_NONBLOCK);
   if (number >= 0 && ::fstat(number, &status) == 0 && S_ISREG(status.st_mode))
     return Descriptor(number);
   const Descriptor other(number);
-  return Descriptor(-1);
+  return Descriptor();
 }
 
 }  // namespace
@@ -243,9 +243,9 @@ std::optional<std::string> readWholeFile(const std::string& path) {
   for (;;) {
     const auto size =
         retried([&] { return ::read(descriptor.number(), block.data(), block.size()); });
-    if (size == 0) return bytes;
     if (size < 0 || bytes.size() + static_cast<std::size_t>(size) > kMaxWholeFile)
       return std::nullopt;
+    if (size == 0) return bytes;
     bytes.append(block, 0, static_cast<std::size_t>(size));
   }
 }
