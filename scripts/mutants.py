@@ -1,8 +1,8 @@
 """scripts/mutants.py [COUNT [SEED [FOLDER...]]]: see scripts/mutants.sh. The faults of a folder are
-drawn by the seed; those that do not compile count for nothing, and others are drawn for them. What a
-fault needs, which is its source or whatever includes its header, is compiled and linked with the rest
-of the preset `mutants`, which is built already. What came out is kept in build/mutants/verdicts,
-under the sum of the source with the fault."""
+drawn by the seed; those that do not compile, or of which no program is made here, count for nothing,
+and others are drawn for them. What a fault needs, which is its source or whatever includes its
+header, is compiled and linked with the rest of the preset `mutants`, which is built already. What
+came out is kept in build/mutants/verdicts, under the sum of the source with the fault."""
 import atexit
 import collections
 import hashlib
@@ -166,12 +166,16 @@ class Tests:
         return steps + ([(f"--gtest_filter={names}", sum(slow.values()))] if slow else [])
 
     def make(self, fault, place):
-        """The program with the fault, in a folder of its own; nothing where it does not compile."""
+        """The program with the fault, in a folder of its own; nothing where it does not compile, or is no
+        part of the program, as what is for another system."""
+        objects = sorted(self.objects & self.needed[str(ROOT / fault.path)])
+        if not objects:
+            return None
         source = place / fault.path
         source.parent.mkdir(parents=True)
         source.write_text(fault.source(), encoding="utf-8")
         linking = list(self.linking)
-        for number, name in enumerate(sorted(self.objects & self.needed[str(ROOT / fault.path)])):
+        for number, name in enumerate(objects):
             command = [str(source) if word == str(ROOT / fault.path) else word
                        for word in self.compiling[name]]
             command[command.index("-o") + 1] = made = str(place / f"{number}.o")
