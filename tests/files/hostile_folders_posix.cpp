@@ -10,6 +10,7 @@
 
 #include "child_posix.h"
 #include "document_fixture.h"
+#include "files/absolute_path.h"
 
 namespace zel::test {
 namespace {
@@ -96,6 +97,7 @@ TEST_F(HostileFolders, ComplainWhereTheFolderWentAway) {
   const CurrentFolderGuard current(folder.path() / "sub");
   fs::remove(folder / "sub");
   EXPECT_FALSE(writeDocument("sample.zel", view, newer_).written);
+  EXPECT_EQ(absolutePath("sample.zel"), "sample.zel");
   EXPECT_EQ(folder.names(), std::set<std::string>{});
 }
 
