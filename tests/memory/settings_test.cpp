@@ -1,6 +1,8 @@
 // Every allocation of a read and of a write of config.ini fails once, and from then on: the
 // settings are read or told to be damaged, and the file is the older or the newer one.
 
+#include <iostream>
+
 #include <gtest/gtest.h>
 
 #include "failing_new.h"
@@ -38,6 +40,7 @@ TEST_F(SettingsInWantOfMemory, AreReadOrToldToBeDamaged) {
           configuration = {};
           SetCurrentLanguage("ES");
         });
+    std::cout << failures << " failures\n";
     EXPECT_GT(failures, 2);
     EXPECT_EQ(outcome, ConfigRead::read);
   }
@@ -55,6 +58,7 @@ TEST_F(SettingsInWantOfMemory, StayAsTheyWereOrAreWrittenWhole) {
           EXPECT_EQ(folder.names(), std::set<std::string>{kConfigFile});
           putBytes(path, "older");
         });
+    std::cout << failures << " failures\n";
     EXPECT_GT(failures, 2);
     EXPECT_TRUE(written);
   }
