@@ -58,10 +58,12 @@ int run(int& argument_count, char** arguments) {
     zel::tellFailedStart(program);
     std::_Exit(EXIT_FAILURE);
   };
+  application.quits = endProcess;
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
   zel::Forms forms(program, document);
   forms.started = [&] { application.failed = [&] { zel::tellUnstableMemory(program); }; };
+  application.quits = [&] { forms.quit(); };
   if (!forms.begin(step)) return EXIT_FAILURE;
   return QApplication::exec();
 }

@@ -11,6 +11,12 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   }
 }
 
+bool Application::event(QEvent* event) {
+  if (event->type() != QEvent::Quit) return QApplication::event(event);
+  quits();
+  return true;
+}
+
 void Application::tellFailure() {
   if (is_telling_) return;
   is_telling_ = true;

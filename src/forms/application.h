@@ -15,7 +15,14 @@ class Application : public QApplication {
   /// Tells the user, or ends the program. Not called for what it throws itself.
   std::function<void()> failed = [] {};
 
+  /// Ends the program where the desktop does, at the end of its session. Windows are not asked: one
+  /// that hides when it is closed would stand in the way of a logout.
+  std::function<void()> quits = [] {};
+
   bool notify(QObject* receiver, QEvent* event) override;
+
+ protected:
+  bool event(QEvent* event) override;
 
  private:
   void tellFailure();

@@ -17,7 +17,10 @@
 namespace zel {
 
 Forms::Forms(Program& program, std::string command_line)
-    : program_(program), command_line_(std::move(command_line)) {}
+    : program_(program), command_line_(std::move(command_line)) {
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &session_manager_,
+                   [this] { keep(); });
+}
 
 Forms::~Forms() = default;
 
@@ -27,6 +30,17 @@ bool Forms::begin(StartStep step) {
     chooseLanguage();
     chooseHelpFile(program_);
   });
+}
+
+void Forms::keep() {
+  if (!acerca_de_) return;
+  datos_ini_->keepSession();
+  writeConfig(program_.config_path, program_.configuration);
+}
+
+void Forms::quit() {
+  if (!acerca_de_) return program_.end_process();
+  datos_ini_->endProgram();
 }
 
 void Forms::chooseLanguage() {

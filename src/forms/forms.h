@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <functional>
 #include <memory>
 #include <string>
@@ -29,16 +30,24 @@ class Forms {
   /// which hands over to the main window. False when it failed, which was told.
   bool begin(StartStep step);
 
+  /// Ends the program as the main window does, whatever window is shown.
+  void quit();
+
   /// Called when all windows are there: what fails from now on is no failed start.
   std::function<void()> started = [] {};
 
  private:
+  /// Keeps what the end of the program keeps, and goes on: a logout may still be called off. Does
+  /// nothing until all windows are there.
+  void keep();
+
   void chooseLanguage();
   void finishStart();
   void showPresentation();
   void loadForms();
 
   Program& program_;
+  QObject session_manager_;  // what listens to it
   std::string command_line_;
   std::unique_ptr<frmIdioma> idioma_;
   std::unique_ptr<frmPresentacion> presentacion_;

@@ -1,5 +1,7 @@
 #include "forms/application.h"
 
+#include <QCloseEvent>
+#include <QWidget>
 #include <cstdlib>
 #include <new>
 
@@ -39,6 +41,31 @@ TEST(ApplicationDeathTest, TellsOnceOfEachEventThatFailsAndGoesOn) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(runWithThrower(false), ::testing::ExitedWithCode(2), "");
   EXPECT_EXIT(runWithThrower(true), ::testing::ExitedWithCode(2), "");
+}
+
+/// As the plot and the editor do.
+class StubbornWindow : public QWidget {
+ protected:
+  void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
+
+[[noreturn]] void quitBeforeAStubbornWindow() {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  char name[] = "zel";
+  char* arguments[] = {name, nullptr};
+  int count = 1;
+  Application application(count, arguments);
+  application.quits = [] { std::_Exit(3); };
+  StubbornWindow window;
+  window.show();
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(&application, &quit);
+  std::_Exit(1);
+}
+
+TEST(ApplicationDeathTest, QuitsThoughAWindowWillNotClose) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(quitBeforeAStubbornWindow(), ::testing::ExitedWithCode(3), "");
 }
 
 }  // namespace

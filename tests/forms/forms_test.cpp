@@ -1,6 +1,11 @@
 #include "forms/forms.h"
 
+#include <QSessionManager>
+#include <array>
+#include <cstddef>
 #include <new>
+#include <optional>
+#include <utility>
 
 #include "forms/start/frm_presentacion.h"
 #include "forms/window_fixture.h"
@@ -163,6 +168,75 @@ TEST_F(AllWindows, ComeBackFromTheEditorWithTheRangeThatWasTyped) {
   EXPECT_EQ(shown("frmAdmGraficos"), nullptr);
   EXPECT_EQ(text(*main_window, "txtRanXi"), "-4");
   EXPECT_EQ(program.graphs.graph('a')->codigo, "10@(x)");
+}
+
+/// A logout, which may come while any window is shown.
+class EndOfTheDesktopsSession : public AllWindows {
+ protected:
+  EndOfTheDesktopsSession() {
+    program.last_session = LastSession("state");
+    addFunction('a', "x^2");
+  }
+
+  void start(StartStep step) {
+    program.params = makeFormParams();
+    forms.emplace(program, "");
+    forms->begin(step);
+  }
+
+  /// Types a range, which is not kept before the program ends, and opens the window of a button.
+  void goOnTo(const char* button, const char* window) {
+    QTest::keyClick(shown("frmPresentacion"), Qt::Key_Return);
+    QWidget& main_window = *shown("frmDatosIni");
+    control<QLineEdit>(main_window, "txtRanXi").setText("-4,5");
+    control<QPushButton>(main_window, button).click();
+    ASSERT_NE(shown(window), nullptr);
+  }
+  /// As the session manager does, which is not looked at.
+  static void askToKeep() {
+    alignas(std::max_align_t) static std::array<std::byte, 64> nobody;
+    emit qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nobody));
+  }
+  static bool isKept() {
+    return bytesOf("state/session.zel").find("xi=-4,5\r\n") != std::string::npos;
+  }
+
+  std::optional<Forms> forms;
+};
+
+TEST_F(EndOfTheDesktopsSession, EndsTheProgramInEachWindowAndKeepsWhatTheMainWindowHas) {
+  for (const auto& [button, window] :
+       {std::pair("CmdGraficarLista", "frmGrafico"), std::pair("CmdAgregar", "frmAdmGraficos")}) {
+    std::filesystem::remove_all("state");
+    std::filesystem::remove("config.ini");
+    ends = 0;
+    start(StartStep::presentation);
+    goOnTo(button, window);
+    EXPECT_FALSE(isKept());
+    forms->quit();
+    EXPECT_EQ(ends, 1) << window;
+    EXPECT_TRUE(isKept()) << window;
+    EXPECT_TRUE(std::filesystem::exists("config.ini"));
+  }
+}
+
+TEST_F(EndOfTheDesktopsSession, IsPreparedWithoutAnEnd) {
+  start(StartStep::presentation);
+  goOnTo("CmdGraficarLista", "frmGrafico");
+  askToKeep();
+  EXPECT_EQ(ends, 0);
+  EXPECT_TRUE(isKept());
+  EXPECT_TRUE(std::filesystem::exists("config.ini"));
+  EXPECT_NE(shown("frmGrafico"), nullptr);
+}
+
+TEST_F(EndOfTheDesktopsSession, KeepsNothingOfAFirstStartWithoutALanguage) {
+  ASSERT_EQ(startProgram(program), StartStep::first_start);
+  start(StartStep::first_start);
+  askToKeep();
+  forms->quit();
+  EXPECT_EQ(ends, 1);
+  EXPECT_FALSE(std::filesystem::exists("config.ini"));
 }
 
 }  // namespace

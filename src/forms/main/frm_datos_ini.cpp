@@ -160,10 +160,12 @@ void frmDatosIni::mGuardarComo_Click() {
   updateTitle();
 }
 
-void frmDatosIni::mSalir_Click() {
+void frmDatosIni::endProgram() {
   keepSession();
   shutDown(program());
 }
+
+void frmDatosIni::mSalir_Click() { endProgram(); }
 
 void frmDatosIni::mConfirmarBorrado_Click() {
   bool& confirms = program().configuration.confirm_deletion;
@@ -219,8 +221,7 @@ void frmDatosIni::Slider1_Change() {
 }
 
 void frmDatosIni::closeEvent(QCloseEvent* event) {
-  keepSession();
-  shutDown(program());
+  endProgram();
   event->accept();
 }
 

@@ -47,6 +47,11 @@ class frmDatosIni : public Form {
   /// Double quotes are taken out of it.
   void openCommandLine(std::string command_line);
 
+  /// Keeps the declarations for the next session.
+  void keepSession();
+  /// The same, and ends the process.
+  void endProgram();
+
   /// Sets the box and lets the y range be edited exactly when it is off.
   void actProporcional(bool on);
 
@@ -112,8 +117,6 @@ class frmDatosIni : public Form {
   void updateLanguageMenu();
   void updateTitle();
   void updateList();
-  /// Keeps the declarations for the next session.
-  void keepSession();
   /// Which commands of the file menu make sense now.
   void updateFileMenu();
   void updateButtons();
