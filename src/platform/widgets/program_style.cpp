@@ -39,6 +39,12 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
+void ProgramStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  const std::lock_guard lock(icons_guard_);
+  icons_.clear();
+}
+
 QIcon ProgramStyle::standardIcon(StandardPixmap name, const QStyleOption* option,
                                  const QWidget* widget) const {
   const std::lock_guard lock(icons_guard_);

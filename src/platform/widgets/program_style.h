@@ -9,7 +9,8 @@ namespace zel {
 
 /// The desktop's style but for three things: a button that has the focus shows it, a default one
 /// too; no button of a dialog has an icon, so that those of message boxes look like all others; and
-/// an icon is the same one each time, because the toolkit caches the pictures of each new one anew.
+/// an icon is the same one each time, until the colours or the theme of the desktop change, because
+/// the toolkit caches the pictures of each new one anew.
 class ProgramStyle : public QProxyStyle {
  public:
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -18,6 +19,9 @@ class ProgramStyle : public QProxyStyle {
                           QPainter* painter, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override;
+  using QProxyStyle::polish;
+  /// The toolkit calls it whenever it makes up the palette of the application.
+  void polish(QPalette& palette) override;
   QIcon standardIcon(StandardPixmap name, const QStyleOption* option,
                      const QWidget* widget) const override;
 

@@ -73,6 +73,22 @@ TEST_F(StyleOfTheProgram, GivesTheSameIconEachTime) {
             folder.cacheKey());
 }
 
+/// A style takes its icons from the desktop's theme, or draws them with the colours of the desktop.
+TEST_F(StyleOfTheProgram, MakesItsIconsAnewWhenTheColoursOfTheDesktopChange) {
+  auto* const whole = new ProgramStyle;  // the application takes it over
+  const QString before = QApplication::style()->name();
+  QApplication::setStyle(whole);
+  const auto icon = [&] {
+    return whole->standardIcon(QStyle::SP_DirIcon, nullptr, nullptr).cacheKey();
+  };
+  const qint64 first = icon();
+  EXPECT_EQ(icon(), first);
+  QApplication::setPalette(QPalette(Qt::black));
+  EXPECT_NE(icon(), first);
+  QApplication::setPalette(QPalette());
+  QApplication::setStyle(before);
+}
+
 TEST_F(StyleOfTheProgram, GivesTheButtonsOfDialogsNoIcons) {
   QDialogButtonBox box;
   box.setStyle(&style);
