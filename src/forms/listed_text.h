@@ -6,8 +6,8 @@
 
 namespace zel {
 
-/// What a list shows of a graph, on one line: at most a thousand characters of it, with "…" where
-/// it is longer.
+/// What a list or a label shows of a graph, on one line: at most a thousand characters of it, with
+/// "…" where it is longer.
 QString listedText(const GraphDef& def);
 
 }  // namespace zel

@@ -6,10 +6,10 @@
 
 #include "forms/editor/colour_swatch.h"
 #include "forms/form.h"
+#include "forms/listed_text.h"
 #include "forms/plot/elided_label.h"
 #include "forms/plot/key_tip.h"
 #include "platform/icons/plot_icons.h"
-#include "platform/qt/one_line.h"
 
 namespace zel {
 namespace {
@@ -80,7 +80,7 @@ void GraphBar::showGraph(const std::optional<GraphDef>& graph) {
   QPalette palette = this->palette();
   if (graph) palette.setColor(QPalette::Window, qtColour(graph->color));
   if (palette != swatch_->palette()) swatch_->setPalette(palette);
-  const QString text = graph ? inOneLine(toQt(displayText(*graph))) : QString();
+  const QString text = graph ? listedText(*graph) : QString();
   LblGrafico_->showText(text);
   // Each name that is set is said, the same one too.
   if (text != LblGrafico_->accessibleName()) LblGrafico_->setAccessibleName(text);

@@ -6,7 +6,6 @@
 #include "forms/graph_swatch.h"
 #include "forms/listed_text.h"
 #include "forms/tool_tip.h"
-#include "platform/qt/one_line.h"
 
 namespace zel {
 namespace {
@@ -44,7 +43,7 @@ void GraphLegend::listGraphs(const GraphTable& graphs) {
     const QIcon swatch = graphSwatch(def->color, SwatchLook::square);
     auto* const item = new QListWidgetItem(swatch, listedText(*def), this);
     item->setData(kLetterRole, static_cast<int>(letter));
-    item->setToolTip(toolTipOf(inOneLine(toQt(displayText(*def)))));
+    item->setToolTip(toolTipOf(toQt(displayText(*def))));
   }
   setVisible(count() > 1);
 }

@@ -270,6 +270,17 @@ TEST_F(GraficoToolbar, TheRowIsAsWideAsThePictureAndEndsALongTextInDots) {
   EXPECT_EQ(label.toolTip(), "");
 }
 
+/// A label lays out all of its text each time that it is measured or painted.
+TEST_F(GraficoToolbar, TheRowTakesNoMoreThanAThousandCharactersOfAGraph) {
+  const auto shown = [this](std::size_t length) {
+    addFunction('a', std::string(length - 5, '1'));  // behind "a(x)="
+    openUsual();
+    return graphText();
+  };
+  EXPECT_EQ(shown(1000), "a(x)=" + std::string(995, '1'));
+  EXPECT_EQ(shown(1001), "a(x)=" + std::string(995, '1') + "…");
+}
+
 TEST_F(GraficoToolbar, TheStepButtonsRepeatWhileTheyAreHeld) {
   addFunction('a', "x");
   openUsual();
