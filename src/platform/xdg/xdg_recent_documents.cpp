@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <algorithm>
 #include <filesystem>
 #include <new>
 #include <optional>
@@ -40,14 +39,14 @@ XdgRecentDocuments::XdgRecentDocuments(std::string data_folder)
     : data_folder_(std::move(data_folder)), path_(data_folder_ + "/recently-used.xbel") {}
 
 std::vector<std::string> XdgRecentDocuments::list() try {
-  std::vector<std::string> documents =
-      documentsOnList(readList(path_).value_or(""), zelDocuments());
-  documents.resize(std::min(documents.size(), kMostLooks));
+  std::vector<std::string> there;
   std::error_code ignored;
-  std::erase_if(documents,
-                [&](const std::string& path) { return !fs::is_regular_file(path, ignored); });
-  documents.resize(std::min(documents.size(), kMostRecent));
-  return documents;
+  std::size_t looks = 0;
+  for (std::string& path : documentsOnList(readList(path_).value_or(""), zelDocuments())) {
+    if (there.size() == kMostRecent || ++looks > kMostLooks) break;
+    if (fs::is_regular_file(path, ignored)) there.push_back(std::move(path));
+  }
+  return there;
 } catch (const std::bad_alloc&) {
   return {};
 }
