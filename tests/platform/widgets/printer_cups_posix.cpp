@@ -5,6 +5,9 @@
 #include <filesystem>
 
 #include <gmock/gmock.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include "platform/widgets/modal_driver.h"
 #include "platform/widgets/printer_fixture.h"
@@ -106,7 +109,7 @@ class PrinterOfCups : public PrinterTest {
     server_.setProcessChannelMode(QProcess::MergedChannels);
     server_.start(program.isEmpty() ? elsewhere : program,
                   {"-f", "-c", path("cupsd.conf"), "-s", path("cups-files.conf")});
-    if (!comes("socket")) {
+    if (!QTest::qWaitFor(answers, kPatience)) {
       GTEST_SKIP() << "cupsd does not start: " << server_.readAll().toStdString()
                    << bytesOf(serverFolder() / "log");
     }
@@ -117,6 +120,19 @@ class PrinterOfCups : public PrinterTest {
     server_.terminate();
     if (!server_.waitForFinished(10000)) server_.kill();
     server_.waitForFinished();
+  }
+
+  /// The socket is there a moment before the server listens on it.
+  static bool answers() {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const std::string socket_path = serverFolder() / "socket";
+    socket_path.copy(address.sun_path, sizeof(address.sun_path) - 1);
+    const int number = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    const bool is_taken =
+        ::connect(number, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
+    ::close(number);
+    return is_taken;
   }
 
   /// Waits for a file in the server's folder.
