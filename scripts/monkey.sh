@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # scripts/monkey.sh [EVENTS [SEED [PRESET]]]: random clicks, keys, texts, documents, resizes and closes
 # over all windows, a million without a word; the preset asan-gui runs them under the sanitizers. The
-# last lines tell the longest wait of an event, and how many waited for more than 50 ms for what.
+# last lines tell the longest wait of an event, how many waited for more than 50 ms for what, and how
+# long starts of the program took, which are none of them.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh

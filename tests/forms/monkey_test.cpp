@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <iostream>
@@ -170,10 +171,18 @@ class Monkey : public WindowTest {
     wait_.end();
   }
 
+  /// Behind the presentation the other windows are made, and the user's events wait.
+  bool isBeingMade() const {
+    const auto windows = QApplication::topLevelWidgets();
+    return !has_started_ && std::ranges::any_of(windows, [](const QWidget* window) {
+      return window->isVisible() && window->objectName() == "frmPresentacion";
+    });
+  }
+
   /// What the user does while a plot is being drawn or a menu is up. Only so many of these run
   /// inside one another; then the plot is stopped and the menu closed.
   void actInside() {
-    if (depth_ == 0 || ended_) return;
+    if (depth_ == 0 || ended_ || isBeingMade()) return;
     if (depth_ <= kDeepest) {
       ++depth_;
       ++inside_events_;
@@ -208,7 +217,9 @@ class Monkey : public WindowTest {
     forms_.reset();
     program.params = makeFormParams();
     forms_.emplace(program, "");
-    wait_.begin("start");
+    has_started_ = false;
+    forms_->started = [this] { has_started_ = true; };
+    wait_.begin("start");  // which is no event of the user's
     forms_->begin(step);
     wait_.end();
   }
@@ -217,7 +228,7 @@ class Monkey : public WindowTest {
   unsigned long rounds_ = 0;
   unsigned long inside_events_ = 0;  // of the events, those inside of others
   std::map<std::string, unsigned long> visits_;
-  Waits wait_;
+  Waits wait_{"start"};
 
  private:
   std::optional<Forms> forms_;
@@ -226,6 +237,7 @@ class Monkey : public WindowTest {
   std::array<QTimer, kDeepest + 1> inside_;  // a timer does not go off inside of itself
   int depth_ = 0;                            // of the events that are under way
   bool ended_ = false;
+  bool has_started_ = false;
   unsigned long events_seen_ = 0;
 };
 
