@@ -21,7 +21,7 @@ namespace {
 std::string settle(const std::string& program_folder, std::string document) {
   if (!zel::isInstalledProgram(program_folder)) return document;
   std::erase(document, '"');
-  const std::string path = zel::absolutePath(document);
+  std::string path = zel::absolutePath(document);
   zel::enterFolder(zel::userFolder());
   return path;
 }
@@ -42,6 +42,7 @@ int run(int& argument_count, char** arguments) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(new zel::ProgramStyle);
 
+  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
   const QFileInfo file(QApplication::applicationFilePath());
   const std::string folder = file.absolutePath().toStdString();
   zel::WidgetServices widgets(folder);

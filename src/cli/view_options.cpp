@@ -13,6 +13,7 @@ namespace {
 
 std::vector<double> numbers(const char* name, const std::vector<std::string>& arguments) {
   std::vector<double> result;
+  result.reserve(arguments.size());
   for (const std::string& argument : arguments) result.push_back(numberArgument(name, argument));
   return result;
 }

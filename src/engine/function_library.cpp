@@ -86,7 +86,7 @@ Computed factorial(double v) {
   if (v != std::nearbyint(v)) return gamma(v + 1);
   if (v == 0) return finite(1);
   double product = v;
-  for (double i = 1; i <= v - 1; ++i) product *= v - i;
+  for (int i = 1; i <= v - 1; ++i) product *= v - i;
   return finite(product);
 }
 
@@ -105,7 +105,8 @@ Computed divideIntegers(double left, double right) {
   if (!dividend || !divisor || *divisor == 0) return failed(Failure::fault);
   if (*dividend == std::numeric_limits<std::int32_t>::min() && *divisor == -1)
     return failed(Failure::fault);
-  return finite(*dividend / *divisor);
+  const std::int32_t quotient = *dividend / *divisor;
+  return finite(quotient);
 }
 
 /// The name of the function that "@" or "#" applied.

@@ -24,7 +24,7 @@ ZEL_ALWAYS_INLINE GammaSeries gammaSeries(double v, double logarithm) {
   ser += 24.0140982408309 / (y += 1);
   ser += -1.23173957245015 / (y += 1);
   ser += 0.00120865097386618 / (y += 1);
-  ser += -5.395239384953E-06 / (y += 1);
+  ser += -5.395239384953E-06 / (y + 1);
   return {2.506628274631 * ser / v, v + 5.5 - (v + 0.5) * logarithm};
 }
 

@@ -3,6 +3,7 @@
 // that is locked here while a save is about to lock it makes that save take another name.
 
 #include <memory>
+#include <string_view>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -43,13 +44,13 @@ void removeLeftovers(const std::filesystem::path& file) {
   const std::string& path = file.native();
   const std::size_t name_begin = path.rfind('/') + 1;
   const std::string folder = path.substr(0, name_begin);
+  const std::string_view own_name = std::string_view(path).substr(name_begin);
   const std::unique_ptr<DIR, CloseFolder> names(::opendir(folder.empty() ? "." : folder.c_str()));
   if (!names) return;
   for (std::size_t i = 0; i < kMostNamesLookedAt; ++i) {
     const dirent* const entry = ::readdir(names.get());
     if (entry == nullptr) return;
-    if (isTemporaryName(entry->d_name) &&
-        path.compare(name_begin, std::string::npos, entry->d_name))
+    if (isTemporaryName(entry->d_name) && entry->d_name != own_name)
       removeUnlessHeld(::dirfd(names.get()), entry->d_name);
   }
 }

@@ -86,7 +86,7 @@ class TemporaryFile {
 
   /// Lets others use it who may use a new file. Returns 0 or the error, and so do finish and
   /// renameTo.
-  int unhide() {
+  int unhide() const {
     const bool hidden = mode_ != kHiddenMode;
     return !hidden || ::fchmod(number(), mode_) == 0 ? 0 : errno;
   }

@@ -39,8 +39,10 @@ const KindInfo* kindInfo(char letter) {
 
 std::string substituteParameters(std::string_view code_template, const Parameters& parameters) {
   std::string code(code_template);
-  for (const auto& [key, value] : parameters)
-    code = replaceAllIgnoringCase(code, key, "(" + value + ")");
+  for (const auto& [key, value] : parameters) {
+    const std::string in_brackets = "(" + value + ")";
+    code = replaceAllIgnoringCase(code, key, in_brackets);
+  }
   return code;
 }
 

@@ -47,6 +47,9 @@ constexpr DoubleDouble reciprocal(DoubleDouble a) {
   return normalised(first, rest);
 }
 
+/// Of a whole number.
+constexpr DoubleDouble reciprocal(int a) { return reciprocal({static_cast<double>(a), 0}); }
+
 /// The values d,dd... x 10^exponent. Those from `low` to below `high` have 15 digits before the
 /// point when they are multiplied by `scale` = 10^(14 - exponent).
 struct Decade {

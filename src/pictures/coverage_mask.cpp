@@ -45,7 +45,7 @@ Bytes<std::uint8_t> blend(const Bytes<std::uint8_t>& pixels, const Bytes<std::ui
 /// Blends as many pixels as are blended at once.
 void blendGroup(std::uint32_t* place, const Bytes<std::uint8_t>& colour,
                 const std::uint8_t* covered) {
-  std::uint64_t any;
+  std::uint64_t any = 0;
   std::memcpy(&any, covered, sizeof any);
   if (any == 0) return;
   Bytes<std::uint8_t> pixels;
@@ -82,16 +82,18 @@ CoverageMask::CoverageMask(int width, int height, int margin)
       stride_(roundUp(width, kTileWidth) + 2 * margin_),
       tiles_across_(static_cast<int>(stride_) / kTileWidth),
       tiles_down_((roundUp(height, kTileHeight) + 2 * margin_) / kTileHeight),
-      covered_(static_cast<std::size_t>(stride_) *
-               static_cast<std::size_t>(tiles_down_ * kTileHeight)),
+      covered_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(tiles_down_) *
+               kTileHeight),
       touched_(static_cast<std::size_t>(tiles_across_) * static_cast<std::size_t>(tiles_down_)) {}
 
 void CoverageMask::touch(int left, int top, int right, int bottom) {
   const int first = (left + margin_) / kTileWidth;
   const int last = (right + margin_) / kTileWidth;
   for (int row = (top + margin_) / kTileHeight; row <= (bottom + margin_) / kTileHeight; ++row)
-    for (int tile = first; tile <= last; ++tile)
-      touched_[static_cast<std::size_t>(row * tiles_across_ + tile)] = 1;
+    for (int tile = first; tile <= last; ++tile) {
+      const int number = row * tiles_across_ + tile;
+      touched_[static_cast<std::size_t>(number)] = 1;
+    }
 }
 
 bool CoverageMask::blendOnto(Bitmap& bitmap, std::uint32_t colour) {

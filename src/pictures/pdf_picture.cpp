@@ -28,8 +28,10 @@ std::string lineTo(Point point) { return place(point) + " l\n"; }
 /// Red, green and blue as thousandths of the brightest.
 std::string colourOf(std::int32_t colour) {
   std::string text;
-  for (const int shift : {0, 8, 16})
-    text += coordinateText((((colour >> shift) & 0xFF) * 1000 + 127) / 255 / 1000.0) + " ";
+  for (const int shift : {0, 8, 16}) {
+    const int thousandths = (((colour >> shift) & 0xFF) * 1000 + 127) / 255;
+    text += coordinateText(thousandths / 1000.0) + " ";
+  }
   return text;
 }
 

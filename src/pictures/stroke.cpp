@@ -25,7 +25,10 @@ constexpr double kFixed = 4294967296;  // of places with 32 bits behind the poin
 
 std::int64_t fixed(double value) { return static_cast<std::int64_t>(std::floor(value * kFixed)); }
 
-std::int32_t inUnits(double value) { return static_cast<std::int32_t>(value * kUnit + 0.5); }
+/// What is negative covers nothing, however it is rounded.
+std::int32_t inUnits(double value) {
+  return static_cast<std::int32_t>(value * kUnit + 0.5);  // NOLINT(bugprone-incorrect-roundings)
+}
 
 /// The first column whose centre is not before a place.
 int columnFrom(double place) { return static_cast<int>(std::ceil(place - 0.5)); }
@@ -131,18 +134,18 @@ void Stroke::draw(const Course& course, LineEnds ends) {
   const auto inset = [slant](LineEnd end) {
     return end == LineEnd::round ? slant : end == LineEnd::crossed ? -slant : 0;
   };
-  const int first = columnFrom(course.along + inset(ends.start));
-  const int last = columnFrom(course.end - inset(ends.end));
+  const int body_begin = columnFrom(course.along + inset(ends.start));
+  const int body_end = columnFrom(course.end - inset(ends.end));
   const int begin = columnFrom(course.along - reach_);
   const int end = columnFrom(course.end + reach_);
-  if (first >= last) {
+  if (body_begin >= body_end) {
     if (ends.start == LineEnd::round || ends.end == LineEnd::round)
       drawCapsule<is_flat>(course, reach_, begin, end);
     return;
   }
-  if (ends.start == LineEnd::round) drawCapsule<is_flat>(course, reach_, begin, first);
-  drawBody<is_flat>(course, first, last);
-  if (ends.end == LineEnd::round) drawCapsule<is_flat>(course, reach_, last, end);
+  if (ends.start == LineEnd::round) drawCapsule<is_flat>(course, reach_, begin, body_begin);
+  drawBody<is_flat>(course, body_begin, body_end);
+  if (ends.end == LineEnd::round) drawCapsule<is_flat>(course, reach_, body_end, end);
 }
 
 template <bool is_flat>
@@ -182,7 +185,7 @@ void Stroke::drawCapsule(const Course& course, double reach, int first, int last
     touch<is_flat>(column, begin, column, end - 1);
     for (int pixel = begin; pixel < end; ++pixel)
       raise(is_flat ? *mask_.at(column, pixel) : *mask_.at(pixel, column),
-            static_cast<std::int32_t>((reach - course.distance(column, pixel)) * kUnit + 0.5));
+            inUnits(reach - course.distance(column, pixel)));
   }
 }
 

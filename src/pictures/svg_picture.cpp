@@ -18,7 +18,7 @@ std::string attribute(const char* name, double value) {
 
 std::string gridGroup(const NumberLayer& layer) {
   if (layer.grid.empty()) return {};
-  std::string group = "<g id=\"grid\" stroke=\"" + colourText(kGridColour) + "\" stroke-width=\"" +
+  std::string group = R"(<g id="grid" stroke=")" + colourText(kGridColour) + "\" stroke-width=\"" +
                       coordinateText(kAxisWidth) + "\">\n";
   for (const GridLine& line : layer.grid)
     group += "<line" + attribute("x1", line.from.x) + attribute("y1", line.from.y) +
@@ -30,7 +30,7 @@ std::string gridGroup(const NumberLayer& layer) {
 std::string numberGroup(const NumberLayer& layer) {
   if (layer.labels.empty()) return {};
   constexpr double kBaseline = 0.78;  // of the height of a line, from its top
-  std::string group = "<g id=\"numbers\" font-family=\"sans-serif\"" +
+  std::string group = R"(<g id="numbers" font-family="sans-serif")" +
                       attribute("font-size", layer.font_size) + " fill=\"" +
                       colourText(kNumberColour) + "\">\n";
   for (const PictureLabel& label : layer.labels) {

@@ -41,7 +41,8 @@ bool Viewport::isInside(double x, double y) const {
 std::optional<std::int16_t> Viewport::sampleCount() const {
   const auto pixels = roundToInt32(size.pixel_width);
   if (!pixels) return std::nullopt;
-  return roundToInt16(static_cast<double>(*pixels / 100) * view.definicion);
+  const std::int32_t hundreds = *pixels / 100;
+  return roundToInt16(static_cast<double>(hundreds) * view.definicion);
 }
 
 bool Viewport::makeProportional() {

@@ -86,6 +86,7 @@ std::string progressBar(std::size_t done, std::size_t all) {
 std::vector<RenderJob> picturesInFolder(const std::vector<std::string>& files,
                                         const std::string& folder, const std::string& ending) {
   std::vector<RenderJob> jobs;
+  jobs.reserve(files.size());
   const std::string start = pathOf(folder).has_filename() ? folder + '/' : folder;
   for (const std::string& file : files)
     jobs.push_back({file, start + pictureName(file, ending), ending});

@@ -23,9 +23,8 @@
 namespace zel {
 
 QAction* frmDatosIni::addCommand(QMenu* menu, const char* name, void (frmDatosIni::*handler)()) {
-  auto* action = menu->addAction(QString());
+  auto* action = menu->addAction(QString(), this, handler);
   action->setObjectName(QString::fromLatin1(name));
-  connect(action, &QAction::triggered, this, handler);
   return action;
 }
 

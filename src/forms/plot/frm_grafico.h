@@ -92,7 +92,7 @@ class frmGrafico : public Form, public PrintedWindow, private PlotListener {
 
   QWidget* inside_;  // the window without its bars
   PictureBox* picGrafico_;
-  PlotOverlay* overlay_;
+  PlotOverlay* overlay_ = nullptr;
   GraphBar* graph_bar_;
   GraphLegend* legend_;
   PlotToolbar* Toolbar1_;

@@ -28,7 +28,6 @@ frmGrafico::frmGrafico(Program& program)
     : Form(program, "frmGrafico"),
       inside_(new QWidget),
       picGrafico_(new PictureBox(inside_)),
-      overlay_(nullptr),
       graph_bar_(new GraphBar(inside_)),
       legend_(new GraphLegend(inside_)),
       Toolbar1_(new PlotToolbar),

@@ -24,11 +24,11 @@ inline constexpr auto kArcTable = [] {
     table[2 * i + 1] = arc.low;
     table[2 * (kArcs + i)] = other.high;
     table[2 * (kArcs + i) + 1] = other.low;
-    const double n = static_cast<double>(i);
-    const DoubleDouble step = multiply({64, 0}, reciprocal({4096 + n * (n + 1), 0}));
+    const int n = static_cast<int>(i);
+    const DoubleDouble step = multiply({64, 0}, reciprocal(4096 + n * (n + 1)));
     const DoubleDouble square = multiply(step, step);
     DoubleDouble sum = {0, 0};
-    for (double odd = 21; odd > 0; odd -= 2) sum = reciprocal({odd, 0}) - multiply(sum, square);
+    for (int odd = 21; odd > 0; odd -= 2) sum = reciprocal(odd) - multiply(sum, square);
     arc = arc + multiply(step, sum);
   }
   return table;

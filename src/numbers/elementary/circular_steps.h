@@ -20,11 +20,11 @@ inline constexpr std::size_t kStepsOfCircle = 512;
 inline constexpr std::size_t kStepsOfQuarter = kStepsOfCircle / 4;
 
 /// The sum of (-1)^k x^(n + 2k) / (n + 2k)!, for small x.
-constexpr DoubleDouble alternatingSeries(DoubleDouble x, double n) {
+constexpr DoubleDouble alternatingSeries(DoubleDouble x, int n) {
   const DoubleDouble square = multiply(x, x);
   DoubleDouble sum = {1, 0};
-  for (double k = n + 16; k > n; k -= 2)
-    sum = DoubleDouble{1, 0} - multiply(multiply(square, sum), reciprocal({k * (k - 1), 0}));
+  for (int k = n + 16; k > n; k -= 2)
+    sum = DoubleDouble{1, 0} - multiply(multiply(square, sum), reciprocal(k * (k - 1)));
   return n == 0 ? sum : multiply(x, sum);
 }
 

@@ -21,8 +21,8 @@ inline constexpr std::size_t kPowersOfTwo = 128;
 inline constexpr auto kPowersOfTwoTable = [] {
   const DoubleDouble step = {kLn2.high / kPowersOfTwo, kLn2.low / kPowersOfTwo};
   DoubleDouble root = {1, 0};
-  for (double n = 18; n > 0; --n)
-    root = DoubleDouble{1, 0} + multiply(multiply(step, root), reciprocal({n, 0}));
+  for (int n = 18; n > 0; --n)
+    root = DoubleDouble{1, 0} + multiply(multiply(step, root), reciprocal(n));
   std::array<double, 2 * kPowersOfTwo> table{};
   DoubleDouble power = {1, 0};
   for (std::size_t i = 0; i < kPowersOfTwo; ++i) {
@@ -66,7 +66,7 @@ ZEL_ALWAYS_INLINE ScaledExponential exponentialOf(double high, double low) {
   const DoubleDouble product = exactProduct<Arithmetic>(power, r);
   const DoubleDouble sum = sumOfOrdered(power, product.high);
   const double power_low = multiplyAdd<Arithmetic>(kPowersOfTwoTable[i + 1], 1 + r, product.low);
-  const double scale = std::bit_cast<double>(((bits / kPowersOfTwo) + 1023) << 52);
+  const auto scale = std::bit_cast<double>(((bits / kPowersOfTwo) + 1023) << 52);
   return {sum.high, sum.low + multiplyAdd<Arithmetic>(power, beyond_r, power_low), scale};
 }
 

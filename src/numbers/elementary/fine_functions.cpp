@@ -7,8 +7,8 @@ namespace zel {
 
 SineCosine fineSineCosine(const ReducedAngle& angle) {
   constexpr DoubleDouble kHalf = {0.5, 0};
-  constexpr DoubleDouble kSixth = reciprocal({6, 0});
-  constexpr DoubleDouble kTwentyFourth = reciprocal({24, 0});
+  constexpr DoubleDouble kSixth = reciprocal(6);
+  constexpr DoubleDouble kTwentyFourth = reciprocal(24);
   const DoubleDouble& r = angle.rest;
   const DoubleDouble square = multiply(r, r);
   const double s = square.high;

@@ -32,11 +32,11 @@ constexpr GridLogarithm onGrid(DoubleDouble logarithm) {
 }
 
 /// 2 artanh(1 / (2n + 1)) = ln((n + 1) / n), for n from 256 on.
-constexpr DoubleDouble logarithmOfNextOver(double n) {
-  const DoubleDouble inverse = reciprocal({2 * n + 1, 0});
+constexpr DoubleDouble logarithmOfNextOver(int n) {
+  const DoubleDouble inverse = reciprocal(2 * n + 1);
   const DoubleDouble square = multiply(inverse, inverse);
   DoubleDouble sum = {0, 0};
-  for (double odd = 13; odd > 0; odd -= 2) sum = multiply(sum, square) + reciprocal({odd, 0});
+  for (int odd = 13; odd > 0; odd -= 2) sum = multiply(sum, square) + reciprocal(odd);
   const DoubleDouble half = multiply(inverse, sum);
   return {2 * half.high, 2 * half.low};
 }
@@ -58,7 +58,7 @@ inline constexpr auto kLogarithmTable = [] {
     const std::size_t divisor = kLogarithms + j;
     const std::size_t nearest = (2 * kInverses * kLogarithms + divisor) / (2 * divisor);
     const std::size_t next = j + 1 < kLogarithms ? nearest : kInverses / 2;
-    for (; n > next; --n) logarithm = logarithm + logarithmOfNextOver(static_cast<double>(n - 1));
+    for (; n > next; --n) logarithm = logarithm + logarithmOfNextOver(static_cast<int>(n - 1));
     const GridLogarithm taken = onGrid(logarithm);
     const double inverse = static_cast<double>(n) / kInverses;
     table.word[j] = std::bit_cast<std::uint64_t>(inverse) | taken.on_grid;
@@ -92,7 +92,7 @@ ZEL_ALWAYS_INLINE double restOf(double m, double inverse) {
   if constexpr (Arithmetic::kIsFused) {
     return std::fma(m, inverse, -1);
   } else {
-    const double upper = std::bit_cast<double>(std::bit_cast<std::uint64_t>(m) & kUpperBits);
+    const auto upper = std::bit_cast<double>(std::bit_cast<std::uint64_t>(m) & kUpperBits);
     return (upper * inverse - 1) + (m - upper) * inverse;
   }
 }
@@ -108,10 +108,10 @@ ZEL_ALWAYS_INLINE ReducedLogarithm reduceLogarithm(double x) {
   const auto bits = std::bit_cast<std::uint64_t>(x);
   const std::uint64_t m_bits = (bits & kMantissa) | kOne;
   const std::size_t j = (m_bits - (kOne - kHalfInterval)) >> 44;
-  const double m = std::bit_cast<double>(m_bits);
+  const auto m = std::bit_cast<double>(m_bits);
   const double k = fromLastBits(bits >> 52, kLastIsOne, kLastIsOne + 1023);
   const std::uint64_t word = kLogarithmTable.word[j];
-  const double inverse = std::bit_cast<double>(word & kUpperBits);
+  const auto inverse = std::bit_cast<double>(word & kUpperBits);
   const double on_grid = fromLastBits(word & ~kUpperBits, kLastIsGrid, kLastIsGrid);
   return {multiplyAdd<Arithmetic>(k, kLn2OnGrid, on_grid),
           multiplyAdd<Arithmetic>(k, kLn2BeyondGrid, kLogarithmTable.beyond_grid[j]),

@@ -152,7 +152,7 @@ void HelpWindow::listTopics() {
   const auto& headings = text_->headings();
   for (std::size_t i = 0; i < headings.size(); ++i) {
     if (headings[i].level > kDeepestTopic) continue;
-    const QString indent(2 * std::max(0, headings[i].level - 2), ' ');
+    const QString indent(2 * std::max<qsizetype>(0, headings[i].level - 2), ' ');
     auto* const item = new QListWidgetItem(indent + headings[i].text, topics_);
     item->setData(kHeadingRole, static_cast<int>(i));
   }

@@ -59,7 +59,7 @@ TEST(AlternatingSeries, IsTheSineAndTheCosineOfASmallAngle) {
 }
 
 TEST(LogarithmOfNextOver, IsTheLogarithmOfTheQuotient) {
-  for (double n = 128; n < 256; ++n) {
+  for (int n = 128; n < 256; ++n) {
     const Wide exact = wideLogarithm(n + 1) - wideLogarithm(n);
     EXPECT_EQ(logarithmOfNextOver(n).high, exact.nearest()) << n;
   }
