@@ -2,7 +2,7 @@
 # scripts/analyse.sh [--most COUNT] [REGEX]: cppcheck over src, and clang-tidy over the sources whose
 # path below the project matches (all of src without a word). What has passed is not looked at again
 # until it changes; with --most clang-tidy looks only at so many of the others, those that were
-# changed last.
+# changed last of those that are compiled like the latest.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
