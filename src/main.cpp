@@ -42,7 +42,6 @@ int run(int& argument_count, char** arguments) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(new zel::ProgramStyle);
 
-  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
   const QFileInfo file(QApplication::applicationFilePath());
   const std::string folder = file.absolutePath().toStdString();
   zel::WidgetServices widgets(folder);
