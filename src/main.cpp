@@ -40,6 +40,7 @@ int run(int& argument_count, char** arguments) {
   QApplication::setApplicationName("zel");
   QApplication::setDesktopFileName("zel");
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setQuitLockEnabled(false);  // a job of the toolkit that ends would end the program
   QApplication::setStyle(new zel::ProgramStyle);
 
   const QFileInfo file(QApplication::applicationFilePath());

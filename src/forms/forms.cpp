@@ -1,6 +1,7 @@
 #include "forms/forms.h"
 
 #include <QApplication>
+#include <new>
 #include <utility>
 
 #include "forms/editor/frm_adm_graficos.h"
@@ -32,15 +33,15 @@ bool Forms::begin(StartStep step) {
   });
 }
 
-void Forms::keep() {
-  if (!acerca_de_) return;
-  datos_ini_->keepSession();
-  writeConfig(program_.config_path, program_.configuration);
+void Forms::keep() try {
+  if (acerca_de_) datos_ini_->keepSession();
+} catch (const std::bad_alloc&) {
+  // What cannot be kept is passed over; a logout goes on.
 }
 
 void Forms::quit() {
-  if (!acerca_de_) return program_.end_process();
-  datos_ini_->endProgram();
+  keep();
+  acerca_de_ ? shutDown(program_) : program_.end_process();
 }
 
 void Forms::chooseLanguage() {

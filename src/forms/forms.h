@@ -37,8 +37,8 @@ class Forms {
   std::function<void()> started = [] {};
 
  private:
-  /// Keeps what the end of the program keeps, and goes on: a logout may still be called off. Does
-  /// nothing until all windows are there.
+  /// Keeps the session, and goes on: a logout may still be called off. Does nothing until all
+  /// windows are there.
   void keep();
 
   void chooseLanguage();

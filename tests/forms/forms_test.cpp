@@ -226,7 +226,7 @@ TEST_F(EndOfTheDesktopsSession, IsPreparedWithoutAnEnd) {
   askToKeep();
   EXPECT_EQ(ends, 0);
   EXPECT_TRUE(isKept());
-  EXPECT_TRUE(std::filesystem::exists("config.ini"));
+  EXPECT_FALSE(std::filesystem::exists("config.ini")) << "that is written right before the end";
   EXPECT_NE(shown("frmGrafico"), nullptr);
 }
 

@@ -49,8 +49,6 @@ class frmDatosIni : public Form {
 
   /// Keeps the declarations for the next session.
   void keepSession();
-  /// The same, and ends the process.
-  void endProgram();
 
   /// Sets the box and lets the y range be edited exactly when it is off.
   void actProporcional(bool on);
@@ -114,6 +112,8 @@ class frmDatosIni : public Form {
   void showDocument(const MainView& view, bool is_new);
   void openPath(const std::string& path);
   void openRecentPath(const std::string& path);
+  /// Keeps the session, and ends the process.
+  void endProgram();
   void updateLanguageMenu();
   void updateTitle();
   void updateList();
