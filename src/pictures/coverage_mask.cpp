@@ -8,6 +8,7 @@
 #include <array>
 #include <bit>
 #include <cstring>
+#include <optional>
 
 namespace zel {
 namespace {
@@ -75,15 +76,16 @@ Bytes<std::uint8_t> opaque(std::uint32_t colour) {
 
 }  // namespace
 
-CoverageMask::CoverageMask(int width, int height, int margin)
+CoverageMask::CoverageMask(int width, int height, int margin, const Pause& pause)
     : width_(width),
       height_(height),
       margin_(roundUp(margin, kTileWidth)),
       stride_(roundUp(width, kTileWidth) + 2 * margin_),
       tiles_across_(static_cast<int>(stride_) / kTileWidth),
       tiles_down_((roundUp(height, kTileHeight) + 2 * margin_) / kTileHeight),
-      covered_(static_cast<std::size_t>(stride_) * static_cast<std::size_t>(tiles_down_) *
-               kTileHeight),
+      covered_(filledVector(
+          static_cast<std::size_t>(stride_) * static_cast<std::size_t>(tiles_down_) * kTileHeight,
+          std::uint8_t{0}, pause)),
       touched_(static_cast<std::size_t>(tiles_across_) * static_cast<std::size_t>(tiles_down_)) {}
 
 void CoverageMask::touch(int left, int top, int right, int bottom) {
@@ -96,9 +98,12 @@ void CoverageMask::touch(int left, int top, int right, int bottom) {
     }
 }
 
-bool CoverageMask::blendOnto(Bitmap& bitmap, std::uint32_t colour) {
+bool CoverageMask::blendOnto(Bitmap& bitmap, std::uint32_t colour, const Pause& pause) {
   const Bytes<std::uint8_t> bytes = opaque(colour);
+  std::optional<int> row;
   return takeTouched([&](int left, int top) {
+    if (row && *row != top) pause();
+    row = top;
     const int count = std::min(kTileWidth, width_ - left);
     if (left >= 0 && top >= 0 && count > 0) {
       for (int y = top; y < std::min(top + kTileHeight, height_); ++y)

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "pictures/bitmap.h"
+#include "pictures/pause.h"
 
 namespace zel {
 
@@ -17,7 +18,7 @@ class CoverageMask {
   static constexpr int kTileHeight = 8;
 
   /// In pixels; the margin is at least what is asked for.
-  CoverageMask(int width, int height, int margin);
+  CoverageMask(int width, int height, int margin, const Pause& pause);
 
   int width() const { return width_; }
   int height() const { return height_; }
@@ -32,7 +33,7 @@ class CoverageMask {
 
   /// Lays a colour, 0xRRGGBB, on the bitmap by its coverage, and is empty then. False when it was
   /// empty before.
-  bool blendOnto(Bitmap& bitmap, std::uint32_t colour);
+  bool blendOnto(Bitmap& bitmap, std::uint32_t colour, const Pause& pause);
   void clear();
 
  private:

@@ -9,17 +9,17 @@
 
 namespace zel {
 
-/// Compresses what it is given, part by part, into one zlib stream. Made for speed: a picture of
-/// curves takes a few per cent more bytes than it could.
+/// Compresses what it is given, part by part, into one zlib stream behind a text. Made for speed: a
+/// picture of curves takes a few per cent more bytes than it could.
 class Deflate {
  public:
-  Deflate();
+  explicit Deflate(std::string before = {});
   ~Deflate();
   Deflate& operator=(Deflate&&) noexcept;
 
   void take(std::span<const std::uint8_t> part);
   void take(std::string_view part);
-  /// Ends the stream: all of it, once. Empty when it could not be made.
+  /// Ends the stream: the text and all of it, once. Empty when it could not be made.
   std::string finish();
 
  private:

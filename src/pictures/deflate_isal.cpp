@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include <isa-l/crc.h>
@@ -55,7 +56,8 @@ struct Deflate::Stream {
   }
 };
 
-Deflate::Deflate() : stream_(std::make_unique<Stream>()) {
+Deflate::Deflate(std::string before)
+    : stream_(std::make_unique<Stream>()), output_(std::move(before)) {
   isal_zstream& z = stream_->z;
   isal_deflate_init(&z);
   z.level = 1;

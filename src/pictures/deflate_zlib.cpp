@@ -1,4 +1,5 @@
 #include <array>
+#include <utility>
 
 #include <zlib.h>
 
@@ -27,7 +28,8 @@ struct Deflate::Stream {
   }
 };
 
-Deflate::Deflate() : stream_(std::make_unique<Stream>()) {
+Deflate::Deflate(std::string before)
+    : stream_(std::make_unique<Stream>()), output_(std::move(before)) {
   has_failed_ = deflateInit(&stream_->z, Z_BEST_SPEED) != Z_OK;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <new>
+#include <utility>
 
 #include "pictures/pdf_picture.h"
 #include "pictures/png.h"
@@ -28,13 +29,15 @@ class SvgFile : public FilePicture {
 
 class PngFile : public FilePicture {
  public:
-  PngFile(int width, int height, double scale)
-      : picture_(scaled(width, scale), scaled(height, scale), scale) {}
+  PngFile(int width, int height, double scale, GoesOn goes_on)
+      : goes_on_(std::move(goes_on)),
+        picture_(scaled(width, scale), scaled(height, scale), scale, [this] { goes_on_(); }) {}
 
   Picture& picture() override { return picture_; }
-  std::string bytes() override { return writePng(picture_.finish()); }
+  std::string bytes() override { return writePng(picture_.finish(), goes_on_); }
 
  private:
+  GoesOn goes_on_;
   RasterPicture picture_;
 };
 
@@ -58,9 +61,9 @@ bool canMakePicture(std::string_view ending) {
 }
 
 std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height,
-                                             double scale) try {
+                                             double scale, GoesOn goes_on) try {
   if (ending == "svg") return std::make_unique<SvgFile>(width, height, scale);
-  if (ending == "png") return std::make_unique<PngFile>(width, height, scale);
+  if (ending == "png") return std::make_unique<PngFile>(width, height, scale, std::move(goes_on));
   if (ending == "pdf") return std::make_unique<PdfFile>(width, height, scale);
   return nullptr;
 } catch (const std::bad_alloc&) {

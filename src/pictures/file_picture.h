@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "pictures/pause.h"
 #include "pictures/picture.h"
 
 namespace zel {
@@ -16,7 +17,7 @@ class FilePicture {
   virtual Picture& picture() = 0;
   /// It has outgrown its bound and takes nothing more.
   virtual bool isFull() const { return false; }
-  /// The bytes of the whole file, once; empty when they could not be made.
+  /// The bytes of the whole file, once; empty when they could not be made or were given up.
   virtual std::string bytes() = 0;
 };
 
@@ -25,8 +26,11 @@ bool canMakePicture(std::string_view ending);
 
 /// A picture of a size in pixels of 15 twips in the format of a file's ending, so many times as
 /// large as that when it is shown: a PNG file has more pixels then, the lines of the others are the
-/// same. Null for any other ending, and when there is not memory enough.
-std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width, int height,
-                                             double scale = 1);
+/// same. Null for any other ending, and when there is not memory enough. What takes long of a PNG
+/// file, from here to its bytes, asks now and then whether it goes on; only the making of the bytes
+/// is given up when it does not.
+std::unique_ptr<FilePicture> makeFilePicture(
+    std::string_view ending, int width, int height, double scale = 1,
+    GoesOn goes_on = [] { return true; });
 
 }  // namespace zel

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <new>
 #include <vector>
+
+#include "pictures/pause.h"
 
 namespace zel {
 
@@ -43,5 +46,19 @@ struct LargeMemory {
 
 template <class Number>
 using LargeVector = std::vector<Number, LargeMemory<Number>>;
+
+/// So many times the same number. The system hands memory over at its first touch and may take a
+/// second for a large picture, so there is a pause at each large page.
+template <class Number>
+LargeVector<Number> filledVector(std::size_t size, Number number, const Pause& pause) {
+  constexpr std::size_t kPart = LargeMemory<Number>::kLargePage / sizeof(Number);
+  LargeVector<Number> numbers;
+  numbers.reserve(size);
+  for (;;) {
+    numbers.resize(std::min(size, numbers.size() + kPart), number);
+    if (numbers.size() == size) return numbers;
+    pause();
+  }
+}
 
 }  // namespace zel

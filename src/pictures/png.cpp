@@ -12,6 +12,7 @@
 #include <limits>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "pictures/deflate.h"
@@ -21,24 +22,26 @@ namespace {
 
 constexpr std::string_view kSignature = "\x89PNG\r\n\x1a\n";
 constexpr std::size_t kBytesPerPixel = 3;
+constexpr std::size_t kLengthAndType = 8;  // bytes before the data of a chunk
+constexpr std::size_t kLongestChunk = std::numeric_limits<std::int32_t>::max();
 
-void appendNumber(std::string& text, std::uint32_t number) {
+std::string fourBytes(std::size_t number) {
+  std::string text;
   for (const int shift : {24, 16, 8, 0}) text += static_cast<char>(number >> shift & 0xff);
+  return text;
 }
 
 /// Length, type, data and checksum.
 void appendChunk(std::string& file, std::string_view type, std::string_view data) {
-  appendNumber(file, static_cast<std::uint32_t>(data.size()));
-  file.append(type).append(data);
-  appendNumber(file, checksum(data, checksum(type)));
+  file.append(fourBytes(data.size())).append(type).append(data);
+  file += fourBytes(checksum(data, checksum(type)));
 }
 
 std::string header(const Bitmap& bitmap) {
   constexpr std::string_view kEightBitColour("\x08\x02\0\0\0", 5);
-  std::string data;
-  appendNumber(data, static_cast<std::uint32_t>(bitmap.width));
-  appendNumber(data, static_cast<std::uint32_t>(bitmap.height));
-  return data.append(kEightBitColour);
+  const auto width = static_cast<std::size_t>(bitmap.width);
+  const auto height = static_cast<std::size_t>(bitmap.height);
+  return fourBytes(width) + fourBytes(height) + std::string(kEightBitColour);
 }
 
 /// The colours of a pixel as PNG has them, in the first three of four bytes.
@@ -81,20 +84,21 @@ void writeRow(std::span<const std::uint32_t> pixels, std::uint8_t* row) {
 /// Rows are compressed in parts of some hundred thousand bytes: each part costs time of its own.
 constexpr std::size_t kPart = std::size_t{1} << 17;
 
-/// All rows in one stream; empty when it could not be made.
-std::string compressedRows(const Bitmap& bitmap) {
+/// All rows in one stream behind a text; empty when it could not be made or was given up.
+std::string withRows(std::string before, const Bitmap& bitmap, const GoesOn& goes_on) {
   const auto width = static_cast<std::size_t>(bitmap.width);
   const auto height = static_cast<std::size_t>(bitmap.height);
   const std::size_t row_bytes = 1 + width * kBytesPerPixel;
   const std::size_t rows = std::clamp<std::size_t>(kPart / row_bytes, 1, height);
   std::vector<std::uint8_t> part(rows * row_bytes + 1);
-  Deflate deflate;
+  Deflate deflate(std::move(before));
   std::size_t filled = 0;
   for (int y = 0; y < bitmap.height; ++y) {
     writeRow({bitmap.row(y), width}, part.data() + filled);
     filled += row_bytes;
     if (filled + row_bytes < part.size() && y + 1 < bitmap.height) continue;
     deflate.take(std::span(part.data(), filled));
+    if (!goes_on()) return {};
     filled = 0;
   }
   return deflate.finish();
@@ -102,13 +106,16 @@ std::string compressedRows(const Bitmap& bitmap) {
 
 }  // namespace
 
-std::string writePng(const Bitmap& bitmap) {
+std::string writePng(const Bitmap& bitmap, const GoesOn& goes_on) {
   if (bitmap.pixels.empty()) return {};
-  const std::string compressed = compressedRows(bitmap);
-  if (compressed.empty() || compressed.size() > std::numeric_limits<std::int32_t>::max()) return {};
-  std::string file(kSignature);
-  appendChunk(file, "IHDR", header(bitmap));
-  appendChunk(file, "IDAT", compressed);
+  std::string start(kSignature);
+  appendChunk(start, "IHDR", header(bitmap));
+  const std::size_t length_at = start.size();
+  const std::size_t data_at = length_at + kLengthAndType;
+  std::string file = withRows(start + fourBytes(0) + "IDAT", bitmap, goes_on);
+  if (file.size() <= data_at || file.size() - data_at > kLongestChunk) return {};
+  file.replace(length_at, 4, fourBytes(file.size() - data_at));
+  file += fourBytes(checksum(std::string_view(file).substr(length_at + 4)));
   appendChunk(file, "IEND", {});
   return file;
 }

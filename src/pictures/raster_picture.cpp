@@ -20,9 +20,9 @@ constexpr std::uint32_t kBlack = 0;
 
 double halfCurveWidth(double density) { return kCurveWidth * density / kTwipsPerPixel / 2; }
 
-Bitmap whiteBitmap(int width, int height) {
+Bitmap whiteBitmap(int width, int height, const Pause& pause) {
   const auto size = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-  return {width, height, LargeVector<std::uint32_t>(size, kWhite)};
+  return {width, height, filledVector(size, kWhite, pause)};
 }
 
 std::uint32_t fromRedLow(std::int32_t colour) {
@@ -70,12 +70,13 @@ Pixels extent(double one, double other, int width, int size) {
 
 }  // namespace
 
-RasterPicture::RasterPicture(int width, int height, double density)
-    : bitmap_(whiteBitmap(std::max(width, 1), std::max(height, 1))),
+RasterPicture::RasterPicture(int width, int height, double density, Pause pause)
+    : bitmap_(whiteBitmap(std::max(width, 1), std::max(height, 1), pause)),
       density_(density),
       axis_width_(
           std::max(1, static_cast<int>(std::lround(kAxisWidth * density / kTwipsPerPixel)))),
-      mask_(bitmap_.width, bitmap_.height, Stroke::marginFor(halfCurveWidth(density))) {}
+      mask_(bitmap_.width, bitmap_.height, Stroke::marginFor(halfCurveWidth(density)), pause),
+      pause_(std::move(pause)) {}
 
 void RasterPicture::clear() {
   piece_.reset();
@@ -114,7 +115,7 @@ void RasterPicture::dot(Point centre, double radius) {
 
 const Bitmap& RasterPicture::finish() {
   endPiece();
-  if (mask_.blendOnto(bitmap_, colour_)) is_blank_ = false;
+  if (mask_.blendOnto(bitmap_, colour_, pause_)) is_blank_ = false;
   return bitmap_;
 }
 
@@ -127,7 +128,7 @@ Bitmap RasterPicture::soFar() const {
 Bitmap RasterPicture::exchange(Bitmap reused) {
   finish();
   if (reused.width != bitmap_.width || reused.height != bitmap_.height)
-    reused = whiteBitmap(bitmap_.width, bitmap_.height);
+    reused = whiteBitmap(bitmap_.width, bitmap_.height, pause_);
   std::swap(bitmap_, reused);
   is_blank_ = false;
   clear();

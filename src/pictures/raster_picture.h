@@ -6,6 +6,7 @@
 #include "pictures/bitmap.h"
 #include "pictures/coverage_mask.h"
 #include "pictures/line_joiner.h"
+#include "pictures/pause.h"
 #include "pictures/picture.h"
 #include "pictures/stroke.h"
 
@@ -17,8 +18,10 @@ namespace zel {
 class RasterPicture : public Picture {
  public:
   /// The size in pixels of the device, at least 1 x 1; the density is how many of them a pixel of
-  /// 15 twips has in each direction.
-  RasterPicture(int width, int height, double density = 1);
+  /// 15 twips has in each direction. There are pauses while a large one is made, and where a graph
+  /// is laid on it.
+  RasterPicture(
+      int width, int height, double density = 1, Pause pause = [] {});
 
   void clear() override;
   void beginAxes() override;
@@ -67,6 +70,7 @@ class RasterPicture : public Picture {
   std::uint32_t colour_ = 0;  // of that graph, 0xRRGGBB
   bool is_blank_ = true;      // nothing but white in bitmap_
   std::optional<Piece> piece_;
+  Pause pause_;
 };
 
 }  // namespace zel

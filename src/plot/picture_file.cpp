@@ -41,17 +41,24 @@ RedrawOutcome drawOpenedView(const OpenedView& opened, const PictureSize& size, 
 
 PictureFile drawPictureFile(const PictureJob& job, Engine& engine, const GraphTable& graphs,
                             const DrawingWatcher& goes_on) {
-  const auto file = makeFilePicture(job.ending, job.width, job.height, job.scale);
+  StatusPanels shown;
+  bool is_wanted = true;
+  const GoesOn is_still_wanted = [&] { return is_wanted = is_wanted && goes_on(shown); };
+  const auto file = makeFilePicture(job.ending, job.width, job.height, job.scale, is_still_wanted);
   if (!file) return {{}, "Valores demasiado grandes para operar."};
   const auto goes_on_growing = [&](const StatusPanels& status) {
-    return goes_on(status) && !file->isFull();
+    shown = status;
+    return is_still_wanted() && !file->isFull();
   };
   const RedrawOutcome outcome =
       drawOpenedView(job.opened, PictureSize::ofPixels(job.width, job.height), engine, graphs,
                      file->picture(), goes_on_growing);
+  if (!is_wanted) return {};
   if (file->isFull()) return {{}, redrawMessage(RedrawOutcome::failed)};
   if (outcome != RedrawOutcome::drawn) return {{}, redrawMessage(outcome)};
+  shown = {};
   std::string bytes = file->bytes();
+  if (!is_wanted) return {};
   if (bytes.empty()) return {{}, messages::kCannotSave};
   return {std::move(bytes), {}};
 }

@@ -33,8 +33,9 @@ struct PictureJob {
   double scale = 1;  // how many times as large it is shown
 };
 
-/// Asked now and then while a picture is drawn, with what a status bar would show; the drawing is
-/// given up when it answers false. Pending events may run in it.
+/// Asked now and then while a picture is drawn, with what a status bar would show, and while a file
+/// is made ready for the drawing and made of it, when nothing would be shown. All is given up when
+/// it answers false. Pending events may run in it.
 using DrawingWatcher = std::function<bool(const StatusPanels&)>;
 
 /// The bytes of a file, or why there are none, in Spanish for Localize. Neither when the drawing

@@ -65,6 +65,25 @@ TEST(FilePictureInAScale, StaysOneWhenItIsCleared) {
   }
 }
 
+TEST(FilePicture, AsksWhileAPngIsMadeReadyAndMadeWhetherItGoesOn) {
+  int asked = 0;
+  const auto file = makeFilePicture("png", 2000, 1000, 1, [&] { return ++asked > 0; });
+  EXPECT_GT(asked, 0);
+  draw(file->picture());
+  asked = 0;
+  const std::string bytes = file->bytes();
+  EXPECT_GT(asked, 0);
+  const auto silent = makeFilePicture("png", 2000, 1000);
+  draw(silent->picture());
+  EXPECT_TRUE(bytes == silent->bytes());
+}
+
+TEST(FilePicture, HasNoBytesWhereTheyAreGivenUp) {
+  const auto file = makeFilePicture("png", 2000, 1000, 1, [] { return false; });
+  draw(file->picture());
+  EXPECT_EQ(file->bytes(), "");
+}
+
 TEST(FilePicture, IsMadeForThreeEndingsInLowerCaseAndForNoOther) {
   for (const char* ending : {"svg", "png", "pdf"}) {
     EXPECT_TRUE(canMakePicture(ending)) << ending;

@@ -71,6 +71,28 @@ TEST(Png, HasTheSameBytesWhereverItIsCompressed) {
   }
 }
 
+constexpr std::size_t kPart = std::size_t{1} << 17;  // bytes of rows, at the most
+
+TEST(Png, AsksBehindEachPartWhetherItGoesOnAndHasTheSameBytes) {
+  const Bitmap bitmap = drawn();
+  std::size_t asked = 0;
+  const std::string file = writePng(bitmap, [&] {
+    ++asked;
+    return true;
+  });
+  EXPECT_GE(asked, 3 * bitmap.pixels.size() / kPart);
+  EXPECT_TRUE(file == writePng(bitmap));
+}
+
+TEST(Png, IsNotMadeWhereItIsGivenUp) {
+  const Bitmap bitmap = plain(800, 600);
+  for (std::size_t last = 1; last <= 3 * bitmap.pixels.size() / kPart; ++last) {
+    std::size_t asked = 0;
+    EXPECT_EQ(writePng(bitmap, [&] { return ++asked < last; }), "");
+    EXPECT_EQ(asked, last) << "it is given up at once";
+  }
+}
+
 TEST(Png, MakesNothingOfNoBitmap) { EXPECT_EQ(writePng(Bitmap()), ""); }
 
 TEST(Png, IsCheckedByAReaderThatKnowsDamage) {

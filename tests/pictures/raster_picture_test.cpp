@@ -392,5 +392,26 @@ TEST(RasterSize, MayBeAnyNumberOfPixels) {
   }
 }
 
+// 2 MB of pixels, and of the coverage of them, come between two pauses.
+TEST(LargeRaster, PausesWhileItIsMade) {
+  int pauses = 0;
+  const RasterPicture picture(2048, 2048, 1, [&] { ++pauses; });
+  EXPECT_EQ(pauses, 7 + 2);
+}
+
+TEST(LargeRaster, PausesWhereAGraphIsLaidOnIt) {
+  int pauses = 0;
+  RasterPicture picture(100, 800, 1, [&] { ++pauses; });
+  RasterPicture other(100, 800);
+  for (RasterPicture* one : {&picture, &other}) {
+    one->beginGraph('a', kRed);
+    one->startPiece(atPixel(50, 20));
+    one->extendPiece(atPixel(50, 780));
+  }
+  EXPECT_EQ(pauses, 0);
+  EXPECT_TRUE(picture.finish() == other.finish());
+  EXPECT_GE(pauses, 760 / CoverageMask::kTileHeight);
+}
+
 }  // namespace
 }  // namespace zel::test

@@ -195,13 +195,17 @@ DrawingWatcher frmExportar::watch(int mine) {
   since_events_.start();
   return [this, mine](const StatusPanels& status) {
     if (since_events_.elapsed() >= kEventInterval) {
-      if (since_begin_.elapsed() >= kTellsAfter)
-        LblEstado_->setText(toQt(status.first + status.second).trimmed());
+      if (since_begin_.elapsed() >= kTellsAfter) tellProgress(status);
       QCoreApplication::processEvents();
       since_events_.start();
     }
     return mine == wanted_;
   };
+}
+
+void frmExportar::tellProgress(const StatusPanels& status) {
+  const QString text = toQt(status.first + status.second).trimmed();
+  LblEstado_->setText(text.isEmpty() && is_saving_ ? caption("Guardando...", "Saving...") : text);
 }
 
 void frmExportar::setSaving(bool saving) {

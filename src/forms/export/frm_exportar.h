@@ -45,6 +45,7 @@ class frmExportar : public Form {
   void drawPreview();
   /// Lets pending events run now and then, as long as this drawing is the one that is wanted.
   DrawingWatcher watch(int mine);
+  void tellProgress(const StatusPanels& status);
   void setSaving(bool saving);
   void cmdGuardar_Click();
   void cmdCancelar_Click();

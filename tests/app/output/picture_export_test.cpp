@@ -1,5 +1,7 @@
 #include "app/output/picture_export.h"
 
+#include <functional>
+
 #include <gmock/gmock.h>
 
 #include "app/program_fixture.h"
@@ -91,6 +93,59 @@ TEST_F(Export, WritesNothingWhenTheDrawingIsGivenUp) {
   EXPECT_EQ(bytesOf(folder / "a.png"), "older");
   EXPECT_THAT(folder.names(), UnorderedElementsAre("a.png"));
   EXPECT_THAT(services.boxes.shown, IsEmpty());
+}
+
+/// Exports whose memory, pixels and bytes take several parts each.
+class LargeExport : public Export {
+ protected:
+  LargeExport() {
+    choice.width = 1100;
+    choice.height = 1000;
+  }
+
+  /// Does something at each moment in which pending events run. Tells how many there were.
+  std::size_t exportWith(const std::string& path, const std::function<void()>& happens) {
+    std::size_t moments = 0;
+    services.files.paths = {path};
+    EXPECT_TRUE(exportPicture(program, opened, choice, [&](const StatusPanels&) {
+      ++moments;
+      happens();
+      return true;
+    }));
+    return moments;
+  }
+};
+
+// Whatever ends the program in one of these moments leaves the older file.
+TEST_F(LargeExport, TouchNoFileBeforeTheWholePictureIsMade) {
+  putBytes(folder / "a.png", "older");
+  const std::size_t moments = exportWith(folder / "a.png", [&] {
+    EXPECT_EQ(bytesOf(folder / "a.png"), "older");
+    EXPECT_THAT(folder.names(), UnorderedElementsAre("a.png"));
+  });
+  EXPECT_GT(moments, 10u);
+  EXPECT_THAT(bytesOf(folder / "a.png"), StartsWith("\x89PNG"));
+}
+
+TEST_F(LargeExport, LeaveTheOlderFileWhereTheyAreGivenUpAtTheirLastMoment) {
+  const std::size_t moments = exportWith(folder / "a.png", [] {});
+  putBytes(folder / "a.png", "older");
+  services.files.paths = {folder / "a.png"};
+  std::size_t asked = 0;
+  EXPECT_FALSE(exportPicture(program, opened, choice,
+                             [&](const StatusPanels&) { return ++asked < moments; }));
+  EXPECT_EQ(bytesOf(folder / "a.png"), "older");
+  EXPECT_THAT(folder.names(), UnorderedElementsAre("a.png"));
+}
+
+TEST_F(LargeExport, AreNotDisturbedByOthersThatBeginInThem) {
+  exportWith(folder / "alone.png", [] {});
+  std::size_t moments = 0;
+  exportWith(folder / "outer.png", [&] {
+    if (++moments % 8 == 0) exportWith(folder / "inner.png", [] {});
+  });
+  EXPECT_TRUE(bytesOf(folder / "outer.png") == bytesOf(folder / "alone.png"));
+  EXPECT_TRUE(bytesOf(folder / "inner.png") == bytesOf(folder / "alone.png"));
 }
 
 TEST_F(Export, TellsWhyThereIsNoPicture) {

@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QSpinBox>
+#include <array>
+#include <functional>
 
 #include <gmock/gmock.h>
 
@@ -208,6 +210,56 @@ TEST_F(ExportWindow, EndsTheDrawingOfAFileThatIsCancelledAndWritesNothing) {
   EXPECT_FALSE(std::filesystem::exists("a.png"));
   EXPECT_THAT(services.boxes.shown, IsEmpty());
   cancel().click();
+}
+
+/// A file whose memory, drawing and compression take several looks at pending events.
+class LargeFileInTheExportWindow : public ExportWindow {
+ protected:
+  /// Saves, and does something at each moment in which pending events run.
+  template <class Deed>
+  void saveWith(const char* file, const Deed& deed) {
+    services.files.paths = {file};
+    if (!window.isVisible()) open();
+    width().setValue(3000);
+    height().setValue(3000);
+    QTimer moments;
+    QObject::connect(&moments, &QTimer::timeout, &window, deed);
+    moments.start(0);
+    save().click();
+  }
+};
+
+TEST_F(LargeFileInTheExportWindow, IsCancelledAtAnyMoment) {
+  const std::array<std::function<void()>, 3> ways = {
+      [this] { cancel().click(); }, [this] { window.close(); },
+      [this] { QTest::keyClick(&window, Qt::Key_Escape); }};
+  int moments = 0;
+  for (std::size_t last = 1; window.isVisible() || last == 1; ++last) {
+    EXPECT_FALSE(std::filesystem::exists("a.png"));
+    moments = 0;
+    saveWith("a.png", [&] {
+      if (++moments == static_cast<int>(last)) ways[last % ways.size()]();
+    });
+    EXPECT_TRUE(save().isEnabled());
+  }
+  EXPECT_EQ(QImage("a.png").size(), QSize(3000, 3000)) << "the one that was done before its moment";
+  EXPECT_THAT(services.boxes.shown, IsEmpty());
+}
+
+TEST_F(LargeFileInTheExportWindow, IsNotDisturbedByWhatElseTheUserDoes) {
+  saveWith("alone.png", [] {});
+  saveWith("a.png", [this, larger = 0]() mutable {
+    window.resize(window.size() + QSize(++larger % 2 == 0 ? -9 : 9, 0));
+    save().click();
+    QTest::keyClick(&window, Qt::Key_Return);
+    QTest::keyClick(&width(), Qt::Key_Up);
+    ViewSettings another;
+    another.xi = -1;
+    open(another);
+  });
+  EXPECT_EQ(services.files.asked.size(), 2u);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_TRUE(bytesOf("a.png") == bytesOf("alone.png"));
 }
 
 }  // namespace
