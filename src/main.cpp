@@ -60,6 +60,7 @@ int run(int& argument_count, char** arguments) {
     std::_Exit(EXIT_FAILURE);
   };
   application.quits = endProcess;
+  zel::quitOnSignals();
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
   zel::Forms forms(program, document);

@@ -1,6 +1,14 @@
 #include "forms/application.h"
 
+#include <QSessionManager>
+
 namespace zel {
+
+Application::Application(int& argument_count, char** arguments)
+    : QApplication(argument_count, arguments) {
+  connect(this, &QGuiApplication::saveStateRequest, this,
+          [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); });
+}
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {

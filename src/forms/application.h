@@ -9,14 +9,16 @@ namespace zel {
 /// ends there: no exception passes through the toolkit, and the program goes on.
 class Application : public QApplication {
  public:
-  /// The arguments outlive the application, which takes its own options out of them.
-  Application(int& argument_count, char** arguments) : QApplication(argument_count, arguments) {}
+  /// The arguments outlive the application, which takes its own options out of them. No session
+  /// manager starts it again: the program would come without its document, and keeps the last
+  /// session itself.
+  Application(int& argument_count, char** arguments);
 
   /// Tells the user, or ends the program. Not called for what it throws itself.
   std::function<void()> failed = [] {};
 
-  /// Ends the program where the desktop does, at the end of its session. Windows are not asked: one
-  /// that hides when it is closed would stand in the way of a logout.
+  /// Ends the program where the desktop does, at the end of its session, or the system. Windows are
+  /// not asked: one that hides when it is closed would stand in the way of a logout.
   std::function<void()> quits = [] {};
 
   bool notify(QObject* receiver, QEvent* event) override;

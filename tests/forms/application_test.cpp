@@ -1,6 +1,7 @@
 #include "forms/application.h"
 
 #include <QCloseEvent>
+#include <QSessionManager>
 #include <QWidget>
 #include <cstdlib>
 #include <new>
@@ -66,6 +67,24 @@ class StubbornWindow : public QWidget {
 TEST(ApplicationDeathTest, QuitsThoughAWindowWillNotClose) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(quitBeforeAStubbornWindow(), ::testing::ExitedWithCode(3), "");
+}
+
+/// Answers a session manager that asks for the state of the program.
+[[noreturn]] void tellRestartHint() {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  char name[] = "zel";
+  char* arguments[] = {name, nullptr};
+  int count = 1;
+  Application application(count, arguments);
+  auto* const manager = application.findChild<QSessionManager*>();
+  if (manager == nullptr) std::_Exit(EXIT_FAILURE);
+  emit application.saveStateRequest(*manager);
+  std::_Exit(10 + manager->restartHint());
+}
+
+TEST(ApplicationDeathTest, IsNotToBeStartedAgainByASessionManager) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(tellRestartHint(), ::testing::ExitedWithCode(10 + QSessionManager::RestartNever), "");
 }
 
 }  // namespace

@@ -47,4 +47,6 @@ ProgramPlace programPlace(const std::string& program_path) {
   return {separator == std::string::npos ? "." : path.substr(0, separator), name};
 }
 
+void quitOnSignals() {}
+
 }  // namespace zel
