@@ -9,6 +9,7 @@
 
 #include "forms/start/frm_presentacion.h"
 #include "forms/window_fixture.h"
+#include "memory/failing_new.h"
 
 namespace zel::test {
 namespace {
@@ -228,6 +229,23 @@ TEST_F(EndOfTheDesktopsSession, IsPreparedWithoutAnEnd) {
   EXPECT_TRUE(isKept());
   EXPECT_FALSE(std::filesystem::exists("config.ini")) << "that is written right before the end";
   EXPECT_NE(shown("frmGrafico"), nullptr);
+}
+
+TEST_F(EndOfTheDesktopsSession, IsNotHeldUpByWantOfMemory) {
+  start(StartStep::presentation);
+  goOnTo("CmdGraficarLista", "frmGrafico");
+  std::filesystem::remove_all("state");
+  int survived = 0;
+  const long failures = failEachAllocation(
+      true,
+      [&] {
+        askToKeep();
+        ++survived;
+      },
+      [] {});
+  EXPECT_GT(failures, 0);
+  EXPECT_EQ(survived, failures + 1);
+  EXPECT_TRUE(isKept()) << "where there is memory enough";
 }
 
 TEST_F(EndOfTheDesktopsSession, KeepsNothingOfAFirstStartWithoutALanguage) {
