@@ -1,6 +1,7 @@
 #include "forms/listed_text.h"
 
 #include "forms/form.h"
+#include "forms/tool_tip.h"
 #include "platform/qt/one_line.h"
 
 namespace zel {
@@ -15,5 +16,7 @@ QString listedText(const GraphDef& def) {
   const QString text = inOneLine(toQt(displayText(def)));
   return text.size() > kLongestText ? text.first(kLongestText) + u'…' : text;
 }
+
+QString listedTip(const GraphDef& def) { return toolTipOf(toQt(displayText(def))); }
 
 }  // namespace zel

@@ -10,4 +10,7 @@ namespace zel {
 /// "…" where it is longer.
 QString listedText(const GraphDef& def);
 
+/// The tool tip of whatever shows that: more of the text, as far as toolTipOf() takes it.
+QString listedTip(const GraphDef& def);
+
 }  // namespace zel

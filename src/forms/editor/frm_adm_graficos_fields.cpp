@@ -8,7 +8,7 @@
 #include "app/editor/new_graph.h"
 #include "forms/editor/editor_fields.h"
 #include "forms/editor/frm_adm_graficos.h"
-#include "forms/tool_tip.h"
+#include "forms/listed_text.h"
 
 namespace zel {
 QLineEdit* frmAdmGraficos::box(const char* name) const {
@@ -45,8 +45,7 @@ void frmAdmGraficos::markLettersInUse() {
     const auto def = program().graphs.graph(static_cast<char>('a' + i));
     const bool in_use = def && def->defined;
     cboNombre_->setItemData(i, in_use ? bold : QVariant(), Qt::FontRole);
-    cboNombre_->setItemData(i, in_use ? toolTipOf(toQt(displayText(*def))) : QVariant(),
-                            Qt::ToolTipRole);
+    cboNombre_->setItemData(i, in_use ? listedTip(*def) : QVariant(), Qt::ToolTipRole);
   }
 }
 

@@ -10,7 +10,6 @@
 #include "forms/graph_swatch.h"
 #include "forms/kind_captions.h"
 #include "forms/listed_text.h"
-#include "forms/tool_tip.h"
 
 namespace zel {
 namespace {
@@ -70,7 +69,7 @@ void GraphList::addRow(const GraphDef& def) {
   item->setFont(kName, bold);
   item->setText(kKind, kindCaption(def.tipo));
   item->setText(kText, listedText(def));
-  item->setToolTip(kText, toolTipOf(toQt(displayText(def))));
+  item->setToolTip(kText, listedTip(def));
 }
 
 void GraphList::applyLanguage(const GraphTable& graphs) {

@@ -10,9 +10,12 @@ namespace zel {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
-void ElidedLabel::showText(const QString& text) {
-  if (text == this->text()) return;
+void ElidedLabel::showText(const QString& text) { showText(text, toolTipOf(text.trimmed())); }
+
+void ElidedLabel::showText(const QString& text, const QString& tip) {
+  if (text == this->text() && tip == tip_) return;
   setText(text);
+  tip_ = tip;
   renewTip();
 }
 
@@ -37,6 +40,6 @@ QString ElidedLabel::fitted() const {
   return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width() - indent());
 }
 
-void ElidedLabel::renewTip() { setToolTip(isElided() ? toolTipOf(text().trimmed()) : QString()); }
+void ElidedLabel::renewTip() { setToolTip(isElided() ? tip_ : QString()); }
 
 }  // namespace zel

@@ -4,15 +4,18 @@
 
 namespace zel {
 
-/// A label of one line of plain text. One without room ends in dots and has all of it in its tool
-/// tip; text() is the whole text, which others read.
+/// A label of one line of plain text. One without room ends in dots and has a tool tip; text() is
+/// the whole text, which others read.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 
  public:
   explicit ElidedLabel(QWidget* parent = nullptr);
 
+  /// The tool tip has all of the text.
   void showText(const QString& text);
+  /// The tool tip, as toolTipOf() makes it, has more than this text.
+  void showText(const QString& text, const QString& tip);
   bool isElided() const;
 
  protected:
@@ -22,6 +25,8 @@ class ElidedLabel : public QLabel {
  private:
   QString fitted() const;
   void renewTip();
+
+  QString tip_;  // while there is no room for the text
 };
 
 }  // namespace zel

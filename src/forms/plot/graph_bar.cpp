@@ -81,7 +81,7 @@ void GraphBar::showGraph(const std::optional<GraphDef>& graph) {
   if (graph) palette.setColor(QPalette::Window, qtColour(graph->color));
   if (palette != swatch_->palette()) swatch_->setPalette(palette);
   const QString text = graph ? listedText(*graph) : QString();
-  LblGrafico_->showText(text);
+  LblGrafico_->showText(text, graph ? listedTip(*graph) : QString());
   // Each name that is set is said, the same one too.
   if (text != LblGrafico_->accessibleName()) LblGrafico_->setAccessibleName(text);
 }

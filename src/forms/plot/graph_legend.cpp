@@ -5,7 +5,6 @@
 #include "forms/form.h"
 #include "forms/graph_swatch.h"
 #include "forms/listed_text.h"
-#include "forms/tool_tip.h"
 
 namespace zel {
 namespace {
@@ -43,7 +42,7 @@ void GraphLegend::listGraphs(const GraphTable& graphs) {
     const QIcon swatch = graphSwatch(def->color, SwatchLook::square);
     auto* const item = new QListWidgetItem(swatch, listedText(*def), this);
     item->setData(kLetterRole, static_cast<int>(letter));
-    item->setToolTip(toolTipOf(toQt(displayText(*def))));
+    item->setToolTip(listedTip(*def));
   }
   setVisible(count() > 1);
 }

@@ -362,6 +362,21 @@ TEST_F(GraficoToolbar, TheListCutsATextAfterAThousandCharacters) {
             "a(x)=" + formula.substr(0, 995) + "…");
 }
 
+// Two graphs that differ behind what the row and the list show of them.
+TEST_F(GraficoToolbar, TheRowHasTheToolTipsOfTheList) {
+  const std::string formula = "x" + std::string(1100, '1');
+  for (const char letter : {'a', 'b'})
+    program.graphs.rebuildGraph(letter, formula + letter, "", 255, 'F', nullptr);
+  openUsual();
+  auto& list = control<QListWidget>("LstGraficos");
+  for (const int row : {0, 1, 0}) {
+    const std::string tip = fromQt(control<ElidedLabel>("LblGrafico").toolTip());
+    EXPECT_EQ(tip, fromQt(list.item(row)->toolTip()));
+    EXPECT_TRUE(shownTip(toQt(tip)).ends_with(row == 0 ? "1a" : "1b"));
+    next();
+  }
+}
+
 TEST_F(GraficoToolbar, AClickInTheListMakesAGraphTheActiveOneWithoutARedraw) {
   addFunction('b', "x");
   addFunction('d', "x^2");
