@@ -3,6 +3,7 @@
 # can write, a stack that nobody can run, canaries, checked copies and marked targets of jumps.
 set -uo pipefail
 cli=$1
+[[ -x $cli ]] || { echo "there is no $cli"; exit 1; }
 failures=0
 
 nm -D "$cli" | grep __asan_init >/dev/null && exit 77 # the sanitizer has checks of its own

@@ -3,6 +3,9 @@
 set -uo pipefail
 cli=$1
 source_dir=$2
+for program in "$cli" "$(dirname "$cli")/make_examples"; do
+  [[ -x $program ]] || { echo "there is no $program"; exit 1; }
+done
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 failures=0
@@ -38,18 +41,28 @@ for asked in --version --help "render --help"; do
   check "$asked to a full disk has its line" grep -q 'No se pudo escribir la salida.' "$work/err"
 done
 
+# through_pipe PIPE FILE COMMAND...: runs it while a reader puts what goes through the pipe into the
+# file. A reader to whom nothing comes does not wait.
+through_pipe() {
+  local pipe=$1 reader status
+  cat "$pipe" >"$2" &
+  reader=$!
+  shift 2
+  "$@"
+  status=$?
+  [[ $status == 0 && -p $pipe ]] || kill "$reader"
+  wait "$reader"
+  return "$status"
+}
+
 # A pipe and a device are written as they are, and stay what they are.
 mkfifo "$work/fifo.svg" "$work/fifo.zel"
 "$cli" render "$source_dir/examples/waves.zel" -o "$work/waves.svg"
-cat "$work/fifo.svg" >"$work/through.svg" &
-reader=$!
-check "render to a pipe" "$cli" render "$source_dir/examples/waves.zel" -o "$work/fifo.svg"
-wait "$reader"
+check "render to a pipe" through_pipe "$work/fifo.svg" "$work/through.svg" \
+  "$cli" render "$source_dir/examples/waves.zel" -o "$work/fifo.svg"
 check "the pipe gets the picture" cmp "$work/waves.svg" "$work/through.svg"
-cat "$work/fifo.zel" >"$work/through.zel" &
-reader=$!
-check "resave to a pipe" "$cli" resave "$source_dir/examples/waves.zel" "$work/fifo.zel"
-wait "$reader"
+check "resave to a pipe" through_pipe "$work/fifo.zel" "$work/through.zel" \
+  "$cli" resave "$source_dir/examples/waves.zel" "$work/fifo.zel"
 check "the pipe gets the document" cmp "$source_dir/examples/waves.zel" "$work/through.zel"
 check "the pipe is still there" test -p "$work/fifo.svg" -a -p "$work/fifo.zel"
 check "a device takes a document" "$cli" resave "$source_dir/examples/waves.zel" /dev/null

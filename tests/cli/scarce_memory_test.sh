@@ -3,6 +3,7 @@
 # limit of the address space grows from where the program can begin to where the command is done.
 set -uo pipefail
 cli=$1
+[[ -x $cli ]] || { echo "there is no $cli"; exit 1; }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 failures=0
