@@ -16,7 +16,8 @@ NOT_CODE = re.compile(
     re.DOTALL | re.MULTILINE)
 OPERATOR = re.compile("(?<= )(?:%s)(?= )" % "|".join(
     re.escape(name) for name in sorted(OTHER_OPERATORS, key=len, reverse=True)))
-NUMBER = re.compile(r"(?<![\w.])(?:0[xX][0-9A-Fa-f.]+(?:p[+-]?\d+)?|\d+\.?\d*(?:e[+-]?\d+)?)(?=[uUlL]*\b)")
+NUMBER = re.compile(r"(?<![\w.'])(?:0[xX][0-9A-Fa-f.']+(?:p[+-]?\d+)?|\d[\d']*\.?\d*(?:e[+-]?\d+)?)"
+                    r"(?=[uUlL]*\b)")
 ROOM = re.compile(r"array<[^;=>]*\Z|alignas\(\Z|reserve\([^;]*\Z")
 STEP = re.compile(r"\+\+|--")
 NEGATION = re.compile(r"(?<=[( ])!(?=[\w(:])")
@@ -44,12 +45,13 @@ def closing(code, opening):
 
 def next_number(number):
     """One more, or for a fraction another one."""
+    if "p" in number:  # a hexadecimal fraction
+        return number.replace(".", ".8", 1) if "." in number else number.replace("p", ".8p", 1)
+    number = number.replace("'", "")
     if number.lower().startswith("0x"):
-        return number.replace("0x", "0x1", 1) if "." not in number else number.replace(".", ".8", 1)
-    if re.fullmatch(r"\d+", number):
-        return str(int(number) + 1)
-    mantissa = re.match(r"\d+", number).group()
-    return str(int(mantissa) + 1) + number[len(mantissa):]
+        return hex((int(number, 16) + 1) % 2 ** (4 * (len(number) - 2)))
+    whole = re.match(r"\d+", number).group()
+    return str(int(whole) + 1) + number[len(whole):]
 
 
 def conditions(code):

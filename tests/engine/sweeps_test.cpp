@@ -234,5 +234,17 @@ TEST_F(Sweeps, GiveFewValuesOfALongCodeAtOnce) {
   EXPECT_EQ(engine.SweepPart("x+1", {}, values), 0u);
 }
 
+TEST_F(Sweeps, GiveFewerValuesOfALongCodeWhereSomeAreEvaluatedByThemselves) {
+  std::string code = "9@x";
+  while (code.size() + 40 < Engine::kMaxExpandedCode) code += "+2*x";
+  const std::vector<double> all_defined = range(1, 200);
+  const std::vector<double> with_errors_and_a_fault = range(-10, 200);
+  std::vector<double> values(200);
+  EXPECT_EQ(engine.SweepPart(code, all_defined, values), 32u);
+  EXPECT_EQ(engine.SweepPart(code, with_errors_and_a_fault, values), 16u);
+  EXPECT_LE(engine.CurvePart(code + "+", "t", all_defined, values, values), 3u) << "rejected";
+  EXPECT_LE(engine.CurvePart("t", code + "+", all_defined, values, values), 3u) << "rejected";
+}
+
 }  // namespace
 }  // namespace zel::test

@@ -1,5 +1,7 @@
 #include "plot/drawing.h"
 
+#include <new>
+
 #include "plot/plot_fixture.h"
 
 namespace zel::test {
@@ -245,6 +247,17 @@ TEST_F(DrawingTest, SaysWhetherAFamilyOrAParametricCurveIsBeingDrawn) {
             "0"
             "110");
   EXPECT_FALSE(drawing.inProgress());
+}
+
+TEST_F(DrawingTest, IsOverWhereAnExceptionGoesThroughIt) {
+  addGraph('a', FamilyFields{field("P"), field("1"), field("2"), field("1")});
+  engine.SetP(0.5);
+  screen.on_events = [](std::size_t run) {
+    if (run == 2) throw std::bad_alloc();  // after the first curve
+  };
+  EXPECT_THROW(redraw(), std::bad_alloc);
+  EXPECT_FALSE(drawing.inProgress());
+  EXPECT_EQ(engine.GetP(), 0.5);
 }
 
 TEST_F(DrawingTest, GoesOnWithTheNextGraphAfterAStop) {

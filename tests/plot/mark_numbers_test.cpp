@@ -40,6 +40,18 @@ class MarkNumbers : public PlotTest {
   }
   double belowAxis() const { return viewport.mapY(0) + 40 + 25; }
 
+  /// Where the upright or the level lines of the grid are, each from edge to edge.
+  std::vector<double> gridLines(bool are_upright) {
+    std::vector<double> places;
+    for (const auto& [from, to] : numbers().grid) {
+      if ((from.x == to.x) != are_upright) continue;
+      places.push_back(are_upright ? from.x : from.y);
+      EXPECT_EQ(are_upright ? from.y : from.x, 0);
+      EXPECT_EQ(are_upright ? to.y : to.x, are_upright ? 9000 : 12000);
+    }
+    return places;
+  }
+
   static PictureLabel labelled(const NumberLayer& layer, const std::string& text) {
     const auto found = std::ranges::find(layer.labels, text, &PictureLabel::text);
     if (found == layer.labels.end()) throw std::runtime_error("no number " + text);
@@ -134,6 +146,8 @@ TEST_F(MarkNumbers, AreRoundOnesWhereARangeHasNoMarks) {
   show(-1, 1, -1, 1);
   marks = {0, 0, false, false};
   EXPECT_THAT(textsOf(numbers()), ::testing::IsSupersetOf({"0,5", "-0,5"}));
+  marks = {0.3, 0.3, false, false};
+  EXPECT_THAT(textsOf(numbers()), ::testing::IsSupersetOf({"0,5", "-0,5"})) << "marks not shown";
 }
 
 TEST_F(MarkNumbers, TellTheOriginOnce) {
@@ -194,21 +208,11 @@ TEST_F(MarkNumbers, NeitherOverlapNorLeaveThePictureInAnyView) {
 
 TEST_F(MarkNumbers, HaveAGridLineEachButOnTheAxes) {
   show(-2, 2, 1, 3);
-  const NumberLayer layer = numbers();
-  std::vector<double> upright, level;
-  for (const GridLine& line : layer.grid) {
-    if (line.from.x == line.to.x) {
-      upright.push_back(line.from.x);
-      EXPECT_EQ(line.from.y, 0);
-      EXPECT_EQ(line.to.y, 9000);
-    } else {
-      level.push_back(line.from.y);
-      EXPECT_EQ(line.from.x, 0);
-      EXPECT_EQ(line.to.x, 12000);
-    }
-  }
-  EXPECT_THAT(upright, ElementsAre(0, 3000, 9000, 12000));
-  EXPECT_THAT(level, ElementsAre(9000, 4500, 0));
+  EXPECT_THAT(gridLines(true), ElementsAre(0, 3000, 9000, 12000));
+  EXPECT_THAT(gridLines(false), ElementsAre(9000, 4500, 0));
+  show(1, 3, -2, 2);
+  EXPECT_THAT(gridLines(true), ElementsAre(0, 6000, 12000));
+  EXPECT_THAT(gridLines(false), ElementsAre(9000, 6750, 2250, 0));
 }
 
 TEST_F(MarkNumbers, StandOnTheTwipsOfTheMarks) {
@@ -242,6 +246,12 @@ TEST_F(MarkNumbers, EndWhereAStepNoLongerLeadsOn) {
   expectOnThePictureAndApart(numbers());
 }
 
+TEST_F(MarkNumbers, AreNoneOfARangeInWhichRoundOnesDoNotLeadOn) {
+  show(-1, 1, 1e17, 1e17 + 32);
+  marks = {1, 1, true, false};
+  EXPECT_THAT(textsOf(numbers()), ElementsAre("-1", "1"));
+}
+
 TEST_F(MarkNumbers, TellThePointerAsExactlyAsAPixelIs) {
   show(-4, 4, -3, 3);
   ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
@@ -262,6 +272,9 @@ TEST_F(MarkNumbers, ThePointersTextStaysOnThePictureAndOffThePointer) {
     const auto label = pointerLabel(viewport, pointer, measure);
     ASSERT_TRUE(label);
     expectOnThePictureAndApart({150, {}, {*label}});
+    EXPECT_EQ(pointer.x < label->corner.x ? label->corner.x - pointer.x
+                                          : pointer.x - label->corner.x - label->width,
+              180);
     const bool covers = label->corner.x <= pointer.x &&
                         pointer.x <= label->corner.x + label->width &&
                         label->corner.y <= pointer.y && pointer.y <= label->corner.y + kLine;

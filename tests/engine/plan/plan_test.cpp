@@ -3,12 +3,14 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "engine/plan/block_program.h"
+#include "engine/plan/plan_cache.h"
 #include "engine/plan/scalar_program.h"
 #include "engine/random_codes.h"
 #include "numbers/rounding.h"
@@ -95,6 +97,31 @@ TEST(PlanOfACode, LeavesANumberThatCannotBeReadToTheStrictEvaluation) {
   EXPECT_FALSE(plan.isPlain());
   EXPECT_TRUE(plan.evaluateStrictly({}).at_the_end);
   EXPECT_TRUE(std::isnan(ScalarProgram(plan).evaluate(1, 0, 0)));
+}
+
+TEST(BlockProgram, TakesFewerValuesAtOnceOfACodeWithManySteps) {
+  std::string many_steps = "4@x";
+  for (int i = 1; i < 200; ++i) many_steps += "+4@(x+" + std::to_string(i) + ")";
+  const std::size_t of_few = BlockProgram(planOf("x+1")).capacity();
+  const std::size_t of_many = BlockProgram(planOf(many_steps)).capacity();
+  EXPECT_GE(of_many, BlockProgram::kChunk);
+  EXPECT_LT(of_many, of_few) << "all its values stay in the cache of a processor";
+}
+
+TEST(PlanCache, KeepsThePlansOfAllGraphs) {
+  PlanCache plans;
+  std::vector<std::string> codes;
+  std::vector<std::shared_ptr<PreparedPlan>> made;
+  for (int graph = 0; graph < 26; ++graph) codes.push_back("x+" + std::to_string(graph));
+  for (const std::string& code : codes) made.push_back(plans.find(code));
+  for (std::size_t i = 0; i < codes.size(); ++i) EXPECT_EQ(plans.find(codes[i]), made[i]);
+}
+
+TEST(PlanCache, DropsPlansThatAreNotUsed) {
+  PlanCache plans;
+  const std::weak_ptr<PreparedPlan> first = plans.find("x");
+  for (int i = 0; i < 1'000; ++i) plans.find("x+" + std::to_string(i));
+  EXPECT_TRUE(first.expired());
 }
 
 class Programs : public ::testing::TestWithParam<InstructionSet> {

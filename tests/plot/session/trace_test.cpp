@@ -53,9 +53,9 @@ TEST_F(Trace, ComesBackFromBeyondTheRange) {
 
 TEST_F(Trace, WalksNoLongerThanItsBoundFromBeyondTheRange) {
   // The step is 1: at the bound each sample is walked to, past it the walk begins at the edge.
-  EXPECT_EQ(step("0", -5.25 - kLongestWalk, 1)->x, -4);
-  EXPECT_EQ(step("0", -4.75 - kLongestWalk, 1)->x, -4.75);
-  EXPECT_EQ(step("0", 5.25 + kLongestWalk, -1)->x, 4);
+  EXPECT_EQ(step("0", -100'005.25, 1)->x, -4);
+  EXPECT_EQ(step("0", -100'004.75, 1)->x, -4.75);
+  EXPECT_EQ(step("0", 100'005.25, -1)->x, 4);
 }
 
 TEST_F(Trace, EndsWhereItsStepNoLongerAdvances) {
