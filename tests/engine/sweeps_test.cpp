@@ -197,6 +197,17 @@ TEST_F(Sweeps, OfACurveThatEndsInErrorsKeepTheRecordsFromBefore) {
   EXPECT_EQ(ys[19], 38);
 }
 
+TEST_F(Sweeps, OfACurveKeepTheRecordOfItsFirstPointWhereAllOthersEndInErrors) {
+  const auto ts = range(0, 20);
+  std::vector<double> xs(ts.size());
+  std::vector<double> ys(ts.size());
+  curve("t*2", "7@(0-t)+(t+1)", ts, xs, ys);
+  // The others fail before their right side is taken apart.
+  EXPECT_EQ(slots(12), "7@(0-t)|t+1|+|7|0-t|@|0|t|-|t|1|+|");
+  EXPECT_EQ(ys[0], 1);
+  EXPECT_TRUE(std::isnan(ys[1]));
+}
+
 TEST_F(Sweeps, OfACurveBeginWithTheExpansionThatWasKept) {
   graphCode('f') = "7@x";
   double value = 0;
@@ -244,6 +255,7 @@ TEST_F(Sweeps, GiveFewerValuesOfALongCodeWhereSomeAreEvaluatedByThemselves) {
   EXPECT_EQ(engine.SweepPart(code, with_errors_and_a_fault, values), 16u);
   EXPECT_LE(engine.CurvePart(code + "+", "t", all_defined, values, values), 3u) << "rejected";
   EXPECT_LE(engine.CurvePart("t", code + "+", all_defined, values, values), 3u) << "rejected";
+  EXPECT_LE(engine.CurvePart(code, code, all_defined, values, values), 3u) << "replayed";
 }
 
 }  // namespace
