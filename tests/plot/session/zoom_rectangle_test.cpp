@@ -16,6 +16,17 @@ TEST_F(SessionZoom, ADragToTheLeftGrowsTheRectangleToTheRight) {
   EXPECT_EQ(session.zoomRectangle(), std::nullopt);
 }
 
+TEST_F(SessionZoom, EachStepOfADragIsTold) {
+  session.execute(PlotCommand::zoom_a_medida);
+  const int changes = listener.tools_changes;
+  session.mouseDown(MouseButton::left, {1000, 1000});
+  EXPECT_EQ(listener.tools_changes, changes + 1);
+  session.mouseMove(MouseButton::left, {1010, 1010});
+  EXPECT_EQ(listener.tools_changes, changes + 2);
+  session.mouseUp(MouseButton::left, {1010, 1010});
+  EXPECT_EQ(listener.tools_changes, changes + 3);
+}
+
 TEST_F(SessionZoom, TheRectangleBecomesTheViewAndTheModeStays) {
   session.execute(PlotCommand::zoom_a_medida);
   drag({600, 450}, {1050, 750});
