@@ -4,7 +4,9 @@
 #include <sys/stat.h>
 
 #include "document_fixture.h"
+#include "faulty_calls_posix.h"
 #include "files/config.h"
+#include "files/whole_file.h"
 
 namespace zel::test {
 namespace {
@@ -27,6 +29,17 @@ TEST_F(Unreadable, AreFifosDevicesAndLinksToThem) {
   std::filesystem::create_symlink("fifo", folder / "link");
   for (const std::string& what : {folder / "fifo", folder / "link", std::string("/dev/zero")})
     expectThatNothingCanBeRead(what);
+}
+
+TEST_F(Unreadable, AreNotEvenOpened) {
+  putBytes(folder / "file", "");
+  for (const auto& [what, opened] :
+       {std::pair{folder / "file", 1}, {std::string("/dev/zero"), 0}}) {
+    beginFaults({.only = "open"});
+    const auto bytes = readWholeFile(what);
+    EXPECT_EQ(endFaults(), opened) << what;
+    EXPECT_EQ(bytes.has_value(), opened == 1) << what;
+  }
 }
 
 TEST_F(Unreadable, AreLinksThatLeadNowhereAndTheirTargetsAreNotMade) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 
 #include "numbers/elementary/functions.h"
@@ -18,5 +19,8 @@ double relativeErrorByMpfr(Elementary function, double x, std::span<const double
 /// The same for 2^(i/n) and for the sine of i steps of a circle of n.
 double relativeErrorOfPowerOfTwo(std::size_t i, std::size_t n, DoubleDouble value);
 double relativeErrorOfSineOfSteps(std::size_t i, std::size_t n, DoubleDouble value);
+
+/// 64 bits of 2^exponent * 2/pi, from that of 2^1 on.
+std::uint64_t quarterTurnsOfPowerOfTwo(int exponent);
 
 }  // namespace zel::test

@@ -114,4 +114,16 @@ double relativeErrorOfSineOfSteps(std::size_t i, std::size_t n, DoubleDouble val
   return relativeError(exact.get(), std::array{value.high, value.low});
 }
 
+std::uint64_t quarterTurnsOfPowerOfTwo(int exponent) {
+  freeExponents();
+  constexpr mpfr_prec_t kAllBits = 1600;
+  Number turns(kAllBits);
+  mpfr_const_pi(turns.get(), MPFR_RNDN);
+  mpfr_d_div(turns.get(), 2, turns.get(), MPFR_RNDN);
+  mpfr_mul_2si(turns.get(), turns.get(), exponent - 2, MPFR_RNDN);
+  mpfr_frac(turns.get(), turns.get(), MPFR_RNDZ);
+  mpfr_mul_2si(turns.get(), turns.get(), 64, MPFR_RNDN);
+  return mpfr_get_uj(turns.get(), MPFR_RNDZ);
+}
+
 }  // namespace zel::test

@@ -3,9 +3,11 @@
 #include <array>
 #include <cmath>
 #include <random>
+#include <span>
 
 #include <gtest/gtest.h>
 
+#include "numbers/elementary/large_angles.h"
 #include "numbers/elementary/mpfr_oracle.h"
 #include "numbers/elementary/wide_functions.h"
 
@@ -35,6 +37,17 @@ class WideFunctions : public ::testing::Test {
   static constexpr int kArguments = 2000;
   std::mt19937_64 random{21};
 };
+
+TEST(TurnBits, AreThoseOfTwoOverPiForEachPowerOfTwo) {
+  for (int exponent = -1; exponent < 1024; ++exponent) {
+    const TurnBits bits = turnBits(std::ldexp(1, exponent));
+    int place = exponent;
+    for (const std::uint64_t word : std::span(bits).first<5>()) {
+      EXPECT_EQ(word, quarterTurnsOfPowerOfTwo(place)) << exponent;
+      place += 64;
+    }
+  }
+}
 
 TEST_F(WideFunctions, HaveTheExponentialTo240Bits) {
   for (int i = 0; i < kArguments; ++i) {
