@@ -6,6 +6,7 @@ came out is kept in build/mutants/verdicts, under the sum of the source with the
 import atexit
 import collections
 import hashlib
+import itertools
 import json
 import os
 import pathlib
@@ -26,6 +27,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/mutants"
 VERDICTS = BUILD / "verdicts"
 LIST = ROOT / "tests/survivors.txt"
+EQUAL = ROOT / "tests/equivalents.txt"
 FOLDERS = ("numbers", "engine", "graphs", "files", "plot")
 WORKERS = int(os.environ.get("ZEL_WORKERS", os.cpu_count()))
 LEAST_FOUND = 90  # per cent of a folder
@@ -205,9 +207,14 @@ class Tests:
 
 
 def wanted(folder, seed, count, verdicts):
-    """The sample: the first faults that are not known not to compile."""
-    faults = [fault for fault in faults_of(folder, seed) if verdicts.of(fault) != NO_PROGRAM]
-    return faults[:count]
+    """The sample: the first faults that are neither known not to compile nor listed as none; and those
+    that are listed."""
+    listed = explained.entries(EQUAL)
+    faults, equal = [], []
+    for fault in faults_of(folder, seed):
+        if verdicts.of(fault) != NO_PROGRAM:
+            (equal if listed[fault.name] else faults).append(fault)
+    return faults[:count], equal
 
 
 def try_all(faults, tests, verdicts):
@@ -237,7 +244,11 @@ def report(folders, seed, count, verdicts):
     missed, is_good = [], True
     print("folder   faults   found")
     for folder in folders:
-        sample = wanted(folder, seed, count, verdicts)
+        sample, equal = wanted(folder, seed, count, verdicts)
+        for fault in equal:
+            if verdicts.of(fault) == FOUND:
+                print(f"a fault after all: {fault.path}:{fault.line}: {fault.name.partition(': ')[2]}")
+                is_good = False
         found = sum(verdicts.of(fault) == FOUND for fault in sample)
         missed += [fault for fault in sample if verdicts.of(fault) == MISSED]
         print(f"{folder:8} {len(sample):6} {100 * found / len(sample):6.1f}%")
@@ -258,7 +269,8 @@ def main():
     tests = {folder: Tests(folder) for folder in folders}
     verdicts = Verdicts()
     is_again = {MISSED, None}
-    while faults := [fault for folder in folders for fault in wanted(folder, seed, count, verdicts)
+    while faults := [fault for folder in folders
+                     for fault in itertools.chain(*wanted(folder, seed, count, verdicts))
                      if verdicts.of(fault) in is_again]:
         try_all(faults, tests, verdicts)
         is_again = {None}

@@ -49,6 +49,13 @@ TEST(TurnBits, AreThoseOfTwoOverPiForEachPowerOfTwo) {
   }
 }
 
+TEST_F(WideFunctions, ReduceAnglesToHalfAQuarterTurn) {
+  for (int i = 0; i < kArguments; ++i) {
+    const double x = i % 2 == 0 ? between(0.5, 100) : std::exp(between(0, 700));
+    EXPECT_LE(std::fabs(quarterTurns(x).rest.nearest()), 0.5) << x;
+  }
+}
+
 TEST_F(WideFunctions, HaveTheExponentialTo240Bits) {
   for (int i = 0; i < kArguments; ++i) {
     const double x = between(-300, 300);
