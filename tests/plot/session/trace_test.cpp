@@ -53,6 +53,7 @@ TEST_F(Trace, ComesBackFromBeyondTheRange) {
 
 TEST_F(Trace, WalksNoLongerThanItsBoundFromBeyondTheRange) {
   // The step is 1: at the bound each sample is walked to, past it the walk begins at the edge.
+  ASSERT_EQ(kLongestWalk, 100'000);
   EXPECT_EQ(step("0", -100'005.25, 1)->x, -4);
   EXPECT_EQ(step("0", -100'004.75, 1)->x, -4.75);
   EXPECT_EQ(step("0", 100'005.25, -1)->x, 4);
