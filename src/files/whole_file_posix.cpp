@@ -20,7 +20,7 @@
 namespace zel {
 namespace {
 
-constexpr int kMostLinks = 40;
+constexpr int kMostLinks = 40;  // which Linux follows when it opens a file
 constexpr int kMostTemporaryNames = 100;
 constexpr int kMostLooks = 100;
 constexpr mode_t kModeOfNewFile = 0666;  // less what the umask takes away
@@ -47,7 +47,7 @@ std::string folderOf(const std::string& path) { return path.substr(0, path.rfind
 
 /// Where a chain of symbolic links ends, whether or not there is a file; nothing for a loop.
 std::optional<std::string> followLinks(std::string path) {
-  for (int i = 0; i < kMostLinks; ++i) {
+  for (int i = 0; i <= kMostLinks; ++i) {
     std::array<char, 4096> target{};
     const auto size = ::readlink(path.c_str(), target.data(), target.size());
     if (size < 0) return path;

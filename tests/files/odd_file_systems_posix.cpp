@@ -93,7 +93,7 @@ TEST_F(OddFileSystem, WithALinkThatIsLongerThanAnyPathIsNotFollowedHalfWay) {
 TEST_F(OddFileSystem, WithLinksThatNeverEndIsNotFollowedForever) {
   putBytes(path, "old");
   EXPECT_EQ(writeUnder({.only = "readlink", .answer = "file"}), (WriteResult{true, false, ELOOP}));
-  EXPECT_EQ(calls, 40);
+  EXPECT_EQ(calls, 41);  // what the fortieth link leads to may be the file
   expectOnly("old");
 }
 

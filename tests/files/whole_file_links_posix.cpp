@@ -86,6 +86,24 @@ TEST_F(WholeFileOnPosix, FailsAtALoopOfLinks) {
   EXPECT_EQ(folder.names(), (std::set<std::string>{"one", "two"}));
 }
 
+TEST_F(WholeFileOnPosix, SavesThroughAsManyLinksAsItReadsThrough) {
+  putBytes(path, "old");
+  link("file", "1");
+  for (int i = 2; i <= 60; ++i) link(std::to_string(i - 1), std::to_string(i));
+  int readable = 0;
+  for (int i = 1; i <= 60; ++i) {
+    const std::string name = folder / std::to_string(i);
+    const bool is_read = readWholeFile(name).has_value();
+    EXPECT_EQ(writeWholeFile(name, std::to_string(i)).written, is_read) << i;
+    EXPECT_TRUE(fs::is_symlink(name)) << i;
+    readable += is_read;
+  }
+  EXPECT_EQ(bytesOf(path), std::to_string(readable));
+#ifdef __linux__
+  EXPECT_EQ(readable, 40);
+#endif
+}
+
 TEST_F(WholeFileOnPosix, FailsAtALinkToAFolder) {
   link(".", "here");
   EXPECT_FALSE(writeWholeFile(folder / "here", "x").written);
