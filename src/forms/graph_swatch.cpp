@@ -1,10 +1,10 @@
 // The icon of a graph's row: a rectangle in a square of 32 units, scaled to the place it is given.
 #include "forms/graph_swatch.h"
 
-#include <QIconEngine>
 #include <QPainter>
 
 #include "forms/editor/colour_swatch.h"
+#include "platform/icons/painted_icon.h"
 
 namespace zel {
 namespace {
@@ -12,7 +12,7 @@ namespace {
 constexpr qreal kSide = 32;
 constexpr qreal kEdgeWidth = 2;
 
-class SwatchEngine : public QIconEngine {
+class SwatchEngine : public PaintedIcon {
  public:
   SwatchEngine(QColor colour, SwatchLook look) : colour_(colour), look_(look) {}
 
@@ -27,14 +27,6 @@ class SwatchEngine : public QIconEngine {
     else
       paintSquare(*painter);
     painter->restore();
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(), size), mode, state);
-    return pixmap;
   }
 
   QIconEngine* clone() const override { return new SwatchEngine(*this); }

@@ -2,12 +2,12 @@
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 
 #include "platform/icons/icon_drawing.h"
 #include "platform/icons/icons.h"
+#include "platform/icons/painted_icon.h"
 
 namespace zel {
 namespace {
@@ -27,7 +27,7 @@ QColor inPalette(const QColor& colour) {
 }
 
 /// A drawing whose colours follow the palette.
-class PaletteIcon : public QIconEngine {
+class PaletteIcon : public PaintedIcon {
  public:
   explicit PaletteIcon(IconDrawing drawing) : drawing_(std::move(drawing)) {}
 
@@ -39,14 +39,6 @@ class PaletteIcon : public QIconEngine {
     painter->setOpacity(opacity * kDisabledOpacity);
     painter->drawPixmap(rect, pixmap(rect.size() * ratio, QIcon::Normal, state));
     painter->setOpacity(opacity);
-  }
-
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(), size), mode, state);
-    return pixmap;
   }
 
   QIconEngine* clone() const override { return new PaletteIcon(*this); }
