@@ -160,6 +160,21 @@ TEST_F(FileMenu, ShowsHostileNamesOnOneShortLine) {
   EXPECT_LT(shown.size(), 200);
 }
 
+TEST_F(FileMenu, ShowsARecentNameInTheOrderOfItsLetters) {
+  const std::u16string turning =
+      u"\u061C\u200E\u200F\u202A\u202B\u202C\u202D\u202E\u2066\u2067\u2068\u2069";
+  for (const char16_t code : turning) {
+    const QString name = QStringLiteral("a%1gnp.zel").arg(QChar(code));
+    putDocument(fromQt(name));
+    services.recent.listed = {utf8Of(std::filesystem::absolute(pathOf(fromQt(name))))};
+    QAction& entry = *recent().actions()[0];
+    EXPECT_TRUE(entry.text().endsWith(u"a\uFFFDgnp.zel")) << fromQt(entry.text());
+    entry.trigger();
+    QTest::qWait(0);
+    EXPECT_EQ(fromQt(window.windowTitle()), "ZEL - " + fromQt(name));
+  }
+}
+
 TEST_F(FileMenu, OpensARecentDocument) {
   putDocument("d.zel");
   services.recent.listed = {utf8Of(std::filesystem::absolute("d.zel"))};

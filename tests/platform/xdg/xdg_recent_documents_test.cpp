@@ -54,6 +54,14 @@ TEST_F(DesktopsRecentDocuments, AreReplacedWholeAndLeaveNothingBehind) {
   EXPECT_EQ(std::distance(fs::directory_iterator(data), {}), 1);
 }
 
+TEST_F(DesktopsRecentDocuments, KeepWhatAnotherProgramHasAddedMeanwhile) {
+  recent.add(document("a.zel"));
+  EXPECT_THAT(recent.list(), SizeIs(1));
+  XdgRecentDocuments(data).add(document("b.zel"));
+  recent.add(document("c.zel"));
+  EXPECT_THAT(recent.list(), SizeIs(3));
+}
+
 TEST_F(DesktopsRecentDocuments, AreNotOfferedWhenTheyAreGone) {
   recent.add(document("a.zel"));
   recent.add(document("b.zel"));
