@@ -117,6 +117,20 @@ TEST_F(ExportWindow, WritesEachFormat) {
               ElementsAre("save SVG (*.svg)|*.svg", "save PDF (*.pdf)|*.pdf"));
 }
 
+TEST_F(ExportWindow, WritesTheSameBytesAgain) {
+  services.files.paths = {"a.png", "b.png", "a.svg", "b.svg", "a.pdf", "b.pdf"};
+  for (int i = 0; i < 6; ++i) {
+    open();
+    format().setCurrentIndex(i / 2);
+    save().click();
+  }
+  for (const char* const ending : {".png", ".svg", ".pdf"}) {
+    const std::string bytes = bytesOf(std::string("a") + ending);
+    EXPECT_FALSE(bytes.empty()) << ending;
+    EXPECT_TRUE(bytes == bytesOf(std::string("b") + ending)) << ending;
+  }
+}
+
 TEST_F(ExportWindow, StaysWhenNothingWasWritten) {
   open();
   save().click();
