@@ -38,7 +38,7 @@ function(zel_tests folder)
   if(WIN32)
     # One process for all of them: under Wine each takes half a second to start.
     add_test(NAME ${target} COMMAND ${target})
-    set_tests_properties(${target} PROPERTIES TIMEOUT 600 LABELS ${folder}
+    set_tests_properties(${target} PROPERTIES TIMEOUT 3600 LABELS ${folder}
       ENVIRONMENT "LANG=es_ES.UTF-8;ZEL_MONKEY_EVENTS=10000")
     return()
   endif()
@@ -48,11 +48,11 @@ function(zel_tests folder)
     string(JOIN ":" left_out "*TooLongToBeRead*" "LongWalks.OfAPick*" "Png.HasTheSameBytes*"
       "Races.DoNotReadMoreOfAGrowingFile*")
     add_test(NAME ${target} COMMAND ${target} --gtest_brief=1 --gtest_filter=-${left_out})
-    set_tests_properties(${target} PROPERTIES TIMEOUT 1800 LABELS ${folder})
+    set_tests_properties(${target} PROPERTIES TIMEOUT 3600 LABELS ${folder})
     return()
   endif()
   # The tests are listed when ctest starts, not by the build: a program that cannot start is a
   # failed test then, not a failed build.
-  gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
-    PROPERTIES TIMEOUT 300 LABELS ${folder})
+  gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 600
+    PROPERTIES TIMEOUT 1500 LABELS ${folder})
 endfunction()

@@ -23,6 +23,6 @@ function(zel_test_scripts)
     add_test(NAME "${name}"
       COMMAND bash "${CMAKE_CURRENT_SOURCE_DIR}/${script}"
         "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zel-cli${CMAKE_EXECUTABLE_SUFFIX}" "${PROJECT_SOURCE_DIR}")
-    set_tests_properties("${name}" PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 600 LABELS "${folder}")
+    set_tests_properties("${name}" PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 3600 LABELS "${folder}")
   endforeach()
 endfunction()

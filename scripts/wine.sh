@@ -26,10 +26,10 @@ windows_path() {
 
 make_home() {
   mkdir -p "$WINEPREFIX"
-  env -u DISPLAY -u WAYLAND_DISPLAY timeout 300 "$wine" wineboot --init
+  env -u DISPLAY -u WAYLAND_DISPLAY timeout 1200 "$wine" wineboot --init
   cp /usr/share/wine/fonts/*.ttf /usr/share/fonts/truetype/liberation/*.ttf \
     "$WINEPREFIX/drive_c/windows/Fonts/" || true
-  env -u DISPLAY -u WAYLAND_DISPLAY timeout 60 "$wine" regedit /S "$root/scripts/wine.reg"
+  env -u DISPLAY -u WAYLAND_DISPLAY timeout 600 "$wine" regedit /S "$root/scripts/wine.reg"
   touch "$WINEPREFIX/complete"
 }
 

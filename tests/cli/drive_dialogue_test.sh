@@ -5,7 +5,7 @@ cli=$1
 source_dir=$2
 export LC_ALL=C.UTF-8
 
-timeout 60 python3 - "$cli" "$source_dir/examples/waves.zel" <<'PYTHON'
+timeout 600 python3 - "$cli" "$source_dir/examples/waves.zel" <<'PYTHON'
 import json
 import subprocess
 import sys

@@ -4,7 +4,7 @@ set -uo pipefail
 cli=$1
 command -v python3 >/dev/null || exit 77
 
-timeout 120 python3 - "$cli" <<'PYTHON'
+timeout 600 python3 - "$cli" <<'PYTHON'
 import os
 import pty
 import subprocess

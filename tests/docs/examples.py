@@ -33,7 +33,7 @@ complaints = []
 def run(command, folder):
     environment = dict(os.environ, PATH=f"{CLI.parent}:{os.environ['PATH']}", LC_ALL="C")
     done = subprocess.run(["bash", "-c", command], cwd=folder, env=environment, text=True,
-                          capture_output=True, timeout=120, check=False, encoding="utf-8")
+                          capture_output=True, timeout=600, check=False, encoding="utf-8")
     return done.returncode, done.stdout + done.stderr
 
 

@@ -36,7 +36,7 @@ start_until() {
   rm -f "$work/trace" # nothing of the start before is taken for this one's
   strace -f -o "$work/trace" -e trace=file "$@" "$zel" >/dev/null 2>&1 &
   tracer=$!
-  for _ in $(seq 600); do
+  for _ in $(seq 6000); do
     grep -Eq "$pattern" "$work/trace" 2>/dev/null && break
     kill -0 "$tracer" 2>/dev/null || break
     sleep 0.1

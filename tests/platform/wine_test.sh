@@ -3,6 +3,8 @@
 # back, a browser and a mail client that are not installed, and recorders in the place of both.
 set -uo pipefail
 root=$2
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "$0")/../support/patience.sh"
 
 skip() {
   echo "skipped: $1"
@@ -34,12 +36,12 @@ unset DISPLAY WAYLAND_DISPLAY
 finish() {
   local server
   for server in "$(dirname "$(readlink -f "$wine")")"/wineserver{64,}; do
-    [[ ! -x $server ]] || timeout 60 "$server" -k >/dev/null 2>&1
+    [[ ! -x $server ]] || timeout "$PATIENCE" "$server" -k >/dev/null 2>&1
   done
   rm -rf "$work"
 }
 trap finish EXIT
-timeout 300 "$wine" wineboot --init >/dev/null 2>&1 || skip "wine64 cannot make a home of its own"
+timeout "$PATIENCE" "$wine" wineboot --init >/dev/null 2>&1 || skip "wine64 cannot make a home of its own"
 
 failures=0
 
@@ -47,7 +49,7 @@ failures=0
 says() {
   local name=$1 expected=$2 found
   shift 2
-  found=$(timeout 120 "$wine" "$@" 2>/dev/null | tr -d '\r')
+  found=$(timeout "$PATIENCE" "$wine" "$@" 2>/dev/null | tr -d '\r')
   [[ $found == "$expected" ]] && return
   printf '%s: expected\n%s\nfound\n%s\n' "$name" "$expected" "$found"
   failures=$((failures + 1))
@@ -57,7 +59,7 @@ says() {
 # code page of consoles.
 entry() {
   local found
-  found=$(timeout 120 "$wine" reg query "HKEY_CLASSES_ROOT\\$1" /ve 2>/dev/null | tr -d '\r' |
+  found=$(timeout "$PATIENCE" "$wine" reg query "HKEY_CLASSES_ROOT\\$1" /ve 2>/dev/null | tr -d '\r' |
     sed -n 's/.*REG_SZ *//p' | iconv -f cp850 -t utf-8)
   [[ $found == "$2" ]] && return
   printf 'entry %s: expected\n%s\nfound\n%s\n' "$1" "$2" "$found"

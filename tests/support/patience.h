@@ -6,7 +6,7 @@
 namespace zel::test {
 
 /// How long a test waits for what must come, in milliseconds: far longer than a busy machine takes.
-inline constexpr int kPatience = 120000;
+inline constexpr int kPatience = 600000;
 
 /// Waits for what another process does; false when it does not come.
 template <class Condition>

@@ -4,8 +4,10 @@
 # pressed again.
 # shellcheck shell=bash
 
-PATIENCE=120 # seconds
-AGAIN=20     # seconds after which a key counts as lost
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "${BASH_SOURCE[0]}")/patience.sh"
+AGAIN=20 # seconds after which a key counts as lost
+screen_jobs=
 
 # open_screen FOLDER: starts a screen and a window manager, with their files in FOLDER.
 open_screen() {
@@ -39,19 +41,6 @@ fail() {
     echo "the screen: $SCREEN_PICTURE"
   fi
   exit 1
-}
-
-# wait_until COMMAND...: runs it again and again until it succeeds.
-wait_until() { wait_for "$PATIENCE" "$@"; }
-
-# wait_for SECONDS COMMAND...
-wait_for() {
-  local end=$((SECONDS + $1))
-  shift
-  until "$@"; do
-    [[ $SECONDS -lt $end ]] || return 1
-    sleep 0.1
-  done
 }
 
 # in_front TITLE: whether a visible window has this title (a regular expression); gives it the focus.

@@ -10,7 +10,7 @@ setup=$(echo "$root"/build/windows/zel-*-setup.exe)
 [[ -f $setup ]] || skip "there is no installer (scripts/windows.sh makes it)"
 
 export WINEPATH=''
-open_screen
+open_screen "$work"
 own_windows
 drive=$WINEPREFIX/drive_c
 
@@ -64,19 +64,19 @@ mkdir "$work/elsewhere"
   >"$work/zel.log" 2>&1 &
 program=$!
 children+=("$program")
-window 'ZEL - (Idioma|Language)'
+focused 'ZEL - (Idioma|Language)'
 keys Return
-window ZEL
+focused ZEL
 keys Return
-window "$opened"
+focused "$opened"
 keys alt+F4
 ended "$program"
 [[ -s $drive/users/$(id -un)/AppData/Roaming/zel/config.ini ]] || complain "no configuration"
 [[ -z $(find "$work/elsewhere" -mindepth 1) ]] || complain "it leaves files where it is started"
 wine start /unix "$work/olas é Ω.zel"
-window ZEL
+focused ZEL
 keys Return
-window "$opened"
+focused "$opened"
 keys alt+F4
 gone "$opened"
 
@@ -88,7 +88,7 @@ wine "$setup" /S
 wine "$place/uninstall.exe" /S
 # It goes on in a copy of itself.
 is_alone() { [[ $(find "$place" -type f) == "$place/of the user.txt" ]]; }
-seconds 60 is_alone || complain "left: $(find "$place" -type f)"
+wait_until is_alone || complain "left: $(find "$place" -type f)"
 rm "$place/of the user.txt"
 rmdir "$place" || complain "left: $(find "$place")"
 files >"$work/files.after"

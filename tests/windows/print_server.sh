@@ -1,8 +1,9 @@
-# To be sourced: a print server of the test's own, which listens on a socket in a folder and nowhere
-# else; its one printer puts what it gets into that folder.
+# To be sourced after screen.sh: a print server of the test's own, which listens on a socket in a
+# folder and nowhere else; its one printer puts what it gets into that folder.
 # shellcheck shell=bash disable=SC2034
 
-# start_print_server FOLDER: its process is in `print_server`. False where there is no cupsd.
+# start_print_server FOLDER: its process is in `print_server`. False where there is no cupsd, or
+# where it ends by itself.
 start_print_server() {
   local folder=$1 cupsd
   cupsd=$(command -v cupsd || ls /usr/sbin/cupsd 2>/dev/null) || return 1
@@ -88,10 +89,9 @@ END
   chmod 755 "$folder/bin/backend/keep"
   "$cupsd" -f -c "$folder/cupsd.conf" -s "$folder/cups-files.conf" >"$folder/said" 2>&1 &
   print_server=$!
-  for _ in $(seq 200); do
-    [[ ! -S $folder/socket ]] || return 0
-    sleep 0.1
-  done
+  wait_until listens_or_ended "$folder/socket" || fail "the print server does not listen"
+  [[ ! -S $folder/socket ]] || return 0
   cat "$folder/said" "$folder/log"
   return 1
 }
+listens_or_ended() { [[ -S $1 ]] || ! kill -0 "$print_server" 2>/dev/null; }

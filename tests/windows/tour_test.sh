@@ -11,35 +11,36 @@ set -uo pipefail
 # shellcheck source-path=SCRIPTDIR
 . "$(dirname "$0")/print_server.sh"
 pictures=${TOUR_PICTURES:-$work}
-mkdir -p "$pictures" "$work/run"
+mkdir -p "$pictures"/{ES,EN} "$work/run"
 "$root/scripts/windows_package.sh" --folder "$work/ZEL" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
 
 export WINEPATH=''
-open_screen
+open_screen "$work"
 own_windows
 start_print_server "$work/printer" || skip "no print server"
 children+=("$print_server")
 export CUPS_SERVER=$work/printer/socket
 
-look() { import -window root "$pictures/$code-$1.png"; }
 # The window that has the focus, with its frame, in few colours.
 take() {
   import -frame -window "$(xdotool getactivewindow)" "$work/window.png"
   convert "$work/window.png" +dither -colors 256 -strip -define png:compression-level=9 \
     "$pictures/windows_${code,,}.png"
 }
-# changes FROM TO COMPLAINT: waits until the screen is another one than in picture FROM, and keeps it.
-changes() { seconds 30 differs "$1" "$2" || fail "$3"; }
-differs() {
-  local count
-  look "$2"
-  count=$(compare -metric AE "$pictures/$code-$1.png" "$pictures/$code-$2.png" null: 2>&1)
-  [[ ${count%%.*} != 0 ]]
+# changes FROM TO COMPLAINT: waits until the screen is another one than in picture FROM, and keeps it
+# when it has come to rest.
+changes() {
+  wait_until looks_other "$1" "$2" || fail "$3"
+  look_still "$2"
 }
-# colourful NAME: whether the screen has more colours than an empty plot, and keeps it.
+# plotted NAME: waits until the screen has more colours than an empty plot, and keeps it likewise.
+plotted() {
+  wait_until colourful "$1" || fail "nothing is drawn"
+  look_still "$1"
+}
 colourful() {
   look "$1"
-  [[ $(convert "$pictures/$code-$1.png" -unique-colors -format '%w' info:) -gt 20 ]]
+  [[ $(convert "$screen_files/$1.png" -unique-colors -format '%w' info:) -gt 20 ]]
 }
 # click RIGHT BOTTOM [BUTTON]: so far from the corner of the window that has the focus; with "-" from
 # the other one.
@@ -52,131 +53,119 @@ click() {
   xdotool mousemove --window "$window" "$x" "$y" sleep 0.2 click "${3:-1}" sleep 0.3
 }
 start() {
-  (cd "$work/run" && exec "$root/scripts/wine.sh" "$work/ZEL/zel.exe" "$@") >"$work/zel.log" 2>&1 &
+  (cd "$work/run" && exec "$root/scripts/wine.sh" "$work/ZEL/zel.exe" "$@") >"$screen_files/zel.log" 2>&1 &
   program=$!
   children+=("$program")
-}
-
-# brought KEY TITLE: whether the window is there; where it is not, presses the key and looks a while. A
-# key that is pressed while a box goes away can be lost.
-brought() {
-  is_shown "$2" && return
-  keys "$1"
-  seconds 5 is_shown "$2"
 }
 
 # tour CODE MAIN EDITOR PLOT VALUE INFORMATION PRINT HELP SAVE: the titles of the windows.
 tour() {
   code=$1
+  screen_files=$pictures/$code
   local main=$2 editor=$3 plot=$4 value=$5 information=$6 print=$7 help=$8 save=$9
   local saved="$work/run/onda é Ω $code.zel"
   rm -f "$work/run/config.ini"
+  # Long before it is pasted: Wine hears of it by and by. Not every keyboard has the name's letters.
+  printf 'Z:%s' "${saved//\//\\}" | xclip -selection clipboard
 
   start
-  window 'ZEL - (Idioma|Language)'
+  focused 'ZEL - (Idioma|Language)'
   [[ $code == ES ]] || keys Down
   sleep 0.5
   look first
   keys Return
-  window ZEL
+  focused ZEL
   look presentation
   keys Return
-  window "$main"
+  focused "$main"
   keys alt+a
-  window "$editor"
+  focused "$editor"
   xdotool type --delay 60 '7*sen(60*x)'
   sleep 0.5
   look editor
   keys Return
   gone "$editor"
-  window "$main"
+  focused "$main"
   look main
   click 90 40
-  window "$plot"
-  seconds 30 colourful plot || fail "nothing is drawn"
+  focused "$plot"
+  plotted plot
   keys Right
   changes plot panned "the arrow keys do not pan"
-  sleep 0.5
-  look panned
   click -330 -330
   changes panned traced "a click does not trace"
 
   keys Tab Right Right Right Right Right Right Right Right Right Right Right space
-  window "$value"
+  focused "$value"
   xdotool type --delay 60 2
   look value
   keys Return
-  window "$information"
+  focused "$information"
   look information
   keys Escape
-  window "$value"
+  focused "$value"
   keys Escape
-  window "$plot"
+  focused "$plot"
 
   # Help topics are offered in Spanish only.
   if [[ $code == ES ]]; then
-    seconds 60 brought F1 "$help"
-    window "$help"
+    opens "$help" F1
     look help
     keys Escape
     gone "$help"
-    window "$plot"
+    focused "$plot"
   fi
-  seconds 60 brought ctrl+p "$print"
-  window "$print"
+  opens "$print" ctrl+p
   sleep 1
   look print
   # The key is that of the button's name; the dialog is the system's own.
   keys "alt+$([[ $code == ES ]] && echo i || echo p)"
-  window Print
+  focused Print
   look printer
   keys Return
   gone Print
-  seconds 60 test -s "$work/printer/out/page.ps"
+  wait_until test -s "$work/printer/out/page.ps"
   grep -aq '^%%Title: ZEL' "$work/printer/out/page.ps" || fail "no page comes out"
   rm "$work/printer/out/page.ps"
-  window "$print"
+  focused "$print"
   keys Escape
   gone "$print"
-  window "$plot"
+  focused "$plot"
   keys alt+F4
-  window "$main"
+  focused "$main"
   keys ctrl+s
-  window "$save"
-  # The name comes from the clipboard: not every keyboard has its letters.
-  printf 'Z:%s' "${saved//\//\\}" | xclip -selection clipboard
-  sleep 1
+  focused "$save"
   keys alt+n
   keys ctrl+v
   sleep 1
   look save
   keys Return
-  window "ZEL - $(basename "$saved")"
+  focused "ZEL - $(basename "$saved")"
   grep -q '^ecuacion=7\*sen(60\*x)' "$saved" || fail "the document does not hold the function"
   keys alt+F4
   ended "$program"
   grep -q "^$code" "$work/run/config.ini" || fail "the language was not kept"
 
   start "$saved"
-  window ZEL
+  focused ZEL
   keys Return
-  window "ZEL - $(basename "$saved")"
+  focused "ZEL - $(basename "$saved")"
   look opened
   keys alt+F4
   ended "$program"
 
   start "$root/examples/all_kinds.zel"
-  window ZEL
+  focused ZEL
   keys Return
-  window 'ZEL - all_kinds.zel'
+  focused 'ZEL - all_kinds.zel'
   click 90 40
-  window "$plot"
-  seconds 30 colourful plotted || fail "nothing is drawn"
+  focused "$plot"
+  plotted plotted
   click -250 -200
   changes plotted walked "a click does not trace"
   take
   keys alt+F4
-  window 'ZEL - all_kinds.zel'
+  focused 'ZEL - all_kinds.zel'
   keys alt+F4
   ended "$program"
 }

@@ -5,6 +5,8 @@
 
 cli_path=$1
 root=$2
+# shellcheck source-path=SCRIPTDIR
+. "$(dirname "${BASH_SOURCE[0]}")/../support/patience.sh"
 linux_path=$root/build/release/bin/zel-cli
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -17,8 +19,8 @@ skip() {
 }
 
 # wine PROGRAM ARGUMENT...
-wine() { timeout 120 "$root/scripts/wine.sh" "$@" 2>"$work/wine.log"; }
-cli() { timeout 120 "$root/scripts/wine.sh" "$cli_path" "$@"; }
+wine() { timeout "$PATIENCE" "$root/scripts/wine.sh" "$@" 2>"$work/wine.log"; }
+cli() { timeout "$PATIENCE" "$root/scripts/wine.sh" "$cli_path" "$@"; }
 linux_cli() { "$linux_path" "$@"; }
 
 # A Windows of the test's own, which shows its windows on the screen that is open by now.
@@ -27,7 +29,7 @@ own_windows() {
   cp -a "$root/build/wine" "$work/home"
   export WINEPREFIX=$work/home
 }
-end_windows() { [[ ${WINEPREFIX:-} != "$work/home" ]] || timeout 60 /usr/lib/wine/wineserver64 -k; }
+end_windows() { [[ ${WINEPREFIX:-} != "$work/home" ]] || timeout "$PATIENCE" /usr/lib/wine/wineserver64 -k; }
 
 complain() {
   printf 'failed: %s\n' "$*"

@@ -2,6 +2,7 @@
 #include <QProcessEnvironment>
 
 #include "frm_grafico_fixture.h"
+#include "support/patience.h"
 
 /// The picture of the plot window: its size, and that it lasts.
 namespace zel::test {
@@ -26,7 +27,7 @@ class GraficoPicture : public GraficoTest {
     process.setProcessChannelMode(QProcess::ForwardedChannels);
     process.start(QCoreApplication::applicationFilePath(),
                   {QString("--gtest_filter=%1.%2").arg(info->test_suite_name(), info->name())});
-    EXPECT_TRUE(process.waitForFinished(60000));
+    EXPECT_TRUE(process.waitForFinished(kPatience));
     EXPECT_EQ(process.exitCode(), 0);
     return false;
   }

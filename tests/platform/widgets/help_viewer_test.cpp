@@ -17,6 +17,7 @@
 #include "platform/widgets/help_page.h"
 #include "platform/widgets/widget_help_viewer.h"
 #include "support/language_guard.h"
+#include "support/patience.h"
 #include "support/qt_application.h"
 #include "support/temporary_folder.h"
 
@@ -68,7 +69,7 @@ class HelpOfWidgets : public ::testing::Test {
     putHelp("# Help\n\n## One\n\n[to three](#three)\n\n" + filler + "## Two\n\nParábola\n\n" +
             filler + "## Three\n\nparabola\n\n" + filler);
     viewer.show("h.hlp", kHelpTopics);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window(), kPatience));
   }
   /// Types into the search.
   static void search(const char* words) {
@@ -207,7 +208,7 @@ TEST_F(HelpOfWidgets, MakesWidePicturesAsWideAsTheView) {
   QImage(30, 30, QImage::Format_RGB32).save(QString::fromStdString(folder_ / "small.png"));
   putHelp("# Help\n\n![wide](wide.png)\n\n![small](small.png)\n");
   viewer.show("h.hlp", kHelpTopics);
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(window(), kPatience));
   const int width = pictureOf("wide.png").width();
   EXPECT_GT(width, 100);
   EXPECT_EQ(text().horizontalScrollBar()->maximum(), 0);

@@ -109,8 +109,11 @@ class PrinterOfCups : public PrinterTest {
     server_.setProcessChannelMode(QProcess::MergedChannels);
     server_.start(program.isEmpty() ? elsewhere : program,
                   {"-f", "-c", path("cupsd.conf"), "-s", path("cups-files.conf")});
-    if (!QTest::qWaitFor(answers, kPatience)) {
-      GTEST_SKIP() << "cupsd does not start: " << server_.readAll().toStdString()
+    const auto has_ended = [this] { return server_.state() == QProcess::NotRunning; };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return answers() || has_ended(); }, kPatience))
+        << "cupsd does not listen: " << bytesOf(serverFolder() / "log");
+    if (has_ended()) {
+      GTEST_SKIP() << "cupsd cannot run: " << server_.readAll().toStdString()
                    << bytesOf(serverFolder() / "log");
     }
   }

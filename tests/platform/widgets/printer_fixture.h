@@ -11,6 +11,7 @@
 
 #include "platform/widgets/widget_printer.h"
 #include "support/environment_guard.h"
+#include "support/patience.h"
 #include "support/qt_application.h"
 #include "support/temporary_folder.h"
 
@@ -47,7 +48,7 @@ class PrinterTest : public ::testing::Test {
   static QImage pageOf(const std::string& pdf) {
     QProcess process;
     process.start("pdftoppm", {"-r", "144", "-singlefile", "-png", QString::fromStdString(pdf)});
-    EXPECT_TRUE(process.waitForFinished()) << "pdftoppm (package poppler-utils) is needed";
+    EXPECT_TRUE(process.waitForFinished(kPatience)) << "pdftoppm (package poppler-utils) is needed";
     return QImage::fromData(process.readAllStandardOutput(), "PNG");
   }
 

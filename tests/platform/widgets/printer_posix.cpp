@@ -20,7 +20,8 @@ class PrinterOfFiles : public PrinterTest {
   static std::string textOf(const std::string& pdf) {
     QProcess process;
     process.start("pdftotext", {QString::fromStdString(pdf), "-"});
-    EXPECT_TRUE(process.waitForFinished()) << "pdftotext (package poppler-utils) is needed";
+    EXPECT_TRUE(process.waitForFinished(kPatience))
+        << "pdftotext (package poppler-utils) is needed";
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed().toStdString();
   }
   static int darkest(const QImage& image) {

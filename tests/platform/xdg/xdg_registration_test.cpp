@@ -26,7 +26,7 @@ std::string outputOf(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.setProcessChannelMode(QProcess::MergedChannels);
   process.start(program, arguments);
-  process.waitForFinished();
+  process.waitForFinished(kPatience);
   return QString::fromUtf8(process.readAll()).trimmed().toStdString();
 }
 
