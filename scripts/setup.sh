@@ -15,7 +15,7 @@ declare -A groups=(
   [chroot]="debootstrap"
   [pictures]="librsvg2-bin"
   [wine]="wine64"
-  [windows]="g++-mingw-w64-x86-64-posix dpkg-dev nasm make nsis zip
+  [windows]="g++-mingw-w64-x86-64-posix dpkg-dev imagemagick nasm make nsis zip
     wine wine64 fonts-wine fonts-liberation xvfb xauth"
   [bench]="gnuplot-nox libbenchmark-dev libmuparser-dev python3 x11-utils xvfb"
   [fuzz]="clang libclang-rt-14-dev"

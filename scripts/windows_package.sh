@@ -87,7 +87,11 @@ add_documents
 find "$folder" -exec touch -h -d @"$(git log -1 --format=%ct 2>/dev/null || echo 1230768000)" {} +
 (cd "$made" && find "zel-$version" | LC_ALL=C sort | TZ=UTC zip -9 -X -q "zel-$version-windows.zip" -@)
 removal_list >"$made/removal.nsh"
-makensis -V2 -NOCD -INPUTCHARSET UTF8 "-DVERSION=$version" "-DFOLDER=$folder" "-DREMOVAL=$made/removal.nsh" \
-  "-DSIZE=$(du -sk "$folder" | cut -f 1)" "-DOUT=$made/zel-$version-setup.exe" packaging/windows/setup.nsi
-rm "$made/removal.nsh"
+convert -size 164x314 gradient:white-#c9d9ec packaging/zel-128.png -gravity center -composite \
+  -alpha off -type TrueColor "BMP3:$made/finished.bmp"
+makensis -V2 -NOCD -INPUTCHARSET UTF8 "-DVERSION=$version" "-DFOLDER=$folder" \
+  "-DREMOVAL=$made/removal.nsh" "-DPICTURE=$made/finished.bmp" \
+  "-DSIZE=$(du -sk "$folder" | cut -f 1)" "-DOUT=$made/zel-$version-setup.exe" \
+  packaging/windows/setup.nsi
+rm "$made/removal.nsh" "$made/finished.bmp"
 ls -l "$made"/*.zip "$made"/*.exe

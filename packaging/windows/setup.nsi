@@ -25,6 +25,7 @@ VIAddVersionKey "LegalCopyright" "MIT"
 !include FileFunc.nsh
 !define MUI_ICON "packaging/windows/zel.ico"
 !define MUI_UNICON "packaging/windows/zel.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\zel.exe"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES

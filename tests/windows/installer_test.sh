@@ -80,9 +80,26 @@ focused "$opened"
 keys alt+F4
 gone "$opened"
 
-# Over itself, and away.
+# Over itself, page by page: the last one has the program's picture, and starts it.
+shows_picture() {
+  look last
+  [[ $(convert "$work/last.png" -fill black +opaque '#f0b429' -fill white -opaque '#f0b429' \
+    -format '%[fx:w*h*mean]' info: | cut -d . -f 1) -gt 300 ]]
+}
 touch "$place/of the user.txt"
-wine "$setup" /S
+"$root/scripts/wine.sh" "$setup" >"$work/setup.log" 2>&1 &
+children+=($!)
+focused '.*ZEL [0-9.]+.*'
+keys Return
+wait_until shows_picture || fail "the last page has another picture"
+keys Return
+focused ZEL
+keys Return
+focused 'ZEL - (Datos iniciales|Graphic manager)'
+keys alt+F4
+gone 'ZEL - (Datos iniciales|Graphic manager)'
+
+# And away.
 [[ -f $place/zel.exe ]] || complain "not installed again"
 [[ -s $drive/users/$(id -un)/AppData/Roaming/zel/config.ini ]] || complain "the configuration is lost"
 wine "$place/uninstall.exe" /S
