@@ -2,6 +2,9 @@
 
 #include <QPainter>
 #include <QStyleOptionComplex>
+#include <optional>
+
+#include <QStyleOptionHeaderV2>
 
 namespace zel {
 namespace {
@@ -19,11 +22,21 @@ void drawFocus(const QStyleOption& option, QPainter& painter) {
   painter.restore();
 }
 
+/// Nothing for what is no header.
+std::optional<QStyleOptionHeaderV2> withoutIcon(const QStyleOption& option) {
+  const auto* const header = qstyleoption_cast<const QStyleOptionHeaderV2*>(&option);
+  if (header == nullptr) return std::nullopt;
+  QStyleOptionHeaderV2 plain = *header;
+  plain.icon = QIcon();
+  return plain;
+}
+
 }  // namespace
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
-  QProxyStyle::drawControl(element, option, painter, widget);
+  const auto header = element == CE_Header ? withoutIcon(*option) : std::nullopt;
+  QProxyStyle::drawControl(element, header ? &*header : option, painter, widget);
   if (element == CE_PushButton) drawFocus(*option, *painter);
 }
 

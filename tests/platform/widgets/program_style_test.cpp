@@ -1,8 +1,11 @@
 #include "platform/widgets/program_style.h"
 
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QPushButton>
+#include <QStandardItemModel>
 #include <QStyleOptionButton>
 #include <QStyleOptionToolButton>
 #include <functional>
@@ -87,6 +90,37 @@ TEST_F(StyleOfTheProgram, MakesItsIconsAnewWhenTheColoursOfTheDesktopChange) {
   EXPECT_NE(icon(), first);
   QApplication::setPalette(QPalette());
   QApplication::setStyle(before);
+}
+
+/// Like the model of files: its header has a new picture whenever it is asked for one.
+class NewPictures : public QStandardItemModel {
+ public:
+  using QStandardItemModel::QStandardItemModel;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    if (role != Qt::DecorationRole)
+      return QStandardItemModel::headerData(section, orientation, role);
+    QImage picture(16, 16, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::red);
+    return picture;
+  }
+};
+
+TEST_F(StyleOfTheProgram, PaintsAHeaderThatLeavesNothingInTheToolkitsCacheOfPictures) {
+  constexpr int kLimitInKilobytes = 16;
+  const int limit = QPixmapCache::cacheLimit();
+  NewPictures model(1, 1);
+  QHeaderView header(Qt::Horizontal);
+  header.setStyle(&style);
+  header.setModel(&model);
+  header.grab();
+  QPixmapCache::clear();
+  QPixmapCache::setCacheLimit(kLimitInKilobytes);
+  QPixmap other(32, 32);
+  other.fill(Qt::red);
+  ASSERT_TRUE(QPixmapCache::insert("other", other));
+  for (int i = 0; i < 40; ++i) header.grab();
+  EXPECT_TRUE(QPixmapCache::find("other", &other)) << "pushed out by pictures of the header";
+  QPixmapCache::setCacheLimit(limit);
 }
 
 TEST_F(StyleOfTheProgram, GivesTheButtonsOfDialogsNoIcons) {
