@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The programs lie at a random place out of 64 bits, run no data, and have canaries on the stack.
+# The programs lie at a random place out of 64 bits, run no data, and have canaries on the stack;
+# zel-cli.exe checks its copies.
 set -uo pipefail
 # shellcheck source-path=SCRIPTDIR
 . "$(dirname "$0")/wine.sh"
@@ -13,4 +14,6 @@ for program in "$cli_path" "${cli_path%-cli.exe}.exe"; do
   x86_64-w64-mingw32-nm "$program" >"$work/names" 2>/dev/null
   grep -q __stack_chk_fail "$work/names" || complain "${program##*/}: no canaries"
 done
+x86_64-w64-mingw32-nm "$cli_path" >"$work/names" 2>/dev/null
+grep -q ' __memcpy_chk$' "$work/names" || complain "zel-cli.exe: no checked copies"
 [[ $failures -eq 0 ]]
