@@ -48,6 +48,20 @@ TEST(TemporaryNames, AreNeverTheSameAndAreKnownAgain) {
   EXPECT_EQ(digits.size(), 16u);
 }
 
+/// A copy of the process has the state of any generator that the process holds.
+TEST(TemporaryNames, AreOthersInACopyOfTheProcess) {
+  const TemporaryFolder folder;
+  const std::string path = folder / "name";
+  ASSERT_EQ(inAChild([&] {
+              putBytes(path, newTemporaryName());
+              return 0;
+            }),
+            0);
+  const std::string name = newTemporaryName();
+  EXPECT_TRUE(isTemporaryName(bytesOf(path)));
+  EXPECT_NE(bytesOf(path), name);
+}
+
 TEST(TemporaryNames, AreNothingElse) {
   EXPECT_TRUE(isTemporaryName(".zel-0123456789abcdef.tmp"));
   for (const char* const name :
