@@ -28,6 +28,9 @@ class PdfPicture : public Picture {
   void extendPiece(Point point) override;
   void dot(Point centre, double radius) override;
 
+  /// In bytes.
+  std::size_t limit() const { return max_content_; }
+
   /// The document outgrew its limit and takes nothing more.
   bool isFull() const { return written_ > max_content_; }
 

@@ -28,6 +28,9 @@ class SvgPicture : public Picture {
   void extendPiece(Point point) override;
   void dot(Point centre, double radius) override;
 
+  /// In bytes.
+  std::size_t limit() const { return max_text_; }
+
   /// The document outgrew its limit and takes nothing more.
   bool isFull() const { return body_.size() + points_.size() + dots_.size() > max_text_; }
 

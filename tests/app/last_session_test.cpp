@@ -102,6 +102,16 @@ TEST_F(SessionBefore, OutlivesASessionWithoutGraphs) {
   EXPECT_EQ(formulaOf('q'), "x^2");
 }
 
+TEST_F(SessionBefore, OutlivesDeclarationsThatNoDocumentHolds) {
+  begin();
+  addFunction('a', "x");
+  keep();
+  const std::string bytes = bytesOf(file);
+  addFunction('a', "x\r\n+1");
+  keep();
+  EXPECT_EQ(bytesOf(file), bytes);
+}
+
 TEST_F(SessionBefore, IsReplacedWholeByEachChange) {
   begin();
   addFunction('a', "x");

@@ -46,6 +46,11 @@ TEST(WidePathOfWindows, KeepsALongPathThatBeginsSoAlready) {
   EXPECT_EQ(wide(path), letters(path));
 }
 
+TEST(WidePathOfWindows, HasRoomForTheLongestPath) {
+  EXPECT_EQ(wide(std::string(32767, 'a')).size(), 32767u);
+  EXPECT_TRUE(WidePath(std::string(32768, 'a')).isEmpty());
+}
+
 TEST(WidePathOfWindows, IsEmptyForATextThatIsNoPath) {
   for (const std::string& text :
        {std::string(), std::string("a\0b", 3), std::string("a\xFF"), std::string(100000, 'a')})

@@ -13,7 +13,6 @@ TEST(ToolTip, FoldsATextAfterEightyCharacters) {
   EXPECT_EQ(shownTip(toolTipOf(QString(81, u'x'))), std::string(81, 'x'));
 }
 
-// The bounds kMostLines and kLineLength, and one character past them.
 TEST(ToolTip, ShowsTwentyLinesOfEightyCharactersAtMost) {
   EXPECT_EQ(shownTip(toolTipOf(QString(1600, u'x'))), std::string(1600, 'x'));
   EXPECT_EQ(shownTip(toolTipOf(QString(1601, u'x'))), std::string(1600, 'x') + "…");

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Each message that the program shows, in both languages, each control, each key of the toolbar and
-# each bound of docs/limits.md is named by a test.
+# Each message that the program shows, in both languages, each control and each key of the toolbar is
+# named by a test. docs/limits.md has each bound with its number, and a test that is there.
 set -euo pipefail
 root=$2
 here=$(dirname "$0")
@@ -11,25 +11,74 @@ mkdir -p "$sample"/{src/{base,forms,plot/session},tests,docs}
 cat >"$sample/src/base/message_table.cpp" <<'EOF'
 constexpr std::string_view kLong = "uno "
     "dos";
-constexpr std::array<MessageRow, 4> kRows = {{
+constexpr std::array<MessageRow, 6> kRows = {{
     {"Hecho.", "Done."},
     {"Campo %1.", "Field %1."},
     {"Nunca.", "Never."},
     {kLong, "one two"},
+    {"Detalle", "Detail"},
+    {"Detalle: el grafico ", "Detail: the graph "},
 }};
 EOF
-printf '%s\n' 'show("Hecho."); show("Campo %1."); show(kLong);' >"$sample/src/forms/some.cpp"
-printf '%s\n' 'box("txtA"); box("txtB"); setObjectName("Slider9");' >>"$sample/src/forms/some.cpp"
+cat >"$sample/src/forms/some.cpp" <<'EOF'
+show("Hecho."); show("Campo %1."); show(kLong); show("Detalle"); show("Detalle: el grafico ");
+box("txtA"); box("txtB"); setObjectName("Slider9");
+constexpr int kMostShown = 100 / kPart;
+EOF
+cat >"$sample/src/forms/some.h" <<'EOF'
+class Some : public Other {
+  static constexpr std::size_t kMost = std::size_t{2} << 20;
+  static constexpr int kMostForgotten = 7;
+};
+struct More {
+  static constexpr Size kLeast{30, 40};  // kMost
+};
+inline constexpr long long kMostWrong = 1'000;
+inline constexpr int kPart = 5;
+EOF
 printf '%s\n' 'keys = {"Arriba", "Abajo"};' >"$sample/src/plot/session/plot_command.h"
+cat >"$sample/docs/limits.md" <<'EOF'
+| what | bound | constant, test | past it |
+|---|---|---|---|
+| a | 2 MiB | `Some::kMost` | x |
+| b | 30 x 40 | `More::kLeast` | x |
+| c | 1,001 | `kMostWrong` | x |
+| d | 20 | `kMostShown`: `Suite.Shows` | x |
+| e | 20 | `kMostShown`: `Suite.IsGone` | x |
+| f | 3 | - | x |
+
+Loops:
+
+- One (`Suite.Shows`).
+- Two.
+EOF
 # shellcheck disable=SC2016 # the backticks are the document's
-printf '%s\n' '| what | bound | constant |' '| a | 1 | `Some::kMost` |' '| b | 2 | `kLeast` |' \
-  >"$sample/docs/limits.md"
-printf '%s\n' '"Hecho." "Campo F." "Field F." "uno dos" txtA Slider9 Arriba kMost' \
-  >"$sample/tests/a_test.cpp"
-found=$(python3 "$here/traceability.py" "$sample")
-if [[ $found != $'message "Done."\nmessage "one two"\ncontrol txtB\nkey Abajo\nbound kLeast' ]]; then
-  echo "The check itself is wrong. It found:"
-  echo "$found"
+echo '`Suite.*`, `Suite.IsGoneToo`, `Other.*`' >"$sample/docs/reliability.md"
+cat >"$sample/tests/a_test.cpp" <<'EOF'
+TEST_F(Suite,
+       Shows) {
+  "Hecho. Campo F." "\r\nField F." "uno dos\r\n" "none two" "txtA" Slider9 Arriba kMostWrong
+  "before\r\nDetalle: 3" "Detalle: el grafico a" "Detail: the graph a";  // "Done." kLeast txtB
+  Some::kMost  // TEST(Suite, IsGone)
+}
+EOF
+cat >"$sample/expected" <<'EOF'
+message "Detail"
+message "Done."
+message "one two"
+control txtB
+key Abajo
+bound More::kLeast
+bound Some::kMostForgotten has no row
+bound kMostWrong is {1000}, not 1,001
+bound of f: nothing shows it
+nothing shows: - Two.
+test Suite.IsGone, of e
+test Other.* of docs/reliability.md
+test Suite.IsGoneToo of docs/reliability.md
+EOF
+if ! python3 "$here/traceability.py" "$sample" | diff "$sample/expected" -; then
+  echo "The check itself is wrong."
   exit 1
 fi
 

@@ -113,7 +113,13 @@ TEST(PdfPicture, IsEmptyAgainWhenItIsCleared) {
   EXPECT_EQ(picture.bytes(), empty);
 }
 
-// The limit is kMaxContent where no other one is given.
+TEST(PdfPicture, HasALimitWhereNoneIsGiven) {
+  PdfPicture picture(100, 100);
+  EXPECT_EQ(picture.limit(), PdfPicture::kMaxContent);
+  picture.clear();
+  EXPECT_EQ(picture.limit(), PdfPicture::kMaxContent);
+}
+
 TEST(PdfPicture, TakesNothingMoreBeyondItsLimit) {
   const std::vector<void (*)(PdfPicture&)> curves = {
       [](PdfPicture& picture) {
@@ -131,6 +137,7 @@ TEST(PdfPicture, TakesNothingMoreBeyondItsLimit) {
   };
   for (const auto& draw_on : curves) {
     PdfPicture picture(100, 100, 10000);
+    ASSERT_EQ(picture.limit(), 10000u);
     picture.beginGraph('a', 0);
     picture.startPiece({1, 2});
     for (int i = 0; i < 100; ++i) draw_on(picture);

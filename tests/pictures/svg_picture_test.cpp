@@ -143,7 +143,13 @@ TEST(SvgPicture, IsEmptyAgainWhenItIsCleared) {
             "<g id=\"graph-b\" stroke=\"#000000\">\n<polyline points=\"5,6 5,6\"/>\n</g>\n");
 }
 
-// The limit is kMaxText where no other one is given.
+TEST(SvgPicture, HasALimitWhereNoneIsGiven) {
+  SvgPicture picture(100, 100);
+  EXPECT_EQ(picture.limit(), SvgPicture::kMaxText);
+  picture.clear();
+  EXPECT_EQ(picture.limit(), SvgPicture::kMaxText);
+}
+
 TEST(SvgPicture, TakesNothingMoreBeyondItsLimit) {
   // One piece, pieces, dots or lines: whatever goes on forever.
   const std::vector<void (*)(SvgPicture&)> curves = {
@@ -162,6 +168,7 @@ TEST(SvgPicture, TakesNothingMoreBeyondItsLimit) {
   };
   for (const auto& drawOn : curves) {
     SvgPicture picture(100, 100, 10000);
+    ASSERT_EQ(picture.limit(), 10000u);
     picture.beginGraph('a', 0);
     picture.startPiece({1, 2});
     for (int i = 0; i < 100; ++i) drawOn(picture);

@@ -12,7 +12,7 @@ namespace zel {
 namespace {
 
 constexpr int kLongestRun = 80;
-constexpr int kMostLines = 40;
+constexpr int kMostBoxLines = 40;
 
 QString caption(BoxAnswer answer) {
   switch (answer) {
@@ -62,7 +62,7 @@ std::string boxText(const std::string& text) {
   QStringList lines;
   for (const QString& line : QString::fromStdString(text).replace("\r\n", "\n").split(u'\n'))
     lines += foldedLine(line);
-  if (lines.size() > kMostLines) lines = lines.mid(0, kMostLines) << QStringLiteral("…");
+  if (lines.size() > kMostBoxLines) lines = lines.mid(0, kMostBoxLines) << QStringLiteral("…");
   return lines.join(u'\n').toStdString();
 }
 

@@ -59,7 +59,7 @@ TEST_F(RenderFolder, WritesTheWantedFormatWithTheOptionsOfAll) {
   EXPECT_EQ(bytesOf(path("out/one.pdf")).substr(0, 5), "%PDF-");
 }
 
-// More than ParallelJobs draws at a time.
+// More than are drawn at a time.
 TEST_F(RenderFolder, DrawsManyDocumentsAsEachAlone) {
   std::vector<std::string> arguments;
   for (int i = 0; i < 40; ++i)

@@ -89,7 +89,6 @@ TEST_F(RenderCommand, ReadsIntegersAsDecimals) {
     EXPECT_EQ(run({"render", line, "-o", path("o.svg"), "--width", width}).status, 2) << width;
 }
 
-// kLeastWidth, and one pixel less.
 TEST_F(RenderCommand, SaysThatAPictureIsTooNarrowForASample) {
   EXPECT_EQ(refusal(line, {"--width", "99"}),
             "La imagen es demasiado angosta para una muestra: necesita 100 píxeles de ancho.\n");
@@ -168,7 +167,6 @@ TEST_F(RenderCommand, RefusesAWrongCommandLine) {
   }
 }
 
-// kMostPixels and kLongestSide.
 TEST_F(RenderCommand, TakesPicturesUpToTheirBoundToThePixel) {
   EXPECT_NE(svg(line, {"--width", "16384", "--height", "8192"}), "");
   EXPECT_NE(svg(line, {"--width", "32767", "--height", "1"}), "");

@@ -142,7 +142,6 @@ TEST_F(ExportWindow, StaysWhenNothingWasWritten) {
   EXPECT_TRUE(save().isEnabled());
 }
 
-// kLeastScale and kMostScale.
 TEST_F(ExportWindow, OffersScalesFromAQuarterToEight) {
   open();
   scale().setValue(0.01);

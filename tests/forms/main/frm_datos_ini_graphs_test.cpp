@@ -43,7 +43,6 @@ TEST_F(ListOfGraphs, WritesLettersInTheNormalColourAndTheSwatchUntintedInASelect
   EXPECT_EQ(row.icon(0).pixmap(16, QIcon::Selected).toImage(), normal);
 }
 
-// The bound kLongestText, and one character past it.
 TEST_F(ListOfGraphs, CutsATextAfterAThousandCharacters) {
   const auto shown = [&](std::size_t length) {
     const std::string formula(length - 5, '1');  // behind "a(x)="

@@ -75,7 +75,7 @@ TEST_F(GraficoPicture, OfLessThan100PixelsHasNoSamplesAndIsRefused) {
   EXPECT_EQ(caller.shown, 1);
 }
 
-// kLeastPicture, where there is room for the texts beside it.
+// Where there is room for the texts beside it.
 TEST_F(GraficoPicture, AWindowStopsAtASizeWithAPictureThatCanBeDrawn) {
   addFunction('a', "x");
   addFunction('b', "-x");

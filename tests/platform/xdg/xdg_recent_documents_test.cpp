@@ -73,7 +73,7 @@ TEST_F(DesktopsRecentDocuments, AreNotOfferedWhenTheyAreGone) {
 
 TEST_F(DesktopsRecentDocuments, AreTenAtTheMost) {
   for (int i = 0; i < 12; ++i) recent.add(document(std::to_string(i) + ".zel"));
-  EXPECT_THAT(recent.list(), SizeIs(XdgRecentDocuments::kMostRecent));
+  EXPECT_THAT(recent.list(), SizeIs(RecentDocuments::kMostRecent));
 }
 
 TEST_F(DesktopsRecentDocuments, AreNotLookedForWithoutEnd) {
