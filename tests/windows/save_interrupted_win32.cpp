@@ -2,7 +2,7 @@
 // before the first, the second, ... call that touches a file, and after each; then one that is let
 // be. Whatever a stopped process leaves must be the older or the newer document, whole, and the
 // next save takes away what is left beside it. The same where a call fails, or it and all later
-// ones.
+// ones, and where four processes save at once, one of which ends itself.
 //
 // The calls are caught where the program's import table would be: this file has the pointers that
 // the linker would take from the import library.
@@ -15,8 +15,10 @@
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "files/whole_file.h"
 
@@ -131,21 +133,29 @@ std::string bytesOf(const fs::path& path) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-/// How the process ended that was to stop at this call.
-DWORD saveInProcess(const fs::path& path, const std::string& when, int call) {
+/// This program anew, with a task of its own; null where it does not start.
+HANDLE startSaver(const fs::path& path, const std::string& task, int call) {
   std::wstring command(32768, L'\0');
   command.resize(GetModuleFileNameW(nullptr, command.data(), 32768));
-  command = L"\"" + command + L"\" " + fs::path(when).wstring() + L" " + std::to_wstring(call) +
+  command = L"\"" + command + L"\" " + fs::path(task).wstring() + L" " + std::to_wstring(call) +
             L" \"" + path.wstring() + L"\"";
   STARTUPINFOW start{};
   start.cb = sizeof start;
   PROCESS_INFORMATION process{};
   if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
                       &process))
-    return 0;
-  WaitForSingleObject(process.hProcess, INFINITE);
+    return nullptr;
+  CloseHandle(process.hThread);
+  return process.hProcess;
+}
+
+/// How a process ended; 0 where it was not started.
+DWORD statusOf(HANDLE process) {
+  if (process == nullptr) return 0;
+  WaitForSingleObject(process, INFINITE);
   DWORD status = 0;
-  GetExitCodeProcess(process.hProcess, &status);
+  GetExitCodeProcess(process, &status);
+  CloseHandle(process);
   return status;
 }
 
@@ -206,7 +216,7 @@ bool holds(const fs::path& folder, const std::string& when, bool existed) {
     fs::remove_all(folder);
     fs::create_directories(folder);
     if (existed) std::ofstream(document, std::ios::binary) << kOld;
-    status = saveInProcess(document, when, call);
+    status = statusOf(startSaver(document, when, call));
     const std::string wrong = complaint(folder, document, existed);
     const bool is_cleaned = !wrong.empty() || isCleaned(folder, document);
     if (!wrong.empty() || !is_cleaned ||
@@ -221,6 +231,58 @@ bool holds(const fs::path& folder, const std::string& when, bool existed) {
   return call > kFewest;
 }
 
+constexpr int kSavesEach = 10;
+constexpr int kSaved = 100;  // and so many saves that went through
+
+/// Ends the process before a call (at none where that is 0). A save that meets another one may say
+/// that it failed.
+int saveOften(int call, const fs::path& path) {
+  calls = 0;
+  stop_before = call;
+  int status = kSaved;
+  for (int i = 0; i < kSavesEach; ++i)
+    if (zel::writeWholeFile(utf8(path), i % 2 == 0 ? kNew : kOld).written) ++status;
+  stop_before = 0;
+  return status;
+}
+
+/// What is wrong with a document while a process saves it; empty when nothing is, and it was seen.
+std::string complaintWhile(HANDLE saver, const fs::path& document) {
+  int looks = 0;
+  while (WaitForSingleObject(saver, 0) == WAIT_TIMEOUT) {
+    const auto bytes = zel::readWholeFile(utf8(document));
+    if (bytes) ++looks;
+    if (bytes && *bytes != kOld && *bytes != kNew)
+      return "seen with " + std::to_string(bytes->size()) + " bytes";
+  }
+  return looks > 0 ? "" : "not seen";
+}
+
+/// Four processes save one document, of which one ends itself. False for a complaint.
+bool isSharedByMany(const fs::path& folder) {
+  const fs::path document = folder / u8"é Ω.zel";
+  fs::remove_all(folder);
+  fs::create_directories(folder);
+  std::ofstream(document, std::ios::binary) << kOld;
+  constexpr int kInTheMiddle = 31;  // a call
+  std::vector<HANDLE> savers;
+  for (const int call : {kInTheMiddle, 0, 0, 0})
+    savers.push_back(startSaver(document, "often", call));
+  std::string wrong = complaintWhile(savers.back(), document);
+  int saves = 0;
+  for (const HANDLE saver : savers) {
+    const int status = static_cast<int>(statusOf(saver));
+    if (saver == savers.front() ? status != kStopped : status < kSaved)
+      wrong += " a saver ended with " + std::to_string(status);
+    if (status >= kSaved) saves += status - kSaved;
+  }
+  wrong += complaint(folder, document, true);
+  if (wrong.empty() && !isCleaned(folder, document)) wrong = "not cleaned by the next save";
+  std::cout << "four at once: " << saves << " of " << 3 * kSavesEach << " saves"
+            << (wrong.empty() ? "" : ": ") << wrong << '\n';
+  return wrong.empty() && saves > 0;
+}
+
 int saveAndStop(const std::wstring& when, const std::wstring& call, const fs::path& path) {
   calls = 0;
   (when == L"before" ? stop_before : stop_after) = std::stoi(call);
@@ -232,6 +294,8 @@ int saveAndStop(const std::wstring& when, const std::wstring& call, const fs::pa
 }  // namespace
 
 int wmain(int count, wchar_t** wide) {
+  if (count == 4 && wide[1] == std::wstring_view(L"often"))
+    return saveOften(std::stoi(wide[2]), wide[3]);
   if (count == 4) return saveAndStop(wide[1], wide[2], wide[3]);
   if (count != 2) return 2;
   const fs::path folder = fs::path(wide[1]) / "whole";
@@ -244,6 +308,7 @@ int wmain(int count, wchar_t** wide) {
     for (const bool for_good : {false, true})
       for (const bool existed : {true, false})
         if (!survives(folder, error, for_good, existed)) all_hold = false;
+  if (!isSharedByMany(folder)) all_hold = false;
   fs::remove_all(folder);
   return all_hold ? 0 : 1;
 }
