@@ -89,7 +89,8 @@ expect_harmless() {
   [[ -z $other ]] || complain "$1: $(head -n 3 <<<"$other")"
   [[ $(grep -c 'execve(' "$work/trace") -eq 1 ]] || complain "$1: another program is started"
   # Those beside the libraries and what a sanitizer asks of the system.
-  other=$(grep -E ' open(at)?\(.*O_RDONLY' "$work/trace" | grep -vE '"(/lib/|/usr/lib/|/etc/ld\.so|/proc/s|/sys/)' |
+  other=$(grep -E ' open(at)?\(.*O_RDONLY' "$work/trace" |
+    grep -vE '"(/lib/|/usr/lib/|/etc/ld\.so|/proc/s|/sys/)' |
     grep -vE '"([a-z0-9]+\.zel|\.\./out/?|\.)", O_RDONLY')
   [[ -z $other ]] || complain "$1 reads $(head -n 3 <<<"$other")"
   ! grep -E 'secret|/made|127\.0\.0' "$work/trace" || complain "$1: a name out of the document is used"

@@ -3,6 +3,8 @@
 
 #include "support/damaged_documents.h"
 
+#include <filesystem>
+#include <iterator>
 #include <map>
 
 #include "base/code_page.h"
@@ -56,6 +58,8 @@ class DamagedDocumentInTheWindow : public WindowTest {
     for (const auto& box : services.boxes.shown) shown.push_back(box.text);
     EXPECT_EQ(shown, expected);
     EXPECT_EQ(bytesOf("damaged.zel"), bytes);
+    const std::filesystem::directory_iterator files(".");
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1);
     if (second.clears) graphs = second.graphs;
     expectGraphs();
     view = second.view;
