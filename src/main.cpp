@@ -7,6 +7,7 @@
 #include "app/installation.h"
 #include "app/program.h"
 #include "files/absolute_path.h"
+#include "files/failing_writes.h"
 #include "forms/application.h"
 #include "forms/forms.h"
 #include "platform/command_line.h"
@@ -74,6 +75,7 @@ int run(int& argument_count, char** arguments) {
 
 int main(int argument_count, char** arguments) {
   try {
+    zel::letWritesFail(zel::ClosedPipe::fails);
     return run(argument_count, arguments);
   } catch (...) {
     std::fputs("zel: the program cannot go on\n", stderr);

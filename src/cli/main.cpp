@@ -8,6 +8,7 @@
 #include "cli/console/console.h"
 #include "cli/console/interrupt.h"
 #include "cli/console/process.h"
+#include "files/failing_writes.h"
 
 namespace {
 
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
     watchTermination();
     zel::useByteStreams();
     zel::endOnInterrupt();
+    zel::letWritesFail(zel::ClosedPipe::ends_process);
     return zel::runCli(zel::processArguments(argc, argv), std::cin, std::cout, std::cerr);
   } catch (const std::bad_alloc&) {
     tellWantOfMemory();

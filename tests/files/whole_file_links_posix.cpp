@@ -14,6 +14,7 @@
 #include "child_posix.h"
 #include "faulty_calls_posix.h"
 #include "files/absolute_path.h"
+#include "files/failing_writes.h"
 #include "files/text_file.h"
 #include "files/whole_file.h"
 #include "support/temporary_folder.h"
@@ -277,7 +278,8 @@ TEST_F(WholeFileOnPosix, GivesTheErrorOfAWriteBeyondTheLimitOfTheProcess) {
   putBytes(path, "old");
   const int error = inAChild([&] {
     const rlimit limits = {1000, 1000};
-    ::signal(SIGXFSZ, SIG_IGN);
+    ::signal(SIGXFSZ, SIG_DFL);
+    letWritesFail(ClosedPipe::ends_process);
     if (::setrlimit(RLIMIT_FSIZE, &limits) != 0) return 0;
     return writeWholeFile(path, std::string(5000, 'x')).error;
   });
