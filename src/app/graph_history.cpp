@@ -1,7 +1,7 @@
 // Two stacks of whole states. A change puts the state before it on the first one and empties the
 // second; undo and redo move a state from one stack to the other and exchange it for the present
 // one. So the states never get more by undoing, and the bounds are looked at when a change is
-// recorded. Tables are small, and their dictionaries are shared by all copies.
+// recorded. States share the graphs that they have in common, and each counts them as its own.
 
 #include "app/graph_history.h"
 
@@ -26,7 +26,7 @@ std::size_t bytesOf(const DocumentState& document) {
 std::size_t bytesOf(const GraphsState& state) {
   std::size_t bytes = sizeof(GraphsState);
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    const GraphDef def = *state.graphs.graph(letter);
+    const GraphDef& def = *state.graphs.slot(letter);
     bytes += def.ecuacion.size() + def.codigo.size() + def.carpeta.size();
     if (def.parameters) bytes += bytesOf(*def.parameters);
   }
@@ -79,7 +79,7 @@ GraphsState GraphHistory::redo(GraphsState now) { return exchange(undone_, done_
 std::string differingLetters(const GraphTable& one, const GraphTable& other) {
   std::string letters;
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    if (!isSame(*one.graph(letter), *other.graph(letter))) letters += letter;
+    if (!isSame(*one.slot(letter), *other.slot(letter))) letters += letter;
   }
   return letters;
 }

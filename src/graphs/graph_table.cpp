@@ -44,40 +44,52 @@ void makeCode(GraphDef& def) {
   }
 }
 
-}  // namespace
+std::array<GraphDef, GraphTable::kSlots> makeEmptySlots() {
+  std::array<GraphDef, GraphTable::kSlots> slots;
+  for (char letter = kFirst; letter <= kLast; ++letter) slots[indexOf(letter)].nombre = letter;
+  return slots;
+}
 
-GraphTable::GraphTable() { clearGraphs(); }
+const GraphDef& emptySlot(char letter) {
+  static const std::array<GraphDef, GraphTable::kSlots> slots = makeEmptySlots();
+  return slots[indexOf(letter)];
+}
+
+}  // namespace
 
 std::optional<GraphDef> GraphTable::graph(char letter) const {
   if (!isInTable(letter)) return std::nullopt;
-  return slots_[indexOf(letter)];
+  return *slot(letter);
 }
 
 const GraphDef* GraphTable::slot(char letter) const {
-  return isInTable(letter) ? &slots_[indexOf(letter)] : nullptr;
+  if (!isInTable(letter)) return nullptr;
+  const GraphDef* const def = slots_[indexOf(letter)].get();
+  return def == nullptr ? &emptySlot(letter) : def;
 }
 
 bool GraphTable::storeGraph(GraphDef def) {
   if (!isInTable(def.nombre)) return false;
-  GraphDef& slot = slots_[indexOf(def.nombre)];
-  if (!slot.defined) changeCount(1);
-  slot = std::move(def);
+  const bool was_defined = slot(def.nombre)->defined;
+  const std::size_t index = indexOf(def.nombre);
+  slots_[index] = std::make_shared<const GraphDef>(std::move(def));
+  if (!was_defined) changeCount(1);
   return true;
 }
 
 bool GraphTable::freeGraph(char letter) {
   if (!isInTable(letter)) return false;
-  slots_[indexOf(letter)].defined = false;
+  if (slot(letter)->defined) {
+    GraphDef freed = *slot(letter);
+    freed.defined = false;
+    slots_[indexOf(letter)] = std::make_shared<const GraphDef>(std::move(freed));
+  }
   changeCount(-1);
   return true;
 }
 
 void GraphTable::clearGraphs() {
-  for (char letter = kFirst; letter <= kLast; ++letter) {
-    GraphDef& slot = slots_[indexOf(letter)];
-    slot = GraphDef{};
-    slot.nombre = letter;
-  }
+  slots_.fill(nullptr);
   count_ = 0;
 }
 
@@ -85,10 +97,10 @@ std::optional<GraphDef> GraphTable::nextDefined(std::optional<char> letter) cons
   char at = kLast;
   if (letter) at = *letter >= kLast ? kFirst : after(*letter);
   if (!isInTable(at)) return std::nullopt;
-  while (!slots_[indexOf(at)].defined && at < kLast) ++at;
-  if (slots_[indexOf(at)].defined) return graph(at);
+  while (!slot(at)->defined && at < kLast) ++at;
+  if (slot(at)->defined) return graph(at);
   at = kFirst;
-  while (!slots_[indexOf(at)].defined && at < kLast) ++at;
+  while (!slot(at)->defined && at < kLast) ++at;
   return graph(at);
 }
 
@@ -96,10 +108,10 @@ std::optional<GraphDef> GraphTable::previousDefined(std::optional<char> letter) 
   char at = kFirst;
   if (letter) at = *letter <= kFirst ? kLast : before(*letter);
   if (!isInTable(at)) return std::nullopt;
-  while (!slots_[indexOf(at)].defined && at > kFirst) --at;
-  if (slots_[indexOf(at)].defined) return graph(at);
+  while (!slot(at)->defined && at > kFirst) --at;
+  if (slot(at)->defined) return graph(at);
   at = kLast;
-  while (!slots_[indexOf(at)].defined && at > kFirst) --at;
+  while (!slot(at)->defined && at > kFirst) --at;
   return graph(at);
 }
 
@@ -120,7 +132,7 @@ bool GraphTable::rebuildGraph(char nombre, std::string ecuacion, std::string cod
 }
 
 std::string_view GraphTable::codeOf(char letter) const {
-  return isInTable(letter) ? std::string_view(slots_[indexOf(letter)].codigo) : std::string_view();
+  return isInTable(letter) ? std::string_view(slot(letter)->codigo) : std::string_view();
 }
 
 void GraphTable::changeCount(int difference) {

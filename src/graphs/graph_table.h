@@ -13,12 +13,15 @@
 namespace zel {
 
 /// The graphs of the document, a slot for each letter "a" to "z". A letter outside of them is a
-/// bounds error: no value, or false and nothing changed.
+/// bounds error: no value, or false and nothing changed. Copies share the graphs, texts and all,
+/// until one of them writes a slot.
 class GraphTable {
  public:
   static constexpr std::int16_t kSlots = 26;
 
-  GraphTable();
+  GraphTable() = default;
+  GraphTable(const GraphTable&) = default;  // a move is a copy: it leaves a table behind
+  GraphTable& operator=(const GraphTable&) = default;
 
   /// Starts the count at 0; the slots stay. Once, at start-up.
   void initGraphDefinitions() { count_ = 0; }
@@ -63,7 +66,7 @@ class GraphTable {
  private:
   void changeCount(int difference);
 
-  std::array<GraphDef, kSlots> slots_;
+  std::array<std::shared_ptr<const GraphDef>, kSlots> slots_;  // null: as it was at first
   std::int16_t count_ = 0;
 };
 

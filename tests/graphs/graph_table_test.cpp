@@ -64,6 +64,19 @@ TEST(GraphTable, GivesACopyOfASlot) {
   EXPECT_EQ(table.graph('a')->ecuacion, "x+a");
 }
 
+TEST(GraphTable, SharesItsGraphsWithItsCopiesUntilOneOfThemChanges) {
+  const GraphTable table = tableWith("ab");
+  GraphTable copy = table;
+  EXPECT_EQ(copy.slot('a'), table.slot('a'));
+  copy.freeGraph('a');
+  copy.storeGraph(functionNamed('c'));
+  EXPECT_EQ(copy.slot('b'), table.slot('b'));
+  EXPECT_TRUE(table.slot('a')->defined);
+  EXPECT_FALSE(table.slot('c')->defined);
+  copy.clearGraphs();
+  EXPECT_TRUE(table.slot('b')->defined);
+}
+
 TEST(GraphTable, CountsAGraphThatIsStoredTwiceOnce) {
   GraphTable table = tableWith("a");
   GraphDef again = functionNamed('a');
