@@ -10,7 +10,6 @@
 
 #include "app/main_commands.h"
 #include "app/messages.h"
-#include "base/code_page.h"
 #include "base/language.h"
 #include "files/whole_file.h"
 
@@ -29,12 +28,6 @@ bool makeFolder(const std::string& folder) {
   return !error;
 }
 
-bool isKept(const std::string& kept, const MainView& view, const GraphTable& graphs) try {
-  return !kept.empty() && kept == toCodePage(documentText(view, graphs));
-} catch (const std::bad_alloc&) {
-  return false;
-}
-
 }  // namespace
 
 LastSession::LastSession(const std::string& folder)
@@ -48,11 +41,13 @@ bool LastSession::isThere() const {
 /// Whether a document can be read back, which documentBytes looks at, takes long to tell; that it
 /// is the one that was kept does not.
 void LastSession::keep(const MainView& view, const GraphTable& graphs) {
-  if (path_.empty() || graphs.count() < 1 || isKept(kept_, view, graphs)) return;
+  if (path_.empty() || graphs.count() < 1 || isDocument(kept_, view, graphs)) return;
+  std::string().swap(kept_);  // its memory is free before that of the new bytes is needed
+  if (!makeFolder(folder_)) return;
   auto bytes = documentBytes(view, graphs);
   if (!bytes) return;
   takePrevious();
-  if (makeFolder(folder_) && writeWholeFile(path_, *bytes).written) kept_ = std::move(*bytes);
+  if (writeWholeFile(path_, *bytes).written) kept_ = std::move(*bytes);
 }
 
 bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& message) {

@@ -96,6 +96,16 @@ void appendToCodePage(std::string_view utf8, std::string& bytes) {
   });
 }
 
+bool takeCodePage(std::string_view utf8, std::string_view& bytes) {
+  bool is_same = true;
+  encode(utf8, [&](char byte) {
+    is_same = bytes.starts_with(byte);
+    if (is_same) bytes.remove_prefix(1);
+    return is_same;
+  });
+  return is_same;
+}
+
 bool isKeptByCodePage(std::string_view written, std::string_view read) {
   if (isAscii(written)) return written == read;
   bool is_kept = true;

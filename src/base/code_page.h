@@ -14,6 +14,10 @@ std::string toCodePage(std::string_view utf8);
 std::size_t codePageSize(std::string_view utf8);
 void appendToCodePage(std::string_view utf8, std::string& bytes);
 
+/// Takes what toCodePage gives off the beginning of `bytes`. False where they begin otherwise.
+/// Needs no memory.
+bool takeCodePage(std::string_view utf8, std::string_view& bytes);
+
 /// Whether fromCodePage(toCodePage(written)) is `read`; needs no memory.
 bool isKeptByCodePage(std::string_view written, std::string_view read);
 

@@ -178,6 +178,13 @@ std::optional<std::string> documentBytes(const MainView& view, const GraphTable&
   }
 }
 
+bool isDocument(std::string_view bytes, const MainView& view, const GraphTable& graphs) {
+  bool is_same = true;
+  writeDocumentTo(view, graphs,
+                  [&](std::string_view piece) { is_same = is_same && takeCodePage(piece, bytes); });
+  return is_same && bytes.empty();
+}
+
 WriteResult writeDocument(const std::string& path, const MainView& view, const GraphTable& graphs) {
   const auto bytes = documentBytes(view, graphs);
   return bytes ? writeWholeFile(path, *bytes) : WriteResult{fileExists(path), false};

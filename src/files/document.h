@@ -50,6 +50,9 @@ std::string documentText(const MainView& view, const GraphTable& graphs);
 /// control character in a value, a document longer than a file that is read, and want of memory.
 std::optional<std::string> documentBytes(const MainView& view, const GraphTable& graphs);
 
+/// Whether these are the bytes of the file of that document, without making them.
+bool isDocument(std::string_view bytes, const MainView& view, const GraphTable& graphs);
+
 /// False with a message when the file cannot be read, is not compatible (the graphs are then as
 /// they were) or lacks a section, and without one when an error inside a section stops it. In the
 /// latter cases the old graphs are gone, those read before the failure stay, and so does what the

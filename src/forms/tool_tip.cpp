@@ -9,7 +9,8 @@ namespace zel {
 namespace {
 
 constexpr qsizetype kLineLength = 80;
-constexpr qsizetype kMostLines = 20;
+constexpr qsizetype kMostLines = kLongestToolTip / kLineLength;
+static_assert(kMostLines * kLineLength == kLongestToolTip);
 
 }  // namespace
 
@@ -19,7 +20,7 @@ QString toolTipOf(const QString& document_text) {
   QStringList lines;
   for (qsizetype i = 0; i < text.size() && lines.size() < kMostLines; i += kLineLength)
     lines << text.sliced(i, std::min(kLineLength, text.size() - i));
-  if (text.size() > kMostLines * kLineLength) lines << QStringLiteral("…");
+  if (text.size() > kLongestToolTip) lines << QStringLiteral("…");
   return "<p style='white-space:pre'>" + lines.join(u'\n').toHtmlEscaped() + "</p>";
 }
 

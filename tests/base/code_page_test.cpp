@@ -41,6 +41,17 @@ TEST(CodePage, PutsAQuestionMarkForEachCharacterThatItLacks) {
   EXPECT_EQ(toCodePage("\u0080\u0100\uFFFD"), "???");
 }
 
+TEST(CodePage, TakesATextOffTheBeginningOfItsBytes) {
+  std::string_view bytes = "x\xE9\x80?rest";
+  EXPECT_TRUE(takeCodePage("x\u00E9", bytes));
+  EXPECT_TRUE(takeCodePage("", bytes));
+  EXPECT_TRUE(takeCodePage("\u20AC\u03C0", bytes));
+  EXPECT_EQ(bytes, "rest");
+  EXPECT_FALSE(takeCodePage("Rest", bytes));
+  bytes = "rest";
+  EXPECT_FALSE(takeCodePage("rest of it", bytes));
+}
+
 TEST(CodePage, PutsAQuestionMarkForEachByteThatIsNotUtf8) {
   EXPECT_EQ(toCodePage("a\xFFz"), "a?z");
   EXPECT_EQ(toCodePage("\xE1z"), "?z");

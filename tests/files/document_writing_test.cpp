@@ -103,6 +103,17 @@ TEST_F(DocumentWriting, GivesTheSameBytesAfterALoad) {
   EXPECT_EQ(toCodePage(documentText(view, graphs)), bytes);
 }
 
+TEST_F(DocumentWriting, KnowsTheBytesOfADocument) {
+  graphs.rebuildGraph('a', "π·ñ", "", 0, 'F', nullptr);
+  const std::string bytes = toCodePage(documentText(view, graphs));
+  EXPECT_TRUE(isDocument(bytes, view, graphs));
+  EXPECT_FALSE(isDocument(bytes + " ", view, graphs));
+  EXPECT_FALSE(isDocument(bytes.substr(0, bytes.size() - 1), view, graphs));
+  EXPECT_FALSE(isDocument("", view, graphs));
+  view.xi = "-3";
+  EXPECT_FALSE(isDocument(bytes, view, graphs));
+}
+
 TEST(DocumentMessages, HaveTheirEnglishTexts) {
   const LanguageGuard english("EN");
   EXPECT_EQ(Localize(messages::kCannotOpen), "Error: Cannot open file.");

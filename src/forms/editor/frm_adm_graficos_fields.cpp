@@ -42,10 +42,10 @@ void frmAdmGraficos::markLettersInUse() {
   QFont bold = cboNombre_->font();
   bold.setBold(true);
   for (int i = 0; i < cboNombre_->count(); ++i) {
-    const auto def = program().graphs.graph(static_cast<char>('a' + i));
-    const bool in_use = def && def->defined;
+    const GraphDef& def = *program().graphs.slot(static_cast<char>('a' + i));
+    const bool in_use = def.defined;
     cboNombre_->setItemData(i, in_use ? bold : QVariant(), Qt::FontRole);
-    cboNombre_->setItemData(i, in_use ? listedTip(*def) : QVariant(), Qt::ToolTipRole);
+    cboNombre_->setItemData(i, in_use ? listedTip(def) : QVariant(), Qt::ToolTipRole);
   }
 }
 

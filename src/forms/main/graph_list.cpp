@@ -43,8 +43,8 @@ void GraphList::listGraphs(const GraphTable& graphs) {
   const int place = selected.empty() ? -1 : indexOfTopLevelItem(selectedItems().constFirst());
   clear();
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    const auto def = graphs.graph(letter);
-    if (def && def->defined) addRow(*def);
+    const GraphDef& def = *graphs.slot(letter);
+    if (def.defined) addRow(def);
   }
   hint_->setVisible(topLevelItemCount() == 0);
   resizeColumnToContents(kName);

@@ -56,7 +56,7 @@ void frmGrafico::toolsChanged() {
   overlay_->show(session_.cursor(), session_.zoomRectangle());
   picGrafico_->setCursor(session_.mode() == PlotMode::zoom ? Qt::CrossCursor : Qt::ArrowCursor);
   const auto active = session_.activeGraph();
-  graph_bar_->showGraph(active ? program().graphs.graph(*active) : std::nullopt);
+  graph_bar_->showGraph(active ? program().graphs.slot(*active) : nullptr);
   legend_->showActive(active);
   if (shows_numbers_ != session_.showsNumbers()) showNumbers();
   showCoordinates();

@@ -73,10 +73,10 @@ void GraphBar::assignCaptions() {
   LblGrafico_->setAccessibleDescription(caption("Gráfico activo", "Active graph"));
 }
 
-void GraphBar::showGraph(const std::optional<GraphDef>& graph) {
-  CmdGrafAnterior_->setEnabled(graph.has_value());
-  CmdGrafSiguiente_->setEnabled(graph.has_value());
-  swatch_->setVisible(graph.has_value());
+void GraphBar::showGraph(const GraphDef* graph) {
+  CmdGrafAnterior_->setEnabled(graph != nullptr);
+  CmdGrafSiguiente_->setEnabled(graph != nullptr);
+  swatch_->setVisible(graph != nullptr);
   QPalette palette = this->palette();
   if (graph) palette.setColor(QPalette::Window, qtColour(graph->color));
   if (palette != swatch_->palette()) swatch_->setPalette(palette);

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <QWidget>
-#include <optional>
 
 #include "graphs/graph_def.h"
 
@@ -23,7 +22,7 @@ class GraphBar : public QWidget {
 
   void assignCaptions();
   /// Shows the active graph; nothing in a document without graphs, whose buttons are not enabled.
-  void showGraph(const std::optional<GraphDef>& graph);
+  void showGraph(const GraphDef* graph);
   /// The text of the active graph, as a whole.
   QString graphText() const;
   /// The button of the numbers is pressed while they are shown.

@@ -37,12 +37,12 @@ void GraphLegend::listGraphs(const GraphTable& graphs) {
   const QSignalBlocker blocker(this);
   clear();
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    const auto def = graphs.graph(letter);
-    if (!def || !def->defined) continue;
-    const QIcon swatch = graphSwatch(def->color, SwatchLook::square);
-    auto* const item = new QListWidgetItem(swatch, listedText(*def), this);
+    const GraphDef& def = *graphs.slot(letter);
+    if (!def.defined) continue;
+    const QIcon swatch = graphSwatch(def.color, SwatchLook::square);
+    auto* const item = new QListWidgetItem(swatch, listedText(def), this);
     item->setData(kLetterRole, static_cast<int>(letter));
-    item->setToolTip(listedTip(*def));
+    item->setToolTip(listedTip(def));
   }
   setVisible(count() > 1);
 }

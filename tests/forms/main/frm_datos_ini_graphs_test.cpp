@@ -2,6 +2,7 @@
 #include <QScrollBar>
 
 #include "app/editor/graph_editing.h"
+#include "forms/shown_tip.h"
 #include "frm_datos_ini_fixture.h"
 
 namespace zel::test {
@@ -52,6 +53,16 @@ TEST_F(ListOfGraphs, CutsATextAfterAThousandCharacters) {
   };
   EXPECT_EQ(shown(1000), "a(x)=" + std::string(995, '1'));
   EXPECT_EQ(shown(1001), "a(x)=" + std::string(995, '1') + "…");
+}
+
+TEST_F(ListOfGraphs, ShowsWhatComesAfterThousandsOfControlCharacters) {
+  std::string formula(4999, '\1');
+  for (int i = 0; i < 3000; ++i) formula += "€";
+  program.graphs.rebuildGraph('a', formula, formula, 255, 'F', nullptr);
+  window.showForm();
+  const QTreeWidgetItem& row = *list().topLevelItem(0);
+  EXPECT_EQ(row.text(2), "a(x)=" + QString(995, u'€') + "…");
+  EXPECT_EQ(shownTip(row.toolTip(2)), fromQt("a(x)=" + QString(1595, u'€') + "…"));
 }
 
 TEST_F(ListOfGraphs, SaysWhatToDoWhileItIsEmpty) {
