@@ -47,7 +47,7 @@ void LastSession::keep(const MainView& view, const GraphTable& graphs) {
   auto bytes = documentBytes(view, graphs);
   if (!bytes) return;
   takePrevious();
-  if (writeWholeFile(path_, *bytes).written) kept_ = std::move(*bytes);
+  if (writeWholeFile(path_, *bytes, NewFile::for_its_user_alone).written) kept_ = std::move(*bytes);
 }
 
 bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& message) {

@@ -153,11 +153,16 @@ void syncFolder(const std::string& folder) {
   if (descriptor) retried([&] { return ::fsync(descriptor.number()); });
 }
 
-/// `old` is null where there is no file yet. Returns 0 or the error.
-int replaceFile(const std::string& path, std::string_view bytes, const struct stat* old) {
+mode_t modeOf(NewFile file) {
+  return file == NewFile::for_its_user_alone ? kHiddenMode : kModeOfNewFile;
+}
+
+/// `old` is null where there is no file yet, which gets `mode` then. Returns 0 or the error.
+int replaceFile(const std::string& path, std::string_view bytes, const struct stat* old,
+                mode_t mode) {
   const std::string folder = folderOf(path);
   removeLeftovers(path);
-  TemporaryFile file(folder, old == nullptr ? kModeOfNewFile : kHiddenMode);
+  TemporaryFile file(folder, old == nullptr ? mode : kHiddenMode);
   int error = file.error();
   if (error == 0) error = writeAll(file.number(), bytes);
   if (error == 0) error = old == nullptr ? file.unhide() : takeAfter(file.number(), path, *old);
@@ -170,10 +175,10 @@ int replaceFile(const std::string& path, std::string_view bytes, const struct st
 WriteResult resultOf(bool existed, int error) { return {existed, error == 0, error}; }
 
 /// A link that leads nowhere is there: its target is not made.
-WriteResult writeNewFile(const std::string& path, std::string_view bytes) {
+WriteResult writeNewFile(const std::string& path, std::string_view bytes, NewFile file) {
   struct stat link {};
   if (::lstat(path.c_str(), &link) == 0) return resultOf(false, ENOENT);
-  return resultOf(false, replaceFile(path, bytes, nullptr));
+  return resultOf(false, replaceFile(path, bytes, nullptr, modeOf(file)));
 }
 
 WriteResult replaceTarget(const std::string& path, std::string_view bytes) {
@@ -189,13 +194,13 @@ WriteResult replaceTarget(const std::string& path, std::string_view bytes) {
     if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
   }
   if (::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0) return resultOf(true, errno);
-  return resultOf(true, replaceFile(*target, bytes, &old));
+  return resultOf(true, replaceFile(*target, bytes, &old, kHiddenMode));
 }
 
-WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
+WriteResult writeAnyFile(const std::string& path, std::string_view bytes, NewFile file) {
   struct stat old {};
   if (::stat(path.c_str(), &old) != 0)
-    return errno == ENOENT ? writeNewFile(path, bytes) : resultOf(false, errno);
+    return errno == ENOENT ? writeNewFile(path, bytes, file) : resultOf(false, errno);
   if (S_ISDIR(old.st_mode)) return resultOf(false, EISDIR);
   if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
   return replaceTarget(path, bytes);
@@ -250,10 +255,10 @@ std::optional<std::string> readWholeFile(const std::string& path) {
   }
 }
 
-WriteResult writeWholeFile(const std::string& path, std::string_view bytes) {
+WriteResult writeWholeFile(const std::string& path, std::string_view bytes, NewFile new_file) {
   if (!isPath(path)) return resultOf(false, path.empty() ? ENOENT : EINVAL);
   try {
-    return writeAnyFile(path, bytes);
+    return writeAnyFile(path, bytes, new_file);
   } catch (const std::bad_alloc&) {  // before the new file has its place
     return resultOf(fileExists(path), ENOMEM);
   }

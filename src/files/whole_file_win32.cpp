@@ -249,7 +249,7 @@ std::optional<std::string> readWholeFile(const std::string& path) {
   return readAll(file.handle());
 }
 
-WriteResult writeWholeFile(const std::string& path, std::string_view bytes) {
+WriteResult writeWholeFile(const std::string& path, std::string_view bytes, NewFile) {
   try {
     return writeAnyFile(path, bytes);
   } catch (const std::bad_alloc&) {  // before the new file has its place

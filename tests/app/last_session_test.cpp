@@ -143,6 +143,18 @@ TEST_F(SessionBefore, IsForTheUserAlone) {
   EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
 }
 
+TEST_F(SessionBefore, IsForTheUserAloneInAFolderThatOthersMayEnter) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the file takes its rights from the folder";
+#endif
+  namespace fs = std::filesystem;
+  fs::create_directories(folder);
+  fs::permissions(folder, fs::perms(0755));
+  leave("x");
+  leave("x+1");
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
 TEST_F(SessionBefore, CostsNothingWhenItCannotBeRead) {
   for (const char* text : {"", "something else", "versiones_compatibles=2.0\r\n[PRINCIPAL]"}) {
     std::filesystem::create_directories(folder);
