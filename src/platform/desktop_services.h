@@ -21,11 +21,12 @@ struct DesktopServices {
 DesktopServices makeDesktopServices(const std::string& program_path);
 
 /// The folder, not always there yet, in which an installed program keeps what is the user's own:
-/// "zel" among the user's configurations. Empty where the user has none. UTF-8.
+/// "zel" among the user's configurations. Empty where the user has none. UTF-8, or the
+/// system's own bytes on POSIX.
 std::string userFolder();
 
 /// The folder, not always there yet, of what the program itself remembers of the user's work: "zel"
-/// among the user's states. Empty where the user has none. UTF-8.
+/// among the user's states. Empty where the user has none. In the same bytes.
 std::string stateFolder();
 
 /// Where the program's file lies, written as the platform writes paths: on Windows with "\" alone,

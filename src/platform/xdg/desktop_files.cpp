@@ -1,11 +1,11 @@
 #include "platform/xdg/desktop_files.h"
 
-#include <QDir>
 #include <QFile>
 #include <QString>
 
 #include "files/whole_file.h"
 #include "platform/icons/icons.h"
+#include "platform/xdg/user_folders.h"
 
 namespace zel {
 namespace {
@@ -17,7 +17,7 @@ constexpr const char* kTools = R"(
   xdg-mime default "$3" "$4")";
 
 void putFile(const std::string& folder, const std::string& name, const std::string& bytes) {
-  if (QDir().mkpath(QString::fromStdString(folder))) writeWholeFile(folder + "/" + name, bytes);
+  if (makeFolder(folder)) writeWholeFile(folder + "/" + name, bytes);
 }
 
 std::string resourceBytes(const char* path) {

@@ -2,11 +2,20 @@
 
 #include <QProcess>
 #include <QStandardPaths>
+#include <algorithm>
 
 namespace zel {
+namespace {
+
+/// The toolkit hands over texts: other bytes would become other arguments.
+bool isUtf8(const std::string& argument) {
+  return QString::fromStdString(argument).toStdString() == argument;
+}
+
+}  // namespace
 
 bool launch(const std::string& program, const std::vector<std::string>& arguments) {
-  if (!isInstalled(program)) return false;
+  if (!isInstalled(program) || !std::ranges::all_of(arguments, isUtf8)) return false;
   QProcess process;
   process.setProgram(QString::fromStdString(program));
   QStringList list;

@@ -1,20 +1,26 @@
 #include "platform/xdg/xdg_class_registry.h"
 
-#include <QDir>
-#include <QString>
 #include <algorithm>
+#include <filesystem>
 #include <sstream>
+#include <system_error>
 #include <utility>
 
 #include "base/utf8.h"
 #include "files/whole_file.h"
 #include "platform/xdg/desktop_files.h"
+#include "platform/xdg/user_folders.h"
 
 namespace zel {
 namespace {
 
 constexpr const char* kFolder = "/zel";
 constexpr const char* kFile = "/zel/classes";
+
+std::string currentFolder() {
+  std::error_code ignored;
+  return std::filesystem::current_path(ignored).string();
+}
 
 }  // namespace
 
@@ -45,7 +51,7 @@ void XdgClassRegistry::setValue(Key key, const std::string& subkey, const std::s
 }
 
 void XdgClassRegistry::keepEntries() const {
-  if (!QDir().mkpath(QString::fromStdString(data_folder_ + kFolder))) return;
+  if (!makeFolder(data_folder_ + kFolder)) return;
   std::string text;
   for (const auto& entry : entries_) text += entry.key + "=" + entry.value + "\n";
   writeWholeFile(data_folder_ + kFile, text);
@@ -59,7 +65,7 @@ void XdgClassRegistry::publishCompleteTypes() {
                                           type + "\\DefaultIcon"};
     if (type.empty() || !std::ranges::includes(news, wanted)) continue;
     const DocumentType published = {type, extension, entries_.Item(type), program_path_,
-                                    QDir::currentPath().toStdString()};
+                                    currentFolder()};
     if (canBeNamed(published)) publishDocumentType(published, data_folder_, launcher_);
     for (const std::string& name : wanted) news_.erase(name);
   }

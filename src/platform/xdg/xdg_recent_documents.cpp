@@ -1,7 +1,6 @@
 #include "platform/xdg/xdg_recent_documents.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <filesystem>
 #include <new>
 #include <optional>
@@ -10,6 +9,7 @@
 
 #include "files/whole_file.h"
 #include "platform/xdg/recent_list.h"
+#include "platform/xdg/user_folders.h"
 
 namespace zel {
 namespace {
@@ -24,13 +24,6 @@ std::optional<std::string> readList(const std::string& path) {
   std::error_code error;
   if (fs::file_size(path, error) > XdgRecentDocuments::kLongestList || error) return std::nullopt;
   return readWholeFile(path);
-}
-
-/// What somebody has opened is nobody else's to read.
-void makePrivateFile(const std::string& path) {
-  std::error_code ignored;
-  if (!fileExists(path) && createMissingFile(path))
-    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write, ignored);
 }
 
 }  // namespace
@@ -51,14 +44,14 @@ std::vector<std::string> XdgRecentDocuments::list() try {
   return {};
 }
 
+/// What somebody has opened is nobody else's to read.
 void XdgRecentDocuments::add(const std::string& path) try {
   const auto list = readList(path_);
-  if (!list || !QDir().mkpath(QString::fromStdString(data_folder_))) return;
+  if (!list || !makeFolder(data_folder_)) return;
   const std::string now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString();
   const auto longer = withDocument(*list, path, zelDocuments(), now);
   if (!longer || longer->size() > kLongestList) return;
-  makePrivateFile(path_);
-  writeWholeFile(path_, *longer);
+  writeWholeFile(path_, *longer, NewFile::for_its_user_alone);
 } catch (const std::bad_alloc&) {
 }
 

@@ -86,6 +86,12 @@ TEST_F(Openers, PassOnThatTheOpenerCannotBeStarted) {
   EXPECT_FALSE(launch("xdg-open", {"x"}));
 }
 
+TEST_F(Openers, AreNotStartedWithArgumentsThatTheyWouldNotGet) {
+  installOpener();
+  EXPECT_TRUE(launch("xdg-open", {"x"}));
+  EXPECT_FALSE(launch("xdg-open", {"x", "/home/\xFF"}));
+}
+
 TEST_F(Openers, AreReallyStarted) {
   installOpener();
   const DesktopServices services = makeDesktopServices("/opt/zel/zel");

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "app/last_session.h"
+#include "files/whole_file.h"
 #include "platform/desktop_services.h"
 #include "support/environment_guard.h"
+#include "support/temporary_folder.h"
 
 namespace zel::test {
 namespace {
@@ -17,6 +20,39 @@ TEST(StateFolder, LiesInTheUsersHomeWhereTheDesktopNamesNone) {
     const EnvironmentGuard state("XDG_STATE_HOME", name);
     EXPECT_EQ(stateFolder(), "/home/ana/.local/state/zel");
   }
+}
+
+TEST(StateFolder, HasTheBytesOfTheEnvironmentWhateverTheyAre) {
+  const EnvironmentGuard home("HOME", "/home/\xFF");
+  const EnvironmentGuard state("XDG_STATE_HOME", nullptr);
+  const EnvironmentGuard configurations("XDG_CONFIG_HOME", "/c/n\xC3/");
+  EXPECT_EQ(stateFolder(), "/home/\xFF/.local/state/zel");
+  EXPECT_EQ(userFolder(), "/c/n\xC3/zel");
+}
+
+TEST(StateFolder, IsMadeInAHomeThatIsNoUtf8) {
+  const TemporaryFolder folder;
+  const EnvironmentGuard home("HOME", (folder / "h\xFF").c_str());
+  const EnvironmentGuard state("XDG_STATE_HOME", nullptr);
+  GraphTable graphs;
+  graphs.rebuildGraph('a', "x", "", 0, 'F', nullptr);
+  LastSession(stateFolder()).keep({}, graphs);
+  EXPECT_EQ(folder.names(), std::set<std::string>{"h\xFF"});
+  EXPECT_TRUE(LastSession(stateFolder()).isThere());
+}
+
+TEST(FolderOfData, IsThatOfTheDesktopsListInAHomeThatIsNoUtf8) {
+  const TemporaryFolder folder;
+  const std::string home_path = folder / "h\xFF";
+  const std::string document = folder / "a.zel";
+  putBytes(document, "");
+  const EnvironmentGuard home("HOME", home_path.c_str());
+  const EnvironmentGuard data("XDG_DATA_HOME", nullptr);
+  const DesktopServices services = makeDesktopServices("/opt/zel/zel");
+  services.recent->add(document);
+  EXPECT_EQ(services.recent->list(), std::vector<std::string>{document});
+  EXPECT_TRUE(fileExists(home_path + "/.local/share/recently-used.xbel"));
+  EXPECT_EQ(folder.names(), (std::set<std::string>{"a.zel", "h\xFF"}));
 }
 
 }  // namespace
