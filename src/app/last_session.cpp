@@ -22,10 +22,14 @@ constexpr const char* kSessionFile = "session.zel";
 
 /// What is the user's own state is nobody else's to read.
 bool makeFolder(const std::string& folder) {
-  const fs::path path(std::u8string(folder.begin(), folder.end()));
-  std::error_code error;
-  if (fs::create_directories(path, error)) fs::permissions(path, fs::perms::owner_all, error);
-  return !error;
+  try {
+    const fs::path path(std::u8string(folder.begin(), folder.end()));
+    std::error_code error;
+    if (fs::create_directories(path, error)) fs::permissions(path, fs::perms::owner_all, error);
+    return !error;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
 }
 
 }  // namespace

@@ -159,5 +159,15 @@ TEST_F(Evaluation, RefusesAnXThatIsNoFiniteNumber) {
   EXPECT_EQ(evaluate("x", std::nan("")), kFault);
 }
 
+TEST_F(Evaluation, GoesOnAfterACodeThatIsTooLong) {
+  const std::string too_long(Engine::kMaxExpandedCode + 1, 'x');
+  for (const auto& [code, outcome] :
+       {std::pair{"x+1", "= 2"}, {"", "! No se encuentra el operador."}}) {
+    EXPECT_EQ(evaluateCode(too_long, 1), kFault);
+    EXPECT_EQ(evaluateCode(too_long, 1), kFault);
+    EXPECT_EQ(evaluateCode(code, 1), outcome);
+  }
+}
+
 }  // namespace
 }  // namespace zel::test

@@ -47,6 +47,11 @@ bool ReferenceEngine::Evaluate(double x, double& result, std::string_view code,
 
 bool ReferenceEngine::Expand(std::string_view code) {
   if (code == references_.code) return !references_.outgrown;
+  // One that is too long by itself is not kept: to compare many megabytes takes longer than this.
+  if (code.size() > kMaxExpandedCode) {
+    references_ = {};
+    return false;
+  }
   auto expanded = ExpandReferences(code, graphs_, kMaxExpandedCode);
   references_.code = code;
   references_.outgrown = !expanded;
