@@ -22,7 +22,7 @@ GraphDef copyOf(const GraphDef& def, char letter) {
 
 int freeLetters(const GraphTable& graphs) {
   int count = 0;
-  for (char letter = 'a'; letter <= 'z'; ++letter) count += !graphs.graph(letter)->defined;
+  for (char letter = 'a'; letter <= 'z'; ++letter) count += !graphs.slot(letter)->defined;
   return count;
 }
 
@@ -34,7 +34,7 @@ GraphsState presentState(const Program& program, const MainView& view, const Gra
 
 std::string putBack(Program& program, MainView& view, GraphsState state) {
   std::string letters = differingLetters(program.graphs, state.graphs);
-  program.graphs = std::move(state.graphs);
+  program.graphs = state.graphs;
   if (state.document) {
     program.document_name = std::move(state.document->name);
     program.document_path = std::move(state.document->path);

@@ -64,7 +64,7 @@ bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& messa
     return false;
   }
   view = recovered_view;
-  graphs = std::move(recovered);
+  graphs = recovered;
   return true;
 }
 
@@ -86,7 +86,7 @@ bool recoverLastSession(Program& program, MainView& view) {
     return false;
   }
   newDocument(program, view);
-  program.graphs = std::move(graphs);
+  program.graphs = graphs;
   view = recovered;
   return true;
 }

@@ -11,8 +11,8 @@ namespace zel {
 struct Program;
 
 /// The declarations of a session, kept for the next one in a file of the user's state folder, which
-/// is no document of the user's, and nobody else's to read. What cannot be kept is passed over:
-/// nobody is told.
+/// is no document of the user's; it is made for nobody else to read. What cannot be kept is passed
+/// over: nobody is told.
 class LastSession {
  public:
   /// In the folder, which is made for the user alone where it is missing. Without one nothing is

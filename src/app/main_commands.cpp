@@ -158,8 +158,11 @@ bool deleteGraphs(Program& program, std::string_view letters) {
     if (program.services.boxes.show(question, "ZEL", BoxStyle::ok_cancel) != BoxAnswer::ok)
       return false;
   }
+  // All of them or, in want of memory, none.
   const GraphTable before = program.graphs;
-  for (const char letter : letters) program.graphs.freeGraph(letter);
+  GraphTable after = before;
+  for (const char letter : letters) after.freeGraph(letter);
+  program.graphs = after;
   recordChange(program, before);
   return true;
 }

@@ -29,7 +29,8 @@ class GraphTable {
   /// A copy of the slot, whether or not it is in use.
   std::optional<GraphDef> graph(char letter) const;
 
-  /// The slot itself, whether or not it is in use; null for any other letter.
+  /// The slot itself, whether or not it is in use; null for any other letter. It stays valid until
+  /// the slot is written.
   const GraphDef* slot(char letter) const;
 
   /// Writes the slot of `def.nombre`. The caller sets `defined`. The count goes up unless the slot

@@ -39,6 +39,18 @@ RedrawOutcome drawOpenedView(const OpenedView& opened, const PictureSize& size, 
   return drawing.redraw(viewport, opened.marks);
 }
 
+namespace {
+
+/// What was drawn as a file, unless that ends to be wanted meanwhile.
+PictureFile fileOf(FilePicture& picture, const bool& is_wanted) {
+  std::string bytes = picture.bytes();
+  if (!is_wanted) return {};
+  if (bytes.empty()) return {{}, messages::kCannotSave};
+  return {std::move(bytes), {}};
+}
+
+}  // namespace
+
 PictureFile drawPictureFile(const PictureJob& job, Engine& engine, const GraphTable& graphs,
                             const DrawingWatcher& goes_on) {
   StatusPanels shown;
@@ -57,10 +69,7 @@ PictureFile drawPictureFile(const PictureJob& job, Engine& engine, const GraphTa
   if (file->isFull()) return {{}, redrawMessage(RedrawOutcome::failed)};
   if (outcome != RedrawOutcome::drawn) return {{}, redrawMessage(outcome)};
   shown = {};
-  std::string bytes = file->bytes();
-  if (!is_wanted) return {};
-  if (bytes.empty()) return {{}, messages::kCannotSave};
-  return {std::move(bytes), {}};
+  return fileOf(*file, is_wanted);
 }
 
 }  // namespace zel

@@ -63,7 +63,7 @@ make_damaged() {
 
 # traced COMMAND...: what it does with files, processes and the network.
 traced() {
-  timeout 300 strace -f -qq -s 4096 -o "$work/trace" -e trace=%file,%process,%network,%ipc,kill,ptrace \
+  timeout 600 strace -f -qq -s 4096 -o "$work/trace" -e trace=%file,%process,%network,%ipc,kill,ptrace \
     "$zel" "$@" >"$work/said" 2>&1
 }
 

@@ -21,7 +21,7 @@ import pathlib, re, subprocess, sys, time
 zel, work = sys.argv[1], pathlib.Path(sys.argv[2])
 BESIDES, EACH = 100 << 20, 8
 SIZE = 40 << 20
-PATIENCE = 300  # seconds
+PATIENCE = 600  # seconds
 session = work / "state/zel/session.zel"
 
 

@@ -4,6 +4,7 @@
 set -uo pipefail
 zel=$(dirname "$1")/zel
 [[ -x $zel ]] || { echo "no desktop program in this build"; exit 77; }
+. "$(dirname "$0")/../support/patience.sh"
 [[ -r /proc/self/status ]] || { echo "the system does not tell which signals are caught"; exit 77; }
 
 work=$(mktemp -d)
@@ -21,14 +22,6 @@ fail() {
   exit 1
 }
 
-# wait_until COMMAND...: until it succeeds.
-wait_until() {
-  local end=$((SECONDS + 120))
-  until "$@"; do
-    [[ $SECONDS -lt $end ]] || fail "in vain: $*"
-    sleep 0.1
-  done
-}
 has_ended() { ! kill -0 "$program" 2>/dev/null; }
 
 # catches NUMBER: whether it is the program by now, and it has a handler for this signal.
@@ -42,13 +35,14 @@ start() {
   # A shell lets what runs behind it ignore interrupts.
   env --default-signal=INT "$zel" "$@" >"$work/zel.log" 2>&1 &
   program=$!
-  wait_until catches 15
+  wait_until catches 15 || fail "it does not wait for signals"
 }
-# ends_by SIGNAL: sends it to the program, which ends by itself.
+# ends_by SIGNAL: sends it to the program, twice as a terminal does that is closed; it ends by itself.
 ends_by() {
   local status
   kill -s "$1" "$program"
-  wait_until has_ended
+  kill -s "$1" "$program" 2>/dev/null
+  wait_until has_ended || fail "it does not end"
   wait "$program"
   status=$?
   program=
@@ -63,7 +57,8 @@ for signal in TERM INT HUP; do
   touch "$XDG_STATE_HOME/zel"
   printf 'EN\r\nFalse' >config.ini
   start "$2/examples/waves.zel"
-  wait_until grep -q waves.zel "$XDG_DATA_HOME/recently-used.xbel" 2>/dev/null
+  wait_until grep -q waves.zel "$XDG_DATA_HOME/recently-used.xbel" 2>/dev/null ||
+    fail "the document is not opened"
   rm "$XDG_STATE_HOME/zel" config.ini
   ends_by "$signal"
   cmp -s <(grep '^ecuacion=' "$XDG_STATE_HOME/zel/session.zel") \

@@ -21,8 +21,8 @@ constexpr std::array<std::int32_t, GraphTable::kSlots> kColours = {
 double distanceFromGraphs(std::int32_t colour, const GraphTable& graphs) {
   double smallest = std::numeric_limits<double>::infinity();
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    const auto def = graphs.graph(letter);
-    if (def && def->defined) smallest = std::min(smallest, perceivedDistance(colour, def->color));
+    const GraphDef& def = *graphs.slot(letter);
+    if (def.defined) smallest = std::min(smallest, perceivedDistance(colour, def.color));
   }
   return smallest;
 }
@@ -38,7 +38,7 @@ ParametricFields newCurve() { return {{}, {}, fieldOf("0"), fieldOf("360"), fiel
 
 char nextFreeLetter(const GraphTable& graphs) {
   for (char letter = 'a'; letter <= 'z'; ++letter) {
-    if (!graphs.graph(letter)->defined) return letter;
+    if (!graphs.slot(letter)->defined) return letter;
   }
   return 'a';
 }

@@ -13,7 +13,8 @@ int renderOne(const RenderJob& job, const WantedView& wanted, const Console& con
   const auto opened = openedView(wanted, session.view);
   if (!opened) return console.fail("Datos no válidos en declaraciones y/o rango.");
   const auto goes_on = [progress](const StatusPanels& status) {
-    if (progress != nullptr) progress->show([&] { return status.first + status.second; });
+    const bool tells = !status.first.empty() || !status.second.empty();
+    if (progress != nullptr && tells) progress->show([&] { return status.first + status.second; });
     return true;
   };
   const PictureFile file = drawPictureFile({job.ending, wanted.width, wanted.height, *opened},

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,9 +22,22 @@ namespace {
 /// A handler of signals knows what is global, and nothing else.
 std::atomic<int> pipe_end = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
+std::atomic<std::time_t> first_signal = 0;  // seconds of the clock; 0 before it
+static_assert(std::atomic<std::time_t>::is_always_lock_free);
 
-void noteSignal(int) {
+/// A terminal that is closed, or a program that ends others, may send a signal twice at once: what
+/// is kept meanwhile is not to be lost. Later than this the loop may not come around any more.
+constexpr std::time_t kPatience = 2;  // seconds
+
+extern "C" void noteSignal(int number) {
   const int before = errno;
+  timespec now{};
+  ::clock_gettime(CLOCK_MONOTONIC, &now);
+  std::time_t first = 0;
+  if (!first_signal.compare_exchange_strong(first, now.tv_sec) && now.tv_sec - first >= kPatience) {
+    std::signal(number, SIG_DFL);
+    std::raise(number);
+  }
   const char byte = 0;
   // A pipe that is full has told enough.
   [[maybe_unused]] const auto written = ::write(pipe_end, &byte, sizeof byte);
@@ -36,8 +50,7 @@ void catchSignal(int number) {
   if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) return;
   action = {};
   action.sa_handler = noteSignal;
-  // A second one finds the system's own handler, in case that the loop does not come around.
-  action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+  action.sa_flags = SA_RESTART;
   ::sigaction(number, &action, nullptr);
 }
 

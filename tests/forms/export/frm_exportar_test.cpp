@@ -254,6 +254,8 @@ TEST_F(LargeFileInTheExportWindow, IsCancelledAtAnyMoment) {
       if (++moments == static_cast<int>(last)) ways[last % ways.size()]();
     });
     EXPECT_TRUE(save().isEnabled());
+    EXPECT_EQ(window.isVisible(), moments >= static_cast<int>(last))
+        << "only what is done closes it";
   }
   EXPECT_EQ(QImage("a.png").size(), QSize(3000, 3000)) << "the one that was done before its moment";
   EXPECT_THAT(services.boxes.shown, IsEmpty());
