@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
@@ -221,9 +222,11 @@ void frmExportar::setSaving(bool saving) {
 void frmExportar::cmdGuardar_Click() {
   if (is_saving_) return;
   const int mine = ++wanted_;
+  const QPointer<QWidget> focus = focusWidget();
   setSaving(true);
   const bool written = exportPicture(program(), opened_, choice(), watch(mine));
   setSaving(false);
+  if (focus) focus->setFocus();
   if (written)
     returnToCaller();
   else

@@ -76,7 +76,10 @@ void frmGrafico::connectControls() {
   picGrafico_->installEventFilter(this);
   connect(picGrafico_, &PictureBox::KeyPress, this, &frmGrafico::picGrafico_KeyPress);
   connect(picGrafico_, &PictureBox::resolutionChanged, this, [this] { session_.redraw(); });
-  connect(picGrafico_, &PictureBox::shownAnew, this, &frmGrafico::showNumbers);
+  connect(picGrafico_, &PictureBox::shownAnew, this, [this] {
+    showNumbers();
+    showCoordinates();
+  });
   connect(Toolbar1_, &PlotToolbar::ButtonClick, this, &frmGrafico::Toolbar1_ButtonClick);
   connect(Toolbar1_, &PlotToolbar::copyWithNumbersClicked, this,
           [this] { session_.copyWithNumbers(); });

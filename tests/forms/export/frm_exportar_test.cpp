@@ -261,6 +261,14 @@ TEST_F(LargeFileInTheExportWindow, IsCancelledAtAnyMoment) {
   EXPECT_THAT(services.boxes.shown, IsEmpty());
 }
 
+TEST_F(LargeFileInTheExportWindow, LeavesTheFocusWhereItWasWhenItIsCancelled) {
+  open();
+  width().setFocus();
+  saveWith("a.png", [this] { QTest::keyClick(&window, Qt::Key_Escape); });
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_TRUE(width().hasFocus());
+}
+
 TEST_F(LargeFileInTheExportWindow, IsNotDisturbedByWhatElseTheUserDoes) {
   saveWith("alone.png", [] {});
   saveWith("a.png", [this, larger = 0]() mutable {

@@ -127,6 +127,21 @@ TEST_F(GraficoNavigation, ANotchOfTheWheelZoomsAboutThePlaceUnderThePointer) {
   EXPECT_EQ(mode(), PlotMode::normal);
 }
 
+TEST_F(GraficoNavigation, TheCoordinatesBesideThePointerFollowTheView) {
+  openUsual();
+  control<QAbstractButton>("CmdNumeros").click();
+  const auto expectThoseOfThePointer = [this] {
+    const QImage shown = picture->grab().toImage();
+    mouseMove(at(5, -5));
+    EXPECT_TRUE(shown == picture->grab().toImage());
+  };
+  mouseMove(at(5, -5));
+  turnWheel(at(5, -5), {0, 120});
+  expectThoseOfThePointer();
+  press(Qt::Key_Right);
+  expectThoseOfThePointer();
+}
+
 TEST_F(GraficoNavigation, ATouchpadZoomsOnceItsSmallTurnsMakeANotch) {
   openUsual();
   for (int i = 0; i < 7; ++i) turnWheel(at(0, 0), {0, 15});
