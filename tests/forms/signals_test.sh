@@ -4,6 +4,7 @@
 set -uo pipefail
 zel=$(dirname "$1")/zel
 [[ -x $zel ]] || { echo "no desktop program in this build"; exit 77; }
+# shellcheck source-path=SCRIPTDIR
 . "$(dirname "$0")/../support/patience.sh"
 [[ -r /proc/self/status ]] || { echo "the system does not tell which signals are caught"; exit 77; }
 
