@@ -21,6 +21,16 @@ constexpr std::uint32_t kFirstBytes = 8;
 // The library takes what it only reads without const.
 std::uint8_t* unconst(const std::uint8_t* bytes) { return const_cast<std::uint8_t*>(bytes); }
 
+/// On Windows a function leaves the registers xmm6 to xmm15 as they were. Some of the library's do
+/// not; whoever calls this after them puts back for its callers what they have lost.
+inline void keepRegisters() {
+#ifdef _WIN64
+  asm volatile("" ::
+                   : "xmm6", "xmm7", "xmm8", "xmm9", "xmm10", "xmm11", "xmm12", "xmm13", "xmm14",
+                     "xmm15");
+#endif
+}
+
 }  // namespace
 
 struct Deflate::Stream {
@@ -36,7 +46,9 @@ struct Deflate::Stream {
     do {
       z.next_out = reinterpret_cast<std::uint8_t*>(out.data());
       z.avail_out = static_cast<std::uint32_t>(out.size());
-      if (isal_deflate(&z) != COMP_OK) return false;
+      const int result = isal_deflate(&z);
+      keepRegisters();
+      if (result != COMP_OK) return false;
       output.append(out.data(), out.size() - z.avail_out);
     } while (z.avail_out == 0);
     return true;
@@ -60,6 +72,7 @@ Deflate::Deflate(std::string before)
     : stream_(std::make_unique<Stream>()), output_(std::move(before)) {
   isal_zstream& z = stream_->z;
   isal_deflate_init(&z);
+  keepRegisters();
   z.level = 1;
   z.level_buf = stream_->memory.data();
   z.level_buf_size = static_cast<std::uint32_t>(stream_->memory.size());
@@ -79,7 +92,10 @@ std::string Deflate::finish() {
 }
 
 std::uint32_t checksum(std::string_view bytes, std::uint32_t before) {
-  return crc32_gzip_refl(before, reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+  const auto* const first = reinterpret_cast<const std::uint8_t*>(bytes.data());
+  const std::uint32_t sum = crc32_gzip_refl(before, first, bytes.size());
+  keepRegisters();
+  return sum;
 }
 
 }  // namespace zel
