@@ -24,5 +24,9 @@ function(zel_test_scripts)
       COMMAND bash "${CMAKE_CURRENT_SOURCE_DIR}/${script}"
         "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zel-cli${CMAKE_EXECUTABLE_SUFFIX}" "${PROJECT_SOURCE_DIR}")
     set_tests_properties("${name}" PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 3600 LABELS "${folder}")
+    if(name MATCHES "^windows/(installer|tour)$")
+      # They copy Wine's home, which what runs beside them writes into.
+      set_tests_properties("${name}" PROPERTIES RUN_SERIAL TRUE)
+    endif()
   endforeach()
 endfunction()
