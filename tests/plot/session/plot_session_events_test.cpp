@@ -1,6 +1,6 @@
 #include <random>
 
-#include "plot/session/plot_session_fixture.h"
+#include "plot/session/session_tools_fixture.h"
 
 /// What may arrive inside of a drawing, at each of its moments.
 namespace zel::test {
@@ -140,6 +140,30 @@ TEST_F(SessionEvents, ARefusalThatIsOvertakenByAnotherIsNotReported) {
   openAndDraw();
   EXPECT_EQ(listener.messages.size(), 1u);
   EXPECT_EQ(listener.returns, 1);
+}
+
+TEST_F(SessionTools, APanThatARedrawOvertakesLeavesTheTraceToTheUserSinceThen) {
+  session.execute(PlotCommand::recorrer_adelante);
+  screen.on_events = [&](std::size_t) {
+    screen.on_events = nullptr;
+    session.redraw();
+    session.execute(PlotCommand::recorrer_adelante);
+  };
+  session.execute(PlotCommand::derecha);
+  EXPECT_EQ(shown(), "X=2|Y=2||");
+}
+
+TEST_F(SessionTools, APanThatAnotherOpeningOutlivesLeavesTheTraceOfThatOne) {
+  session.execute(PlotCommand::recorrer_adelante);
+  const ViewSettings view = viewport.view;
+  listener.on_drawn = [&] {
+    listener.on_drawn = nullptr;
+    session.open(view, marks);
+    session.drawFirst();
+    session.execute(PlotCommand::recorrer);
+  };
+  session.execute(PlotCommand::derecha);
+  EXPECT_EQ(shown(), "X=-4|Y=-4||");
 }
 
 TEST_F(SessionEvents, AtRandomLeaveThePictureOfTheLastView) {
