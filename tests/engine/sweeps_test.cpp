@@ -245,6 +245,13 @@ TEST_F(Sweeps, GiveFewValuesOfALongCodeAtOnce) {
   EXPECT_EQ(engine.SweepPart("x+1", {}, values), 0u);
 }
 
+TEST_F(Sweeps, GiveManyValuesOfShortCodesAtOnce) {
+  const std::vector<double> xs = range(1, 5000);
+  std::vector<double> values(xs.size());
+  EXPECT_EQ(engine.SweepPart("x+1", xs, values), xs.size());
+  EXPECT_EQ(engine.CurvePart("t+1", "t", xs, values, values), xs.size());
+}
+
 TEST_F(Sweeps, GiveFewerValuesOfALongCodeWhereSomeAreEvaluatedByThemselves) {
   std::string code = "9@x";
   while (code.size() + 40 < Engine::kMaxExpandedCode) code += "+2*x";
