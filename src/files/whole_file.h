@@ -37,11 +37,11 @@ struct WriteResult {
 enum class NewFile { as_any_other, for_its_user_alone };
 
 /// Replaces the file by a new one with its permissions, access control list and extended
-/// attributes, in one step: a failure leaves the older file as it was and nothing else behind, and
-/// only a kill, or a disk that fails for good, can leave a temporary file in the folder
-/// (".zel-...tmp", which its user alone may read), which the next write there takes away. A
-/// symbolic link stays and its target is replaced; one that leads nowhere is not followed. What may
-/// not be written is not replaced.
+/// attributes (on Windows its attributes and access control list), in one step: a failure leaves
+/// the older file as it was and nothing else behind, and only a kill, or a disk that fails for
+/// good, can leave a temporary file in the folder (".zel-...tmp", on POSIX for its user alone),
+/// which the next write there takes away. A symbolic link stays and its target is replaced; one
+/// that leads nowhere is not followed. What may not be written is not replaced.
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes,
                            NewFile new_file = NewFile::as_any_other);
 

@@ -8,17 +8,24 @@
 #include <algorithm>
 #include <cstdint>
 #include <new>
+#include <vector>
 
 #include "files/leftovers.h"
 #include "files/temporary_name.h"
 #include "files/whole_file.h"
 #include "files/wide_path.h"
+#include "files/write_target.h"
 
 namespace zel {
 namespace {
 
 constexpr DWORD kMostAtOnce = DWORD{1} << 20;
 constexpr int kMostTemporaryNames = 100;
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// Of the last step, within half a second.
+constexpr int kMostTries = 20;
+constexpr DWORD kPause = 25;  // milliseconds
 
 /// Right behind the call that may have failed.
 DWORD errorUnless(bool succeeded) { return succeeded ? NO_ERROR : GetLastError(); }
@@ -73,6 +80,11 @@ bool isMissing(DWORD error) {
   return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
+/// What a move says where another program has one of the files open.
+bool isInUse(DWORD error) {
+  return error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+}
+
 bool isThere(const wchar_t* path) {
   return GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES || !isMissing(GetLastError());
 }
@@ -82,34 +94,17 @@ std::wstring folderOf(const std::wstring& path) {
   return path.substr(0, path.find_last_of(L"\\/:") + 1);
 }
 
-/// Puts the file that an existing path leads to, links followed, into `target`: one on a disk that
-/// may be written.
-DWORD findTarget(const WidePath& path, std::wstring& target) {
-  const File file(
-      openFile(path.c_str(), GENERIC_WRITE, OPEN_EXISTING, FILE_SHARE_READ | FILE_SHARE_WRITE));
-  if (!file) return GetLastError();
-  if (GetFileType(file.handle()) != FILE_TYPE_DISK) return ERROR_NOT_SUPPORTED;
-  target = path.c_str();
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) return GetLastError();
-  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) return ERROR_ACCESS_DENIED;  // to some it opens
-  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return NO_ERROR;
-  const DWORD size = GetFinalPathNameByHandleW(file.handle(), nullptr, 0, FILE_NAME_NORMALIZED);
-  if (size == 0) return GetLastError();
-  target.resize(size);
-  const DWORD written =
-      GetFinalPathNameByHandleW(file.handle(), target.data(), size, FILE_NAME_NORMALIZED);
-  if (written == 0) return GetLastError();
-  if (written >= size) return ERROR_INSUFFICIENT_BUFFER;  // it was renamed meanwhile
-  target.resize(written);
-  return NO_ERROR;
+/// The existing file at a path. Others may replace it while it is looked at.
+DWORD findTarget(const WidePath& path, WriteTarget& target) {
+  const File file(openFile(path.c_str(), GENERIC_WRITE, OPEN_EXISTING, kShareAll));
+  return file ? describeTarget(file.handle(), path.c_str(), target) : GetLastError();
 }
 
 /// A new file in a folder, which goes away again unless it is put in another's place. It is open
 /// until then, so that nobody takes it for the leftover of a killed save.
 class TemporaryFile {
  public:
-  explicit TemporaryFile(const std::wstring& folder) : file_(make(folder)) {}
+  explicit TemporaryFile(const WriteTarget& target) : file_(make(target)) {}
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile() {
@@ -124,7 +119,6 @@ class TemporaryFile {
 
   /// Another handle holds it, which lets it be moved.
   DWORD finish() {
-    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     hold_.reset(openFile(path_.c_str(), GENERIC_READ, OPEN_EXISTING, kShareAll));
     if (!hold_) return GetLastError();
     const DWORD error = errorUnless(FlushFileBuffers(file_.handle()) != 0);
@@ -132,29 +126,35 @@ class TemporaryFile {
     return error == NO_ERROR ? close_error : error;
   }
 
-  /// Replacing keeps the attributes and the access list of the older file, where the file system
-  /// can do that.
-  DWORD moveTo(const std::wstring& path, bool existed) {
-    constexpr DWORD kMove = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    const bool replaced =
-        existed && ReplaceFileW(path.c_str(), path_.c_str(), nullptr,
-                                REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0;
-    const DWORD error =
-        replaced ? NO_ERROR : errorUnless(MoveFileExW(path_.c_str(), path.c_str(), kMove) != 0);
-    // A replacement that broke off may have taken the older file away: then this is the only one.
-    if (error == NO_ERROR || (existed && !isThere(path.c_str()))) path_.clear();
+  /// In one step, which ReplaceFile does not promise. Where another program, a save or a virus
+  /// scanner, looks at one of the files, it is soon done.
+  DWORD moveTo(const std::wstring& path) {
+    DWORD error = tryToMoveTo(path);
+    for (int tries = 1; isInUse(error) && tries < kMostTries; ++tries) {
+      Sleep(kPause);
+      error = tryToMoveTo(path);
+    }
+    if (error == NO_ERROR) path_.clear();
     return error;
   }
 
  private:
-  HANDLE make(const std::wstring& folder) {
+  DWORD tryToMoveTo(const std::wstring& path) const {
+    constexpr DWORD kFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    return errorUnless(MoveFileExW(path_.c_str(), path.c_str(), kFlags) != 0);
+  }
+
+  HANDLE make(const WriteTarget& target) {
+    std::vector<char> access = target.access;  // the call takes no const
+    SECURITY_ATTRIBUTES security{sizeof security, access.empty() ? nullptr : access.data(), FALSE};
     for (int i = 0; i < kMostTemporaryNames; ++i) {
       const std::string name = newTemporaryName();
       error_ = ERROR_GEN_FAILURE;
       if (name.empty()) break;
-      path_ = folder + std::wstring(name.begin(), name.end());
+      path_ = folderOf(target.path) + std::wstring(name.begin(), name.end());
       const HANDLE handle =
-          openFile(path_.c_str(), GENERIC_WRITE, CREATE_NEW, FILE_SHARE_READ | FILE_SHARE_DELETE);
+          CreateFileW(path_.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE, &security,
+                      CREATE_NEW, target.attributes, nullptr);
       error_ = errorUnless(handle != INVALID_HANDLE_VALUE);
       if (error_ == NO_ERROR) return handle;
       if (error_ != ERROR_FILE_EXISTS) break;
@@ -169,13 +169,13 @@ class TemporaryFile {
   File hold_{INVALID_HANDLE_VALUE};
 };
 
-DWORD replaceFile(const std::wstring& path, std::string_view bytes, bool existed) {
-  removeLeftovers(path);
-  TemporaryFile file(folderOf(path));
+DWORD replaceFile(const WriteTarget& target, std::string_view bytes) {
+  removeLeftovers(target.path);
+  TemporaryFile file(target);
   DWORD error = file.error();
   if (error == NO_ERROR) error = writeAll(file.handle(), bytes);
   if (error == NO_ERROR) error = file.finish();
-  if (error == NO_ERROR) error = file.moveTo(path, existed);
+  if (error == NO_ERROR) error = file.moveTo(target.path);
   return error;
 }
 
@@ -189,12 +189,12 @@ WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
   const DWORD attributes = GetFileAttributesW(wide.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) {
     const DWORD error = GetLastError();
-    return resultOf(false, isMissing(error) ? replaceFile(wide.c_str(), bytes, false) : error);
+    return resultOf(false, isMissing(error) ? replaceFile({wide.c_str()}, bytes) : error);
   }
   if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return resultOf(false, ERROR_ACCESS_DENIED);
-  std::wstring target;
+  WriteTarget target;
   const DWORD error = findTarget(wide, target);
-  return resultOf(true, error == NO_ERROR ? replaceFile(target, bytes, true) : error);
+  return resultOf(true, error == NO_ERROR ? replaceFile(target, bytes) : error);
 }
 
 std::optional<std::string> readAll(HANDLE handle) {
@@ -243,8 +243,7 @@ void removeEmptyFile(const std::string& path) {
 std::optional<std::string> readWholeFile(const std::string& path) {
   const WidePath wide(path);
   if (wide.isEmpty()) return std::nullopt;
-  const File file(openFile(wide.c_str(), GENERIC_READ, OPEN_EXISTING,
-                           FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE));
+  const File file(openFile(wide.c_str(), GENERIC_READ, OPEN_EXISTING, kShareAll));
   if (!file || GetFileType(file.handle()) != FILE_TYPE_DISK) return std::nullopt;
   return readAll(file.handle());
 }

@@ -2,10 +2,11 @@
 // before the first, the second, ... call that touches a file, and after each; then one that is let
 // be. Whatever a stopped process leaves must be the older or the newer document, whole, and the
 // next save takes away what is left beside it. The same where a call fails, or it and all later
-// ones, and where four processes save at once, one of which ends itself.
+// ones, where the last step is refused for a while, and where four processes save at once, one of
+// which ends itself.
 //
-// The calls are caught where the program's import table would be: this file has the pointers that
-// the linker would take from the import library.
+// save_interrupted wait CALL PATH: saves there, but says "waiting" before that call and waits for a
+// line.
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
@@ -16,107 +17,20 @@
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <type_traits>
-#include <utility>
 #include <vector>
 
+#include "faulty_calls_win32.h"
 #include "files/whole_file.h"
 
 namespace {
 
+using zel::test::beginFaults;
+using zel::test::endFaults;
+using zel::test::Fault;
+
 constexpr UINT kStopped = 77;
 
-int stop_before = 0;  // at this call from the first; 0 never
-int stop_after = 0;
-int fail_at = 0;
-bool fails_for_good = false;
-DWORD failure = NO_ERROR;
-int calls = 0;
-
-bool isFaulty() { return fail_at != 0 && (fails_for_good ? calls >= fail_at : calls == fail_at); }
-
-template <class Function>
-Function* systemFunction(const char* name) {
-  return reinterpret_cast<Function*>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), name)));
-}
-
 void stop() { TerminateProcess(GetCurrentProcess(), kStopped); }
-
-/// What it returns where it fails. A handle that fails to close is closed all the same.
-template <class Function, class... Arguments>
-auto failed(const char* name, Arguments... arguments) {
-  using Result = decltype(std::declval<Function*>()(arguments...));
-  if constexpr (std::is_same_v<Function, decltype(CloseHandle)>)
-    systemFunction<Function>(name)(arguments...);
-  SetLastError(failure);
-  if constexpr (std::is_same_v<Result, HANDLE>)
-    return INVALID_HANDLE_VALUE;
-  else
-    return Result{};
-}
-
-/// Calls the system's function of this name, or ends the process before or behind it.
-template <class Function, class... Arguments>
-auto counted(const char* name, Arguments... arguments) {
-  ++calls;
-  if (calls == stop_before) stop();
-  if (isFaulty()) return failed<Function>(name, arguments...);
-  const auto result = systemFunction<Function>(name)(arguments...);
-  const DWORD error = GetLastError();
-  if (calls == stop_after) stop();
-  SetLastError(error);
-  return result;
-}
-
-HANDLE WINAPI createFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
-                         DWORD disposition, DWORD flags, HANDLE from) {
-  return counted<decltype(CreateFileW)>("CreateFileW", path, access, share, security, disposition,
-                                        flags, from);
-}
-
-BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED way) {
-  return counted<decltype(WriteFile)>("WriteFile", file, bytes, count, written, way);
-}
-
-BOOL WINAPI flushFile(HANDLE file) {
-  return counted<decltype(FlushFileBuffers)>("FlushFileBuffers", file);
-}
-
-BOOL WINAPI closeHandle(HANDLE handle) {
-  return counted<decltype(CloseHandle)>("CloseHandle", handle);
-}
-
-BOOL WINAPI replaceFile(LPCWSTR path, LPCWSTR by, LPCWSTR backup, DWORD flags, LPVOID, LPVOID) {
-  return counted<decltype(ReplaceFileW)>("ReplaceFileW", path, by, backup, flags, nullptr, nullptr);
-}
-
-BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
-  return counted<decltype(MoveFileExW)>("MoveFileExW", from, to, flags);
-}
-
-BOOL WINAPI deleteFile(LPCWSTR path) { return counted<decltype(DeleteFileW)>("DeleteFileW", path); }
-
-}  // namespace
-
-extern "C" {
-extern const decltype(&createFile) caught_create __asm__("__imp_CreateFileW");
-extern const decltype(&writeFile) caught_write __asm__("__imp_WriteFile");
-extern const decltype(&flushFile) caught_flush __asm__("__imp_FlushFileBuffers");
-extern const decltype(&closeHandle) caught_close __asm__("__imp_CloseHandle");
-extern const decltype(&replaceFile) caught_replace __asm__("__imp_ReplaceFileW");
-extern const decltype(&moveFile) caught_move __asm__("__imp_MoveFileExW");
-extern const decltype(&deleteFile) caught_delete __asm__("__imp_DeleteFileW");
-const decltype(&createFile) caught_create = createFile;
-const decltype(&writeFile) caught_write = writeFile;
-const decltype(&flushFile) caught_flush = flushFile;
-const decltype(&closeHandle) caught_close = closeHandle;
-const decltype(&replaceFile) caught_replace = replaceFile;
-const decltype(&moveFile) caught_move = moveFile;
-const decltype(&deleteFile) caught_delete = deleteFile;
-}
-
-namespace {
 
 namespace fs = std::filesystem;
 
@@ -171,28 +85,35 @@ std::string complaint(const fs::path& folder, const fs::path& document, bool exi
   return "neither document, but " + std::to_string(bytes.size()) + " bytes";
 }
 
+/// The path of a document in a folder that is new, with the older document or nothing.
+fs::path prepare(const fs::path& folder, bool existed) {
+  const fs::path document = folder / u8"é Ω.zel";
+  fs::remove_all(folder);
+  fs::create_directories(folder);
+  if (existed) std::ofstream(document, std::ios::binary) << kOld;
+  return document;
+}
+
+/// Whether there is one file in the folder.
+bool isAlone(const fs::path& folder) {
+  return std::distance(fs::directory_iterator(folder), fs::directory_iterator()) == 1;
+}
+
 /// Whether an untouched save leaves the newer document alone in the folder.
 bool isCleaned(const fs::path& folder, const fs::path& document) {
-  if (!zel::writeWholeFile(utf8(document), kNew).written || bytesOf(document) != kNew) return false;
-  return std::distance(fs::directory_iterator(folder), fs::directory_iterator()) == 1;
+  return zel::writeWholeFile(utf8(document), kNew).written && bytesOf(document) == kNew &&
+         isAlone(folder);
 }
 
 /// Lets every call fail in turn. False for a complaint.
 bool survives(const fs::path& folder, DWORD error, bool for_good, bool existed) {
-  const fs::path document = folder / u8"é Ω.zel";
   int call = 0;
   do {
     ++call;
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    if (existed) std::ofstream(document, std::ios::binary) << kOld;
-    calls = 0;
-    failure = error;
-    fails_for_good = for_good;
-    fail_at = call;
+    const fs::path document = prepare(folder, existed);
+    beginFaults({.first = call, .last = for_good ? Fault::kForGood : call, .error = error});
     const bool written = zel::writeWholeFile(utf8(document), kNew).written;
-    fail_at = 0;
-    const int made = calls;
+    const int made = endFaults();
     std::string wrong = complaint(folder, document, existed);
     if (wrong.empty() && written && bytesOf(document) != kNew)
       wrong = "written, and it is not there";
@@ -207,15 +128,27 @@ bool survives(const fs::path& folder, DWORD error, bool for_good, bool existed) 
   return call > kFewest;
 }
 
+/// Refuses the last step so often, from the first time on. False for a complaint.
+bool endsAsExpected(const fs::path& folder, DWORD error, int refusals, bool expected) {
+  const fs::path document = prepare(folder, true);
+  beginFaults({.first = 1, .last = refusals, .error = error, .only = "MoveFileExW"});
+  const bool written = zel::writeWholeFile(utf8(document), kNew).written;
+  const int tries = endFaults();
+  constexpr int kMostTries = 100;
+  if (written == expected && tries <= kMostTries && isAlone(folder) &&
+      bytesOf(document) == (expected ? kNew : kOld))
+    return true;
+  std::cout << "error " << error << " of " << refusals << " moves: " << tries << " tries, "
+            << (written ? "written" : "not written") << '\n';
+  return false;
+}
+
 /// Stops at every call in turn. False for a complaint.
 bool holds(const fs::path& folder, const std::string& when, bool existed) {
-  const fs::path document = folder / u8"é Ω.zel";
   int call = 0;
   for (DWORD status = kStopped; status == kStopped;) {
     ++call;
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    if (existed) std::ofstream(document, std::ios::binary) << kOld;
+    const fs::path document = prepare(folder, existed);
     status = statusOf(startSaver(document, when, call));
     const std::string wrong = complaint(folder, document, existed);
     const bool is_cleaned = !wrong.empty() || isCleaned(folder, document);
@@ -234,15 +167,13 @@ bool holds(const fs::path& folder, const std::string& when, bool existed) {
 constexpr int kSavesEach = 10;
 constexpr int kSaved = 100;  // and so many saves that went through
 
-/// Ends the process before a call (at none where that is 0). A save that meets another one may say
-/// that it failed.
+/// Ends the process before a call (at none where that is 0).
 int saveOften(int call, const fs::path& path) {
-  calls = 0;
-  stop_before = call;
+  beginFaults({.first = call, .last = call, .event = stop});
   int status = kSaved;
   for (int i = 0; i < kSavesEach; ++i)
     if (zel::writeWholeFile(utf8(path), i % 2 == 0 ? kNew : kOld).written) ++status;
-  stop_before = 0;
+  endFaults();
   return status;
 }
 
@@ -250,6 +181,7 @@ int saveOften(int call, const fs::path& path) {
 std::string complaintWhile(HANDLE saver, const fs::path& document) {
   int looks = 0;
   while (WaitForSingleObject(saver, 0) == WAIT_TIMEOUT) {
+    if (!zel::fileExists(utf8(document))) return "not there";
     const auto bytes = zel::readWholeFile(utf8(document));
     if (bytes) ++looks;
     if (bytes && *bytes != kOld && *bytes != kNew)
@@ -258,12 +190,10 @@ std::string complaintWhile(HANDLE saver, const fs::path& document) {
   return looks > 0 ? "" : "not seen";
 }
 
-/// Four processes save one document, of which one ends itself. False for a complaint.
+/// Four processes save one document, of which one ends itself; all saves of the others go through.
+/// False for a complaint.
 bool isSharedByMany(const fs::path& folder) {
-  const fs::path document = folder / u8"é Ω.zel";
-  fs::remove_all(folder);
-  fs::create_directories(folder);
-  std::ofstream(document, std::ios::binary) << kOld;
+  const fs::path document = prepare(folder, true);
   constexpr int kInTheMiddle = 31;  // a call
   std::vector<HANDLE> savers;
   for (const int call : {kInTheMiddle, 0, 0, 0})
@@ -280,23 +210,33 @@ bool isSharedByMany(const fs::path& folder) {
   if (wrong.empty() && !isCleaned(folder, document)) wrong = "not cleaned by the next save";
   std::cout << "four at once: " << saves << " of " << 3 * kSavesEach << " saves"
             << (wrong.empty() ? "" : ": ") << wrong << '\n';
-  return wrong.empty() && saves > 0;
+  return wrong.empty() && saves == 3 * kSavesEach;
 }
 
-int saveAndStop(const std::wstring& when, const std::wstring& call, const fs::path& path) {
-  calls = 0;
-  (when == L"before" ? stop_before : stop_after) = std::stoi(call);
-  const bool written = static_cast<bool>(zel::writeWholeFile(utf8(path), kNew).written);
-  stop_before = stop_after = 0;
+void wait() {
+  std::cout << "waiting" << std::endl;
+  std::cin.get();
+}
+
+int saveWith(const Fault& fault, const fs::path& path) {
+  beginFaults(fault);
+  const bool written = zel::writeWholeFile(utf8(path), kNew).written;
+  endFaults();
   return written ? 0 : 1;
+}
+
+/// A process that another one has started.
+int doTask(std::wstring_view task, int call, const fs::path& path) {
+  if (task == L"often") return saveOften(call, path);
+  if (task == L"wait") return saveWith({.first = call, .last = call, .event = wait}, path);
+  return saveWith({.first = call, .last = call, .event = stop, .is_behind = task == L"after"},
+                  path);
 }
 
 }  // namespace
 
 int wmain(int count, wchar_t** wide) {
-  if (count == 4 && wide[1] == std::wstring_view(L"often"))
-    return saveOften(std::stoi(wide[2]), wide[3]);
-  if (count == 4) return saveAndStop(wide[1], wide[2], wide[3]);
+  if (count == 4) return doTask(wide[1], std::stoi(wide[2]), wide[3]);
   if (count != 2) return 2;
   const fs::path folder = fs::path(wide[1]) / "whole";
   bool all_hold = true;
@@ -308,6 +248,11 @@ int wmain(int count, wchar_t** wide) {
     for (const bool for_good : {false, true})
       for (const bool existed : {true, false})
         if (!survives(folder, error, for_good, existed)) all_hold = false;
+  for (const DWORD error : {DWORD{ERROR_SHARING_VIOLATION}, DWORD{ERROR_ACCESS_DENIED}})
+    if (!endsAsExpected(folder, error, 5, true) ||
+        !endsAsExpected(folder, error, Fault::kForGood, false))
+      all_hold = false;
+  if (!endsAsExpected(folder, ERROR_DISK_FULL, 1, false)) all_hold = false;
   if (!isSharedByMany(folder)) all_hold = false;
   fs::remove_all(folder);
   return all_hold ? 0 : 1;
