@@ -32,23 +32,12 @@ GraphsState presentState(const Program& program, const MainView& view, const Gra
   return {program.graphs, std::nullopt};
 }
 
-std::string putBack(Program& program, MainView& view, GraphsState state) {
-  std::string letters = differingLetters(program.graphs, state.graphs);
-  program.graphs = state.graphs;
-  if (state.document) {
-    program.document_name = std::move(state.document->name);
-    program.document_path = std::move(state.document->path);
-    program.header = std::move(state.document->header);
-    view = std::move(state.document->view);
-  }
-  return letters;
-}
-
 }  // namespace
 
-void recordChange(Program& program, const GraphTable& before) {
-  if (differingLetters(before, program.graphs).empty()) return;
-  program.history.record({before, std::nullopt});
+void changeGraphs(Program& program, const GraphTable& changed) {
+  if (!differingLetters(program.graphs, changed).empty())
+    program.history.record({program.graphs, std::nullopt});
+  program.graphs = changed;
 }
 
 GraphsState wholeState(const Program& program, const MainView& view) {
@@ -56,34 +45,47 @@ GraphsState wholeState(const Program& program, const MainView& view) {
           DocumentState{program.document_name, program.document_path, program.header, view}};
 }
 
+void takeState(Program& program, MainView& view, GraphsState state) {
+  program.graphs = state.graphs;
+  if (!state.document) return;
+  program.document_name = std::move(state.document->name);
+  program.document_path = std::move(state.document->path);
+  program.header = std::move(state.document->header);
+  view = std::move(state.document->view);
+}
+
 std::string duplicateGraphs(Program& program, std::string_view letters) {
   if (freeLetters(program.graphs) < static_cast<int>(letters.size())) {
     ShowAttention(program.services.boxes, Localize("No se puede definir mas gráficos."));
     return {};
   }
-  const GraphTable before = program.graphs;
+  GraphTable changed = program.graphs;
   std::string copies;
   for (const char letter : letters) {
-    const char free = nextFreeLetter(program.graphs);
-    GraphDef copy = copyOf(*program.graphs.graph(letter), free);
-    copy.color = nextFreshColour(program.graphs);
-    program.graphs.storeGraph(copy);
+    const char free = nextFreeLetter(changed);
+    GraphDef copy = copyOf(*changed.graph(letter), free);
+    copy.color = nextFreshColour(changed);
+    changed.storeGraph(copy);
     copies += free;
   }
-  recordChange(program, before);
+  changeGraphs(program, changed);
   return copies;
 }
 
 std::string undoChange(Program& program, MainView& view) {
   const GraphsState* const last = program.history.undoable();
   if (!last) return {};
-  return putBack(program, view, program.history.undo(presentState(program, view, *last)));
+  std::string letters = differingLetters(program.graphs, last->graphs);
+  takeState(program, view, program.history.undo(presentState(program, view, *last)));
+  return letters;
 }
 
 std::string redoChange(Program& program, MainView& view) {
   const GraphsState* const next = program.history.redoable();
   if (!next) return {};
-  return putBack(program, view, program.history.redo(presentState(program, view, *next)));
+  std::string letters = differingLetters(program.graphs, next->graphs);
+  takeState(program, view, program.history.redo(presentState(program, view, *next)));
+  return letters;
 }
 
 }  // namespace zel

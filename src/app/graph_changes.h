@@ -5,15 +5,20 @@
 
 #include "app/program.h"
 
-/// Changes of the graphs, and the way back from each of them.
+/// Changes of the graphs, and the way back from each of them. One that fails for want of memory has
+/// changed nothing.
 namespace zel {
 
-/// Keeps the graphs as they were before a change. A change that changed nothing is not kept.
-void recordChange(Program& program, const GraphTable& before);
+/// Puts changed graphs in the place of the program's, which are kept. A change that changes nothing
+/// is not kept.
+void changeGraphs(Program& program, const GraphTable& changed);
 
 /// The graphs, the document around them and what the main window's controls hold, to be recorded
 /// before another document takes their place.
 GraphsState wholeState(const Program& program, const MainView& view);
+
+/// Puts a state in the place of what the program and the controls hold. Needs no memory.
+void takeState(Program& program, MainView& view, GraphsState state);
 
 /// Puts copies of the graphs under the next free letters, each in a colour that no graph has.
 /// Returns their letters; none, and nothing changed, where there is no room for all of them, which

@@ -50,19 +50,20 @@ bool isSame(const GraphDef& one, const GraphDef& other) {
                 other.parameters ? *other.parameters : none);
 }
 
-/// Takes the last state off one stack, and puts the present one on the other.
+/// Takes the last state off one stack, and puts the present one on the other: first, because that
+/// needs memory.
 GraphsState exchange(std::deque<GraphsState>& from, std::deque<GraphsState>& to, GraphsState now) {
+  to.push_back(std::move(now));
   GraphsState then = std::move(from.back());
   from.pop_back();
-  to.push_back(std::move(now));
   return then;
 }
 
 }  // namespace
 
 void GraphHistory::record(GraphsState before) {
-  undone_.clear();
   done_.push_back(std::move(before));
+  undone_.clear();
   std::size_t bytes = 0;
   std::size_t kept = 0;
   for (auto state = done_.rbegin(); state != done_.rend() && kept < kMostSteps; ++state, ++kept) {

@@ -24,7 +24,8 @@ struct GraphsState {
   std::optional<DocumentState> document;  // nothing where the change left it alone
 };
 
-/// The states of the graphs that changes have replaced, for undo and redo.
+/// The states of the graphs that changes have replaced, for undo and redo. In want of memory all
+/// stays as it is.
 class GraphHistory {
  public:
   /// What goes beyond either bound is forgotten, the oldest state first; the last one is kept.

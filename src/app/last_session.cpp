@@ -49,32 +49,31 @@ void LastSession::keep(const MainView& view, const GraphTable& graphs) {
   std::string().swap(kept_);  // its memory is free before that of the new bytes is needed
   if (!makeFolder(folder_)) return;
   auto bytes = documentBytes(view, graphs);
-  if (!bytes) return;
-  takePrevious();
+  if (!bytes || !takePrevious()) return;
   if (writeWholeFile(path_, *bytes, NewFile::for_its_user_alone).written) kept_ = std::move(*bytes);
 }
 
 bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& message) {
-  takePrevious();
+  message = messages::kCannotOpen;
+  if (!takePrevious()) return false;
   MainView recovered_view = view;
   GraphTable recovered;
   DocumentHeader header;
   if (!loadDocumentBytes(*previous_, recovered_view, recovered, header, message)) {
-    previous_ = "";
+    const bool wants_memory = message == messages::kCannotOpen;
+    if (!wants_memory) previous_ = "";
     return false;
   }
-  view = recovered_view;
+  view = std::move(recovered_view);
   graphs = recovered;
   return true;
 }
 
-void LastSession::takePrevious() {
-  if (previous_) return;
-  try {
-    previous_ = readWholeFile(path_).value_or("");
-  } catch (const std::bad_alloc&) {
-    previous_ = "";
-  }
+bool LastSession::takePrevious() try {
+  if (!previous_) previous_ = readWholeFile(path_).value_or("");
+  return true;
+} catch (const std::bad_alloc&) {
+  return false;
 }
 
 bool recoverLastSession(Program& program, MainView& view) {
@@ -87,7 +86,7 @@ bool recoverLastSession(Program& program, MainView& view) {
   }
   newDocument(program, view);
   program.graphs = graphs;
-  view = recovered;
+  view = std::move(recovered);
   return true;
 }
 

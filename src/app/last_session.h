@@ -23,15 +23,17 @@ class LastSession {
   bool isThere() const;
 
   /// Keeps the view and the graphs, unless they are what was kept last. A table without graphs is
-  /// not kept, so that what was there before it can still be recovered.
+  /// not kept, so that what was there before it can still be recovered; and nothing takes the place
+  /// of what cannot be read for want of memory.
   void keep(const MainView& view, const GraphTable& graphs);
 
   /// Reads what the session before this one has left. False with a message when it cannot be read:
-  /// view and graphs are then as they were, and it is no longer there.
+  /// view and graphs are then as they were, and it is no longer there but for want of memory.
   bool recover(MainView& view, GraphTable& graphs, std::string& message);
 
  private:
-  void takePrevious();
+  /// False for want of memory.
+  bool takePrevious();
 
   std::string folder_;
   std::string path_;

@@ -1,6 +1,7 @@
 #include "app/main_commands.h"
 
 #include <optional>
+#include <utility>
 
 #include "app/graph_changes.h"
 #include "app/messages.h"
@@ -48,9 +49,11 @@ void addPlotArguments(Program& program, const PlotFields& fields, FormWindow* ca
 
 std::string fileName(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
-void setDocument(Program& program, const std::string& path) {
-  program.document_path = absolutePath(path);
-  program.document_name = fileName(path);
+/// Both of them or, in want of memory, none.
+void setDocument(std::string& document_name, std::string& document_path, const std::string& path) {
+  std::string name = fileName(path);
+  document_path = absolutePath(path);
+  document_name = std::move(name);
 }
 
 constexpr std::string_view kDocumentFilter = "Declaraciones ZEL (*.zel)|*.zel";
@@ -86,15 +89,19 @@ bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller)
 }
 
 bool openDocumentAt(Program& program, const std::string& path, MainView& view) {
-  program.history.record(wholeState(program, view));
-  setDocument(program, path);
+  GraphsState before = wholeState(program, view);
+  GraphsState opened = before;
+  DocumentState& document = *opened.document;
+  setDocument(document.name, document.path, path);
   std::string message;
-  if (loadDocument(path, view, program.graphs, program.header, message)) {
-    program.services.recent.add(program.document_path);
-    return true;
-  }
-  ShowAttention(program.services.boxes, Localize(openFailureMessage(message)));
-  return false;
+  const bool is_loaded = loadDocument(path, document.view, opened.graphs, document.header, message);
+  if (is_loaded)
+    program.services.recent.add(document.path);
+  else
+    ShowAttention(program.services.boxes, Localize(openFailureMessage(message)));
+  program.history.record(std::move(before));
+  takeState(program, view, std::move(opened));
+  return is_loaded;
 }
 
 bool openRecent(Program& program, const std::string& path, MainView& view) {
@@ -121,7 +128,7 @@ void saveDocument(Program& program, const MainView& view) {
 void saveDocumentAs(Program& program, const MainView& view) {
   const auto path = program.services.files.askSave(kDocumentFilter, program.document_path);
   if (!path) return;
-  setDocument(program, *path);
+  setDocument(program.document_name, program.document_path, *path);
   // Whether the file was there before is not looked at here; only a write that failed is told.
   const WriteResult result = writeDocument(*path, view, program.graphs);
   if (result.written)
@@ -158,12 +165,9 @@ bool deleteGraphs(Program& program, std::string_view letters) {
     if (program.services.boxes.show(question, "ZEL", BoxStyle::ok_cancel) != BoxAnswer::ok)
       return false;
   }
-  // All of them or, in want of memory, none.
-  const GraphTable before = program.graphs;
-  GraphTable after = before;
-  for (const char letter : letters) after.freeGraph(letter);
-  program.graphs = after;
-  recordChange(program, before);
+  GraphTable changed = program.graphs;
+  for (const char letter : letters) changed.freeGraph(letter);
+  changeGraphs(program, changed);
   return true;
 }
 

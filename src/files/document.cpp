@@ -1,7 +1,7 @@
 // A document is one text: the head, the view, and a block for each graph in letter order, each
 // section ended by a line of one blank. Loading asks for the oldest compatible version only, and
-// takes the graphs away before it parses, so that a load that fails half way leaves what was read
-// by then.
+// what it reads takes the place of what was there even where it fails half way, but for want of
+// memory.
 
 #include "files/document.h"
 
@@ -9,6 +9,7 @@
 #include <functional>
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "base/code_page.h"
 #include "base/text.h"
@@ -117,16 +118,6 @@ bool isCompatible(std::string_view bytes) {
                      is_same) != bytes.end();
 }
 
-/// Too little memory is an error like any other inside a section.
-ParseOutcome parseWithinMemory(std::string_view bytes, MainView& view, GraphTable& graphs,
-                               DocumentHeader& header) {
-  try {
-    return parseDocument(bytes, view, graphs, header);
-  } catch (const std::bad_alloc&) {
-    return ParseOutcome::failed;
-  }
-}
-
 }  // namespace
 
 std::string documentText(const MainView& view, const GraphTable& graphs) {
@@ -147,16 +138,24 @@ bool loadDocument(const std::string& path, MainView& view, GraphTable& graphs,
 }
 
 bool loadDocumentBytes(std::string_view bytes, MainView& view, GraphTable& graphs,
-                       DocumentHeader& header, std::string& message) {
+                       DocumentHeader& header, std::string& message) try {
   message.clear();
   if (!isCompatible(bytes)) {
     message = messages::kNotCompatible;
     return false;
   }
-  graphs.clearGraphs();
-  const ParseOutcome outcome = parseWithinMemory(bytes, view, graphs, header);
+  MainView read_view = view;
+  GraphTable read_graphs;
+  std::optional<DocumentHeader> read_header;
+  const ParseOutcome outcome = parseDocument(bytes, read_view, read_graphs, read_header);
   if (outcome == ParseOutcome::section_missing) message = messages::kUnexpectedFormat;
+  view = std::move(read_view);
+  graphs = read_graphs;
+  if (read_header) header = std::move(*read_header);
   return outcome == ParseOutcome::complete;
+} catch (const std::bad_alloc&) {
+  message = messages::kCannotOpen;
+  return false;
 }
 
 std::string_view openFailureMessage(std::string_view message) {

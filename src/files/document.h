@@ -53,10 +53,11 @@ std::optional<std::string> documentBytes(const MainView& view, const GraphTable&
 /// Whether these are the bytes of the file of that document, without making them.
 bool isDocument(std::string_view bytes, const MainView& view, const GraphTable& graphs);
 
-/// False with a message when the file cannot be read, is not compatible (the graphs are then as
-/// they were) or lacks a section, and without one when an error inside a section stops it. In the
-/// latter cases the old graphs are gone, those read before the failure stay, and so does what the
-/// view section set. A file that does not exist is created empty, which is meant.
+/// False with a message when the file cannot be read, for want of memory included, is not
+/// compatible (all is then as it was) or lacks a section, and without one when an error inside a
+/// section stops it. In the latter cases the old graphs are gone, those read before the failure
+/// stay, and so does what the view section set. A file that does not exist is created empty, which
+/// is meant.
 bool loadDocument(const std::string& path, MainView& view, GraphTable& graphs,
                   DocumentHeader& header, std::string& message);
 

@@ -62,7 +62,7 @@ bool isPlain(const MainView& view) {
 bool isReadBack(std::string_view bytes, const MainView& view, const GraphTable& graphs) {
   MainView read_view;
   GraphTable read_graphs;
-  DocumentHeader header;
+  std::optional<DocumentHeader> header;
   const auto outcome = parseDocument(bytes, read_view, read_graphs, header);
   if (outcome != ParseOutcome::complete || !isPlain(view) || !isKept(view, read_view)) return false;
   for (char letter = 'a'; letter <= 'z'; ++letter)

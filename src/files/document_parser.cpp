@@ -132,7 +132,7 @@ bool readGraph(LineReader& lines, GraphTable& graphs) {
 }  // namespace
 
 ParseOutcome parseDocument(std::string_view bytes, MainView& view, GraphTable& graphs,
-                           DocumentHeader& header) {
+                           std::optional<DocumentHeader>& header) {
   LineReader lines(bytes);
   if (!lines.find("[PRINCIPAL]")) return ParseOutcome::section_missing;
   DocumentHeader new_header;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 #include "files/document.h"
@@ -21,9 +22,9 @@ inline constexpr std::size_t kMostPairs = 16384;
 inline constexpr std::string_view kTerminator = " ";
 
 /// Reads the bytes of a document. The view's pairs are applied and the graphs stored as they come,
-/// and stay when the parse ends early; the header changes when its section was read whole. Takes
+/// and stay when the parse ends early; the header is given when its section was read whole. Takes
 /// time and memory in proportion to the bytes, whatever they hold.
 ParseOutcome parseDocument(std::string_view bytes, MainView& view, GraphTable& graphs,
-                           DocumentHeader& header);
+                           std::optional<DocumentHeader>& header);
 
 }  // namespace zel

@@ -32,7 +32,9 @@ TEST_F(DocumentsInWantOfMemory, AreLoadedWholeOrTellThatTheyAreNot) {
       [&] {
         EXPECT_TRUE(loaded ? documentBytes(view, graphs) == bytes
                            : message.empty() || message == messages::kCannotOpen);
+        EXPECT_TRUE(loaded || (view == MainView() && graphs.count() == 0 && header.Count() == 0));
         EXPECT_EQ(bytesOf(path), bytes);
+        header.removeAll();
         view = MainView();
         graphs.clearGraphs();
       });

@@ -37,6 +37,30 @@ TEST_F(KeptSession, StaysAsItIsWhereThereIsNoMemoryAtAll) {
   EXPECT_EQ(bytesOf(path), "other");
 }
 
+TEST_F(KeptSession, TakesThePlaceOfNoneThatCannotBeReadYet) {
+  const std::string previous = bytes();
+  addFunction('b', "x+" + std::string(100, '1'));
+  LastSession next(folder.path().string());
+  const long failures = failEachAllocation(
+      false,
+      [&] {
+        try {
+          next.keep(view, program.graphs);
+        } catch (const std::bad_alloc&) {  // of what looks whether it is kept already
+        }
+      },
+      [&] {
+        MainView recovered_view;
+        GraphTable recovered;
+        std::string message;
+        EXPECT_TRUE(next.recover(recovered_view, recovered, message)) << message;
+        EXPECT_EQ(toCodePage(documentText(recovered_view, recovered)), previous);
+        putBytes(path, previous);
+        next = LastSession(folder.path().string());
+      });
+  EXPECT_GT(failures, 50);
+}
+
 TEST_F(KeptSession, IsNotReadBackToSeeThatItWas) {
   const auto allocations = [](const std::function<void()>& attempt) {
     return withFailingMemory(std::numeric_limits<long>::max(), false, attempt);

@@ -95,17 +95,16 @@ Insertion functionInsertion(std::string_view name, std::string_view selected) {
 }
 
 bool acceptEdited(Program& program, char letter, std::int32_t colour, const GraphFields& fields) {
-  const GraphTable before = program.graphs;
+  GraphTable changed = program.graphs;
   std::string message;
-  const Accepted accepted =
-      acceptGraph(program.graphs, program.engine, letter, colour, fields, message);
+  const Accepted accepted = acceptGraph(changed, program.engine, letter, colour, fields, message);
   if (accepted == Accepted::refused_full)
     ShowAttention(program.services.boxes, message);
   else if (accepted == Accepted::refused)
     ReportError(program.services.boxes, message);
   if (accepted != Accepted::stored) return false;
-  recordChange(program, before);
   program.params.set("nombre", std::string(1, letter));
+  changeGraphs(program, changed);
   return true;
 }
 
