@@ -65,7 +65,7 @@ int run(int& argument_count, char** arguments) {
   const zel::StartStep step = zel::startProgram(program);
   if (step == zel::StartStep::ended) return EXIT_FAILURE;
   zel::Forms forms(program, document);
-  forms.started = [&] { application.failed = [&] { zel::tellUnstableMemory(program); }; };
+  forms.started = [&] { application.failed = [&] { forms.tellFailure(); }; };
   application.quits = [&] { forms.quit(); };
   if (!forms.begin(step)) return EXIT_FAILURE;
   return QApplication::exec();

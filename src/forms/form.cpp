@@ -54,9 +54,13 @@ void Form::showForm() {
   const bool has_size = testAttribute(Qt::WA_Resized);
   takeArguments();
   if (!has_size) growToContents();
+  appear();
+  setAttribute(Qt::WA_Resized, has_size);
+}
+
+void Form::appear() {
   takePlace();
   show();
-  setAttribute(Qt::WA_Resized, has_size);
   raise();
   activateWindow();
 }

@@ -50,6 +50,9 @@ class Form : public QMainWindow, public FormWindow, public FormControls {
   /// Called by showForm before the window is shown: reads FormParams.
   virtual void takeArguments() {}
 
+  /// Shows the window where it stood, in front and active.
+  void appear();
+
   /// Keeps a window that is modal over its caller, where that one has been shown. It appears in the
   /// middle of it where it has no place yet. For takeArguments.
   void layOverCaller();

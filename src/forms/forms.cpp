@@ -1,6 +1,7 @@
 #include "forms/forms.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -16,6 +17,16 @@
 #include "platform/icons/program_icon.h"
 
 namespace zel {
+namespace {
+
+bool isAnyShown() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->isVisible() && qobject_cast<const Form*>(window);
+  });
+}
+
+}  // namespace
 
 Forms::Forms(Program& program, std::string command_line)
     : program_(program), command_line_(std::move(command_line)) {
@@ -42,6 +53,17 @@ void Forms::keep() try {
 void Forms::quit() {
   keep();
   acerca_de_ ? shutDown(program_) : program_.end_process();
+}
+
+void Forms::tellFailure() {
+  showWhatIsThere();
+  tellUnstableMemory(program_);
+}
+
+void Forms::showWhatIsThere() try {
+  isAnyShown() ? datos_ini_->showAnew() : datos_ini_->showForm();
+} catch (const std::bad_alloc&) {
+  if (!isAnyShown()) datos_ini_->show();
 }
 
 void Forms::chooseLanguage() {

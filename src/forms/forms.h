@@ -33,6 +33,10 @@ class Forms {
   /// Ends the program as the main window does, whatever window is shown.
   void quit();
 
+  /// Tells of a later event that was given up, once the main window shows what the program holds:
+  /// the event may have changed that, and not got so far as to show it.
+  void tellFailure();
+
   /// Called when all windows are there: what fails from now on is no failed start.
   std::function<void()> started = [] {};
 
@@ -40,6 +44,9 @@ class Forms {
   /// Keeps the session, and goes on: a logout may still be called off. Does nothing until all
   /// windows are there.
   void keep();
+
+  /// In the main window, which is shown where no other one is.
+  void showWhatIsThere();
 
   void chooseLanguage();
   void finishStart();

@@ -12,15 +12,23 @@ bool fails_for_good = false;
 long fails_at = 0;
 long calls = 0;
 
-bool isFaulty() {
-  if (!is_counting) return false;
+bool isFaulty(const void* caller) {
+  if (!is_counting || !zel::test::may_fail(caller)) return false;
   ++calls;
   return fails_for_good ? calls >= fails_at : calls == fails_at;
+}
+
+void* allocate(std::size_t size, const void* caller) {
+  if (!isFaulty(caller))
+    if (void* const memory = std::malloc(size == 0 ? 1 : size)) return memory;
+  throw std::bad_alloc();
 }
 
 }  // namespace
 
 namespace zel::test {
+
+bool (*may_fail)(const void* caller) = [](const void*) { return true; };
 
 long withFailingMemory(long first, bool lasts, const std::function<void()>& attempt) {
   fails_at = first;
@@ -45,11 +53,9 @@ long failEachAllocation(bool lasts, const std::function<void()>& attempt,
 
 }  // namespace zel::test
 
-void* operator new(std::size_t size) {
-  if (!isFaulty())
-    if (void* const memory = std::malloc(size == 0 ? 1 : size)) return memory;
-  throw std::bad_alloc();
-}
+void* operator new(std::size_t size) { return allocate(size, __builtin_return_address(0)); }
+/// The library's own would return to the library, whoever calls it.
+void* operator new[](std::size_t size) { return allocate(size, __builtin_return_address(0)); }
 
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

@@ -4,6 +4,9 @@
 
 namespace zel::test {
 
+/// Which calls may fail, by the address that they return to; all of them at first.
+extern bool (*may_fail)(const void* caller);
+
 /// Runs an attempt in which operator new fails from its first-th call on (from 1), once or for
 /// good. Returns the number of the calls; fewer than `first` when none has failed.
 long withFailingMemory(long first, bool lasts, const std::function<void()>& attempt);

@@ -12,6 +12,13 @@
 /// Qt for tests. It is all in this header: a build without Qt has nothing to leave out.
 namespace zel::test {
 
+/// Makes the application of a test program that needs another one than Qt's own. Set before the
+/// first use.
+using ApplicationMaker = std::unique_ptr<QApplication> (*)(int& argument_count, char** arguments);
+inline ApplicationMaker application_maker = [](int& argument_count, char** arguments) {
+  return std::make_unique<QApplication>(argument_count, arguments);
+};
+
 /// Fails the running test for every warning of Qt that it has not announced, and for every
 /// announced one that did not come.
 class QtSession : public ::testing::EmptyTestEventListener {
@@ -20,7 +27,7 @@ class QtSession : public ::testing::EmptyTestEventListener {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     before_ = qInstallMessageHandler(&QtSession::handle);
     running() = this;
-    application_ = std::make_unique<QApplication>(argument_count_, arguments_);
+    application_ = application_maker(argument_count_, arguments_);
   }
 
   QApplication& application() { return *application_; }

@@ -223,8 +223,15 @@ void frmExportar::cmdGuardar_Click() {
   if (is_saving_) return;
   const int mine = ++wanted_;
   const QPointer<QWidget> focus = focusWidget();
-  setSaving(true);
-  const bool written = exportPicture(program(), opened_, choice(), watch(mine));
+  bool written = false;
+  try {
+    setSaving(true);
+    written = exportPicture(program(), opened_, choice(), watch(mine));
+  } catch (...) {  // for want of memory: it can be saved again
+    setSaving(false);
+    draws_soon_.start();
+    throw;
+  }
   setSaving(false);
   if (focus) focus->setFocus();
   if (written)

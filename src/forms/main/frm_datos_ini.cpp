@@ -111,16 +111,20 @@ MainView frmDatosIni::fields() const {
   return view;
 }
 
+/// Boxes that hold the text already keep their own undo.
 void frmDatosIni::setFields(const MainView& view) {
-  txtRanXi_->setText(toQt(view.xi));
-  txtRanXf_->setText(toQt(view.xf));
-  txtRanYi_->setText(toQt(view.yi));
-  txtRanYf_->setText(toQt(view.yf));
+  const auto fill = [](QLineEdit& box, const std::string& text) {
+    if (const QString wanted = toQt(text); wanted != box.text()) box.setText(wanted);
+  };
+  fill(*txtRanXi_, view.xi);
+  fill(*txtRanXf_, view.xf);
+  fill(*txtRanYi_, view.yi);
+  fill(*txtRanYf_, view.yf);
+  fill(*txtEscalaX_, view.escala_x);
+  fill(*txtEscalaY_, view.escala_y);
   Slider1_->setValue(view.definicion);
   Slider1_Change();
   actProporcional(view.proporcional);
-  txtEscalaX_->setText(toQt(view.escala_x));
-  txtEscalaY_->setText(toQt(view.escala_y));
 }
 
 void frmDatosIni::openPath(const std::string& path) {
@@ -130,18 +134,21 @@ void frmDatosIni::openPath(const std::string& path) {
 }
 
 void frmDatosIni::showDocument(const MainView& view, bool is_new) {
-  if (view != fields()) setFields(view);
+  setFields(view);  // first: what fails of the rest is shown anew
+  showAnew();
+  if (is_new) listaG_->selectFirst();
+}
+
+void frmDatosIni::showAnew() {
   updateTitle();
   updateList();
-  if (is_new) listaG_->selectFirst();
 }
 
 void frmDatosIni::mNuevo_Click() {
   newDocument(program(), fields());
   for (QLineEdit* box : {txtRanXi_, txtRanXf_, txtRanYi_, txtRanYf_}) box->clear();
   fillRangeBoxes();
-  updateTitle();
-  updateList();
+  showAnew();
 }
 
 void frmDatosIni::mAbrir_Click() {
@@ -213,7 +220,12 @@ PlotFields frmDatosIni::plotFields() const {
 void frmDatosIni::CmdGraficarLista_Click() {
   if (!preparePlot(program(), plotFields(), this)) return;
   hide();
-  targets_.plot->showForm();
+  try {
+    targets_.plot->showForm();
+  } catch (...) {  // for want of memory: there is no other window
+    appear();
+    throw;
+  }
 }
 
 void frmDatosIni::Slider1_Change() {

@@ -47,6 +47,9 @@ class frmDatosIni : public Form {
   /// Double quotes are taken out of it.
   void openCommandLine(std::string command_line);
 
+  /// Shows the title and the graphs that the program holds.
+  void showAnew();
+
   /// Keeps the declarations for the next session.
   void keepSession();
 
@@ -107,8 +110,8 @@ class frmDatosIni : public Form {
   PlotFields plotFields() const;
   void setFields(const MainView& view);
   void fillRangeBoxes();
-  /// The boxes, the title and the list after another document may have come; boxes that stay as
-  /// they are keep their own undo. The first row of a new document is selected.
+  /// The boxes, the title and the list after another document may have come. The first row of a new
+  /// document is selected.
   void showDocument(const MainView& view, bool is_new);
   void openPath(const std::string& path);
   void openRecentPath(const std::string& path);

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <vector>
 
 #include "forms/form.h"
 #include "forms/graph_swatch.h"
@@ -41,11 +42,13 @@ void GraphList::listGraphs(const GraphTable& graphs) {
   const QTreeWidgetItem* current = currentItem();
   const char current_letter = current ? letterOf(*current) : '\0';
   const int place = selected.empty() ? -1 : indexOfTopLevelItem(selectedItems().constFirst());
-  clear();
+  std::vector<std::unique_ptr<QTreeWidgetItem>> rows;
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const GraphDef& def = *graphs.slot(letter);
-    if (def.defined) addRow(def);
+    if (def.defined) rows.push_back(makeRow(def));
   }
+  clear();  // after all that needs memory
+  for (auto& row : rows) addTopLevelItem(row.release());
   hint_->setVisible(topLevelItemCount() == 0);
   resizeColumnToContents(kName);
   resizeColumnToContents(kKind);
@@ -60,8 +63,8 @@ void GraphList::listGraphs(const GraphTable& graphs) {
     selectRows({topLevelItem(std::min(place, topLevelItemCount() - 1))});
 }
 
-void GraphList::addRow(const GraphDef& def) {
-  auto* item = new QTreeWidgetItem(this);
+std::unique_ptr<QTreeWidgetItem> GraphList::makeRow(const GraphDef& def) const {
+  auto item = std::make_unique<QTreeWidgetItem>();
   item->setText(kName, QString(QChar::fromLatin1(def.nombre)));
   item->setIcon(kName, graphSwatch(def.color, SwatchLook::rounded));
   QFont bold = font();
@@ -70,6 +73,7 @@ void GraphList::addRow(const GraphDef& def) {
   item->setText(kKind, kindCaption(def.tipo));
   item->setText(kText, listedText(def));
   item->setToolTip(kText, listedTip(def));
+  return item;
 }
 
 void GraphList::applyLanguage(const GraphTable& graphs) {

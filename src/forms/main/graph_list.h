@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeWidget>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -38,7 +39,7 @@ class GraphList : public QTreeWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void addRow(const GraphDef& def);
+  std::unique_ptr<QTreeWidgetItem> makeRow(const GraphDef& def) const;
   void selectRows(const QList<QTreeWidgetItem*>& rows);
 
   QLabel* hint_;

@@ -113,8 +113,8 @@ void frmGrafico::openPrint() {
 void frmGrafico::returnToMain() { leave(session_.view()); }
 
 void frmGrafico::leave(const ViewSettings& view) {
-  session_.close();
   handViewOver(program().params, view, this);
+  session_.close();
   returnToCaller();
 }
 
