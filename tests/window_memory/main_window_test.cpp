@@ -21,7 +21,6 @@ class MainWindowInWantOfMemory : public WindowsInWantOfMemory {
     view.escala_x = "2";
     view.definicion = 50;
     newer_ = documentText(view, graphs);
-    putBytes("newer.zel", newer_);
     path_ = absolutePath("the name of a document that needs memory.zel");
   }
 
