@@ -17,7 +17,7 @@ class MainWindowInWantOfMemory : public WindowsInWantOfMemory {
     graphs.rebuildGraph('b', "cos(x)+" + std::string(40, '3'), "", 255, 'F', nullptr);
     graphs.rebuildGraph('d', "x+P+" + std::string(40, '4'), "", 0, 'Z', NewDictionary());
     MainView view;
-    view.xi = "-7";
+    view.xi = "-7,000000000000000";
     view.escala_x = "2";
     view.definicion = 50;
     newer_ = documentText(view, graphs);

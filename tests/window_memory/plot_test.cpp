@@ -41,7 +41,9 @@ class PlotWindowInWantOfMemory : public WindowsInWantOfMemory {
 };
 
 TEST_F(PlotWindowInWantOfMemory, IsOpenedAndDrawnOrNotAtAll) {
-  const auto held = [this] { return plot().isVisible() ? "shown " + place() : std::string(); };
+  const auto held = [this] {
+    return plot().isVisible() ? "shown " + place() : text(mainWindow(), "txtRanXi");
+  };
   EXPECT_GT(expectDoneOrTold({[this] {
                                 leave();
                                 putDocument();

@@ -121,8 +121,9 @@ void WindowsInWantOfMemory::putDocument() {
   addFunction('c', "sen(x)*" + std::string(40, '2'));
   program.params = makeFormParams();
   for (const auto& [box, text] :
-       {std::pair("txtRanXi", "-5"), std::pair("txtRanXf", "5"), std::pair("txtRanYi", "-5"),
-        std::pair("txtRanYf", "5"), std::pair("txtEscalaX", "1"), std::pair("txtEscalaY", "1")})
+       {std::pair("txtRanXi", "-5,000000000000000"), std::pair("txtRanXf", "5"),
+        std::pair("txtRanYi", "-5"), std::pair("txtRanYf", "5"), std::pair("txtEscalaX", "1"),
+        std::pair("txtEscalaY", "1")})
     control<QLineEdit>(mainWindow(), box).setText(text);
   control<QSlider>(mainWindow(), "Slider1").setValue(100);
   dynamic_cast<FormWindow&>(mainWindow()).showForm();

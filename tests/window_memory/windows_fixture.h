@@ -52,7 +52,7 @@ class WindowsInWantOfMemory : public WindowTest {
   void choose(QWidget& window, const char* name);
   void click(QWidget& window, const char* name);
 
-  /// Graphs of several kinds whose texts need memory, and a view, in no document.
+  /// Graphs and a view whose texts need memory, in no document.
   void putDocument();
   /// The view, the graphs, the document's name, path and header, and the way back.
   std::string document();
