@@ -45,4 +45,8 @@ enum class NewFile { as_any_other, for_its_user_alone };
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes,
                            NewFile new_file = NewFile::as_any_other);
 
+/// What a write would fail at now, before there are bytes to be written: the system's number, or 0
+/// where it would begin. The file is not touched; a temporary one comes and goes in its folder.
+int obstacleToWriting(const std::string& path);
+
 }  // namespace zel

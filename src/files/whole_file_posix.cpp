@@ -157,14 +157,17 @@ mode_t modeOf(NewFile file) {
   return file == NewFile::for_its_user_alone ? kHiddenMode : kModeOfNewFile;
 }
 
+/// What a file is to hold; nothing where a write is only tried.
+using Content = std::optional<std::string_view>;
+
 /// `old` is null where there is no file yet, which gets `mode` then. Returns 0 or the error.
-int replaceFile(const std::string& path, std::string_view bytes, const struct stat* old,
-                mode_t mode) {
+int replaceFile(const std::string& path, Content bytes, const struct stat* old, mode_t mode) {
   const std::string folder = folderOf(path);
   removeLeftovers(path);
   TemporaryFile file(folder, old == nullptr ? mode : kHiddenMode);
   int error = file.error();
-  if (error == 0) error = writeAll(file.number(), bytes);
+  if (!bytes) return error;
+  if (error == 0) error = writeAll(file.number(), *bytes);
   if (error == 0) error = old == nullptr ? file.unhide() : takeAfter(file.number(), path, *old);
   if (error == 0) error = file.finish();
   if (error == 0) error = file.renameTo(path);
@@ -175,13 +178,13 @@ int replaceFile(const std::string& path, std::string_view bytes, const struct st
 WriteResult resultOf(bool existed, int error) { return {existed, error == 0, error}; }
 
 /// A link that leads nowhere is there: its target is not made.
-WriteResult writeNewFile(const std::string& path, std::string_view bytes, NewFile file) {
+WriteResult writeNewFile(const std::string& path, Content bytes, NewFile file) {
   struct stat link {};
   if (::lstat(path.c_str(), &link) == 0) return resultOf(false, ENOENT);
   return resultOf(false, replaceFile(path, bytes, nullptr, modeOf(file)));
 }
 
-WriteResult replaceTarget(const std::string& path, std::string_view bytes) {
+WriteResult replaceTarget(const std::string& path, Content bytes) {
   const auto target = followLinks(path);
   if (!target) return resultOf(true, ELOOP);
   struct stat old {};
@@ -197,13 +200,22 @@ WriteResult replaceTarget(const std::string& path, std::string_view bytes) {
   return resultOf(true, replaceFile(*target, bytes, &old, kHiddenMode));
 }
 
-WriteResult writeAnyFile(const std::string& path, std::string_view bytes, NewFile file) {
+WriteResult writeAnyFile(const std::string& path, Content bytes, NewFile file) {
   struct stat old {};
   if (::stat(path.c_str(), &old) != 0)
     return errno == ENOENT ? writeNewFile(path, bytes, file) : resultOf(false, errno);
   if (S_ISDIR(old.st_mode)) return resultOf(false, EISDIR);
   if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
   return replaceTarget(path, bytes);
+}
+
+WriteResult writeOrTry(const std::string& path, Content bytes, NewFile new_file) {
+  if (!isPath(path)) return resultOf(false, path.empty() ? ENOENT : EINVAL);
+  try {
+    return writeAnyFile(path, bytes, new_file);
+  } catch (const std::bad_alloc&) {  // before the new file has its place
+    return resultOf(fileExists(path), ENOMEM);
+  }
 }
 
 /// A regular file, open for reading; nothing else is waited for, nor even opened where that can be
@@ -256,12 +268,11 @@ std::optional<std::string> readWholeFile(const std::string& path) {
 }
 
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes, NewFile new_file) {
-  if (!isPath(path)) return resultOf(false, path.empty() ? ENOENT : EINVAL);
-  try {
-    return writeAnyFile(path, bytes, new_file);
-  } catch (const std::bad_alloc&) {  // before the new file has its place
-    return resultOf(fileExists(path), ENOMEM);
-  }
+  return writeOrTry(path, bytes, new_file);
+}
+
+int obstacleToWriting(const std::string& path) {
+  return writeOrTry(path, std::nullopt, NewFile::as_any_other).error;
 }
 
 }  // namespace zel

@@ -169,11 +169,15 @@ class TemporaryFile {
   File hold_{INVALID_HANDLE_VALUE};
 };
 
-DWORD replaceFile(const WriteTarget& target, std::string_view bytes) {
+/// What a file is to hold; nothing where a write is only tried.
+using Content = std::optional<std::string_view>;
+
+DWORD replaceFile(const WriteTarget& target, Content bytes) {
   removeLeftovers(target.path);
   TemporaryFile file(target);
   DWORD error = file.error();
-  if (error == NO_ERROR) error = writeAll(file.handle(), bytes);
+  if (!bytes) return error;
+  if (error == NO_ERROR) error = writeAll(file.handle(), *bytes);
   if (error == NO_ERROR) error = file.finish();
   if (error == NO_ERROR) error = file.moveTo(target.path);
   return error;
@@ -183,7 +187,7 @@ WriteResult resultOf(bool existed, DWORD error) {
   return {existed, error == NO_ERROR, static_cast<int>(error)};
 }
 
-WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
+WriteResult writeAnyFile(const std::string& path, Content bytes) {
   const WidePath wide(path);
   if (wide.isEmpty()) return resultOf(false, ERROR_INVALID_NAME);
   const DWORD attributes = GetFileAttributesW(wide.c_str());
@@ -195,6 +199,14 @@ WriteResult writeAnyFile(const std::string& path, std::string_view bytes) {
   WriteTarget target;
   const DWORD error = findTarget(wide, target);
   return resultOf(true, error == NO_ERROR ? replaceFile(target, bytes) : error);
+}
+
+WriteResult writeOrTry(const std::string& path, Content bytes) {
+  try {
+    return writeAnyFile(path, bytes);
+  } catch (const std::bad_alloc&) {  // before the new file has its place
+    return resultOf(fileExists(path), ERROR_NOT_ENOUGH_MEMORY);
+  }
 }
 
 std::optional<std::string> readAll(HANDLE handle) {
@@ -249,11 +261,9 @@ std::optional<std::string> readWholeFile(const std::string& path) {
 }
 
 WriteResult writeWholeFile(const std::string& path, std::string_view bytes, NewFile) {
-  try {
-    return writeAnyFile(path, bytes);
-  } catch (const std::bad_alloc&) {  // before the new file has its place
-    return resultOf(fileExists(path), ERROR_NOT_ENOUGH_MEMORY);
-  }
+  return writeOrTry(path, bytes);
 }
+
+int obstacleToWriting(const std::string& path) { return writeOrTry(path, std::nullopt).error; }
 
 }  // namespace zel

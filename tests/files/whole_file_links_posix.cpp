@@ -111,6 +111,13 @@ TEST_F(WholeFileOnPosix, FailsAtALinkToAFolder) {
   EXPECT_TRUE(fs::is_symlink(folder / "here"));
 }
 
+TEST_F(WholeFileOnPosix, HasAnObstacleInANameThatIsTooLongAndInALinkThatLeadsNowhere) {
+  EXPECT_EQ(obstacleToWriting(folder / std::string(300, 'n')), ENAMETOOLONG);
+  link("gone", "nowhere");
+  EXPECT_EQ(obstacleToWriting(folder / "nowhere"), ENOENT);
+  EXPECT_EQ(folder.names(), std::set<std::string>{"nowhere"});
+}
+
 TEST_F(WholeFileOnPosix, KeepsThePermissions) {
   for (const mode_t mode : {0600u, 0644u, 0664u, 0640u, 0666u, 0755u, 0200u}) {
     putBytes(path, "old");
@@ -158,6 +165,7 @@ TEST_F(WholeFileOnPosix, RefusesAFileWithoutWritePermission) {
   fs::permissions(folder.path(), fs::perms::all);
   ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
   EXPECT_EQ(writeAsNobody(path), kExisted);
+  EXPECT_EQ(asNobody([&] { return obstacleToWriting(path); }), EACCES);
   EXPECT_EQ(bytesOf(path), "old");
   EXPECT_EQ(folder.names(), std::set<std::string>{"file"});
 }
@@ -168,6 +176,8 @@ TEST_F(WholeFileOnPosix, RefusesAFolderWithoutWritePermission) {
   fs::permissions(folder.path(), fs::perms(0555));
   EXPECT_EQ(writeAsNobody(path), kExisted);
   EXPECT_EQ(writeAsNobody(folder / "other"), 0);
+  EXPECT_EQ(asNobody([&] { return obstacleToWriting(path); }), EACCES);
+  EXPECT_EQ(asNobody([&] { return obstacleToWriting(folder / "other"); }), EACCES);
   EXPECT_EQ(asNobody([&] { return createMissingFile(folder / "other") ? 1 : 0; }), 0);
   fs::permissions(folder.path(), fs::perms::all);
   EXPECT_EQ(bytesOf(path), "old");

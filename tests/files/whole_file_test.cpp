@@ -111,6 +111,26 @@ TEST_F(WholeFile, GivesTheSystemsErrorOfAWriteThatFailed) {
     EXPECT_NE(writeWholeFile(bad, "y").error, 0) << bad;
 }
 
+TEST_F(WholeFile, HasNoObstacleWhereItCanBeWrittenAndIsNotTouched) {
+  EXPECT_EQ(obstacleToWriting(path), 0);
+  EXPECT_EQ(folder.names(), std::set<std::string>{});
+  putBytes(path, "old");
+  EXPECT_EQ(obstacleToWriting(path), 0);
+  EXPECT_EQ(bytesOf(path), "old");
+  EXPECT_EQ(folder.names(), std::set<std::string>{"file.bin"});
+}
+
+TEST_F(WholeFile, HasTheObstacleThatAWriteFailsAt) {
+  putBytes(path, "x");
+  for (const std::string& bad :
+       {folder.path().string(), folder.path().string() + "/", path + "/below", path + "/",
+        folder / "missing/file", std::string(), path + std::string("\0y", 2)}) {
+    EXPECT_NE(obstacleToWriting(bad), 0) << bad;
+    EXPECT_EQ(obstacleToWriting(bad), writeWholeFile(bad, "y").error) << bad;
+  }
+  EXPECT_EQ(folder.names(), std::set<std::string>{"file.bin"});
+}
+
 TEST_F(WholeFile, IsNotTakenForAnotherByAPathThatHoldsAZero) {
   putBytes(path, "x");
   const std::string bad = path + std::string("\0y", 2);

@@ -54,20 +54,18 @@ ExportedSize exportedSize(const ExportChoice& choice) {
   return {scaled(choice.width, unit), scaled(choice.height, unit), in_pixels};
 }
 
-bool exportPicture(const Program& program, const OpenedView& opened, const ExportChoice& choice,
-                   const DrawingWatcher& goes_on) {
-  const Services& services = program.services;
-  const auto path =
-      services.files.askSave(filterFor(choice.ending), besideDocument(program, choice.ending));
-  if (!path) return false;
+ExportResult exportPicture(const Program& program, const OpenedView& opened,
+                           const ExportChoice& choice, const DrawingWatcher& goes_on) {
+  const auto path = program.services.files.askSave(filterFor(choice.ending),
+                                                   besideDocument(program, choice.ending));
+  if (!path) return {};
+  if (const int obstacle = obstacleToWriting(*path)) return {false, saveFailure(obstacle)};
   const std::string format = formatOf(*path, choice.ending);
   const PictureFile file =
       draw(program, {format, choice.width, choice.height, opened, choice.scale}, goes_on);
-  ShowAttention(services.boxes, Localize(file.message));
-  if (file.bytes.empty()) return false;
+  if (file.bytes.empty()) return {false, Localize(file.message)};
   const WriteResult result = writeWholeFile(*path, file.bytes);
-  if (!result.written) ShowAttention(services.boxes, saveFailure(result.error));
-  return result.written;
+  return {result.written, result.written ? "" : saveFailure(result.error)};
 }
 
 RedrawOutcome previewPicture(const Program& program, const OpenedView& opened,

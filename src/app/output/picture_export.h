@@ -38,11 +38,16 @@ struct ExportedSize {
 
 ExportedSize exportedSize(const ExportChoice& choice);
 
+struct ExportResult {
+  bool written = false;
+  std::string message;  // what went wrong, in the user's language; none where nothing did
+};
+
 /// Asks for the file and writes the picture into it as `zel-cli render` does, whole or not at all.
-/// The file's ending decides its format where it is one of ours. What went wrong is told. True when
-/// the file is written.
-bool exportPicture(const Program& program, const OpenedView& opened, const ExportChoice& choice,
-                   const DrawingWatcher& goes_on);
+/// The file's ending decides its format where it is one of ours. Nothing is drawn for a file that
+/// cannot be written.
+ExportResult exportPicture(const Program& program, const OpenedView& opened,
+                           const ExportChoice& choice, const DrawingWatcher& goes_on);
 
 /// Draws the same on a picture of the size, for a look at it before. The program's own engine is
 /// not touched.

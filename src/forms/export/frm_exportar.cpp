@@ -15,6 +15,7 @@
 #include <QSpinBox>
 #include <algorithm>
 
+#include "app/messages.h"
 #include "app/plot_arguments.h"
 #include "base/language.h"
 #include "forms/export/picture_preview.h"
@@ -223,10 +224,10 @@ void frmExportar::cmdGuardar_Click() {
   if (is_saving_) return;
   const int mine = ++wanted_;
   const QPointer<QWidget> focus = focusWidget();
-  bool written = false;
+  ExportResult result;
   try {
     setSaving(true);
-    written = exportPicture(program(), opened_, choice(), watch(mine));
+    result = exportPicture(program(), opened_, choice(), watch(mine));
   } catch (...) {  // for want of memory: it can be saved again
     setSaving(false);
     draws_soon_.start();
@@ -234,7 +235,8 @@ void frmExportar::cmdGuardar_Click() {
   }
   setSaving(false);
   if (focus) focus->setFocus();
-  if (written)
+  ShowAttention(program().services.boxes, result.message);
+  if (result.written)
     returnToCaller();
   else
     draws_soon_.start();  // the preview that had to give way

@@ -24,14 +24,20 @@ class Export : public ProgramTest {
     choice.height = 100;
   }
 
+  ExportResult exportWhile(const DrawingWatcher& goes_on) {
+    return exportPicture(program, opened, choice, goes_on);
+  }
   bool exportTo(const std::string& path) {
     services.files.paths = {path};
-    return exportPicture(program, opened, choice, [](const StatusPanels&) { return true; });
+    const ExportResult result = exportWhile([](const StatusPanels&) { return true; });
+    message = result.message;
+    return result.written;
   }
 
   TemporaryFolder folder;
   OpenedView opened;
   ExportChoice choice;
+  std::string message;  // of the last export to a file
 };
 
 TEST_F(Export, WritesTheFormatThatIsChosen) {
@@ -45,7 +51,7 @@ TEST_F(Export, WritesTheFormatThatIsChosen) {
   }
   EXPECT_THAT(services.files.asked, ElementsAre("save PNG (*.png)|*.png", "save SVG (*.svg)|*.svg",
                                                 "save PDF (*.pdf)|*.pdf"));
-  EXPECT_THAT(services.boxes.shown, IsEmpty());
+  EXPECT_EQ(message, "");
 }
 
 TEST_F(Export, ProposesTheDocumentsNameInItsFolder) {
@@ -82,17 +88,19 @@ TEST_F(Export, DrawsTheGraphsAsTheyAreInADocument) {
 }
 
 TEST_F(Export, WritesNothingWhenNoFileIsNamed) {
-  EXPECT_FALSE(exportPicture(program, opened, choice, [](const StatusPanels&) { return true; }));
-  EXPECT_THAT(services.boxes.shown, IsEmpty());
+  const ExportResult result = exportWhile([](const StatusPanels&) { return true; });
+  EXPECT_FALSE(result.written);
+  EXPECT_EQ(result.message, "");
 }
 
 TEST_F(Export, WritesNothingWhenTheDrawingIsGivenUp) {
   putBytes(folder / "a.png", "older");
   services.files.paths = {folder / "a.png"};
-  EXPECT_FALSE(exportPicture(program, opened, choice, [](const StatusPanels&) { return false; }));
+  const ExportResult result = exportWhile([](const StatusPanels&) { return false; });
+  EXPECT_FALSE(result.written);
+  EXPECT_EQ(result.message, "");
   EXPECT_EQ(bytesOf(folder / "a.png"), "older");
   EXPECT_THAT(folder.names(), UnorderedElementsAre("a.png"));
-  EXPECT_THAT(services.boxes.shown, IsEmpty());
 }
 
 /// Exports whose memory, pixels and bytes take several parts each.
@@ -107,11 +115,12 @@ class LargeExport : public Export {
   std::size_t exportWith(const std::string& path, const std::function<void()>& happens) {
     std::size_t moments = 0;
     services.files.paths = {path};
-    EXPECT_TRUE(exportPicture(program, opened, choice, [&](const StatusPanels&) {
+    const ExportResult result = exportWhile([&](const StatusPanels&) {
       ++moments;
       happens();
       return true;
-    }));
+    });
+    EXPECT_TRUE(result.written);
     return moments;
   }
 };
@@ -132,8 +141,7 @@ TEST_F(LargeExport, LeaveTheOlderFileWhereTheyAreGivenUpAtTheirLastMoment) {
   putBytes(folder / "a.png", "older");
   services.files.paths = {folder / "a.png"};
   std::size_t asked = 0;
-  EXPECT_FALSE(exportPicture(program, opened, choice,
-                             [&](const StatusPanels&) { return ++asked < moments; }));
+  EXPECT_FALSE(exportWhile([&](const StatusPanels&) { return ++asked < moments; }).written);
   EXPECT_EQ(bytesOf(folder / "a.png"), "older");
   EXPECT_THAT(folder.names(), UnorderedElementsAre("a.png"));
 }
@@ -151,18 +159,34 @@ TEST_F(LargeExport, AreNotDisturbedByOthersThatBeginInThem) {
 TEST_F(Export, TellsWhyThereIsNoPicture) {
   opened.view.xi = opened.view.xf = 1;
   EXPECT_FALSE(exportTo(folder / "a.png"));
+  const std::string spanish = message;
+  EXPECT_NE(spanish, "");
   SetCurrentLanguage("EN");
   EXPECT_FALSE(exportTo(folder / "a.png"));
-  ASSERT_EQ(services.boxes.shown.size(), 2u);
-  EXPECT_NE(services.boxes.shown[0].text, services.boxes.shown[1].text);
+  EXPECT_NE(message, "");
+  EXPECT_NE(message, spanish);
   EXPECT_THAT(folder.names(), IsEmpty());
 }
 
-TEST_F(Export, TellsThatTheFileCannotBeWritten) {
+TEST_F(LargeExport, DrawNothingForAFileThatCannotBeWritten) {
   SetCurrentLanguage("EN");
-  EXPECT_FALSE(exportTo(folder / "missing/a.png"));
-  ASSERT_EQ(services.boxes.shown.size(), 1u);
-  EXPECT_THAT(services.boxes.shown[0].text, StartsWith("Error: Cannot save"));
+  services.files.paths = {folder / "missing/a.png"};
+  bool was_asked = false;
+  const ExportResult result = exportWhile([&](const StatusPanels&) { return was_asked = true; });
+  EXPECT_FALSE(was_asked);
+  EXPECT_FALSE(result.written);
+  EXPECT_THAT(result.message, StartsWith("Error: Cannot save"));
+}
+
+TEST_F(LargeExport, TellThatTheFileCannotBeWrittenAnyMore) {
+  std::filesystem::create_directory(folder / "sub");
+  services.files.paths = {folder / "sub/a.png"};
+  const ExportResult result = exportWhile([&](const StatusPanels&) {
+    std::filesystem::remove(folder / "sub");
+    return true;
+  });
+  EXPECT_FALSE(result.written);
+  EXPECT_THAT(result.message, StartsWith("Error: No se pudo salvar"));
 }
 
 TEST_F(Export, TellsTheSizeInPixelsOrOnPaper) {

@@ -28,7 +28,8 @@ class RenderedAndExported : public CliTest {
     EXPECT_TRUE(preparePlot(program, fields, nullptr));
     services.files.paths = {path("window." + ending)};
     EXPECT_TRUE(exportPicture(program, {viewIn(program.params), program.marks},
-                              {ending, 420, 300, 1}, [](const StatusPanels&) { return true; }));
+                              {ending, 420, 300, 1}, [](const StatusPanels&) { return true; })
+                    .written);
     return bytesOf(path("window." + ending));
   }
 

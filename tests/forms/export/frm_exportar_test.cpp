@@ -3,7 +3,9 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QSpinBox>
+#include <QThread>
 #include <array>
+#include <filesystem>
 #include <functional>
 
 #include <gmock/gmock.h>
@@ -228,6 +230,8 @@ TEST_F(ExportWindow, EndsTheDrawingOfAFileThatIsCancelledAndWritesNothing) {
 /// A file whose memory, drawing and compression take several looks at pending events.
 class LargeFileInTheExportWindow : public ExportWindow {
  protected:
+  static constexpr int kLongEnoughToBeTold = 400;  // milliseconds
+
   /// Saves, and does something at each moment in which pending events run.
   template <class Deed>
   void saveWith(const char* file, const Deed& deed) {
@@ -259,6 +263,23 @@ TEST_F(LargeFileInTheExportWindow, IsCancelledAtAnyMoment) {
   }
   EXPECT_EQ(QImage("a.png").size(), QSize(3000, 3000)) << "the one that was done before its moment";
   EXPECT_THAT(services.boxes.shown, IsEmpty());
+}
+
+TEST_F(LargeFileInTheExportWindow, SaysNoLongerThatItIsSavedWhenItIsToldThatItWasNot) {
+  std::filesystem::create_directory("sub");
+  const auto state = [this] { return fromQt(control<QLabel>(window, "LblEstado").text()); };
+  std::string beside_the_message = "?";
+  services.boxes.on_show = [&](const FakeMessageBoxes::Box&) { beside_the_message = state(); };
+  saveWith("sub/a.png", [&] {
+    if (state().empty())
+      QThread::msleep(kLongEnoughToBeTold);
+    else
+      std::filesystem::remove("sub");
+  });
+  EXPECT_EQ(services.boxes.shown.size(), 1u);
+  EXPECT_EQ(beside_the_message, "");
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_TRUE(save().isEnabled());
 }
 
 TEST_F(LargeFileInTheExportWindow, LeavesTheFocusWhereItWasWhenItIsCancelled) {
