@@ -1,6 +1,7 @@
 #include "pictures/file_picture.h"
 
 #include <cmath>
+#include <exception>
 #include <new>
 #include <utility>
 
@@ -27,17 +28,28 @@ class SvgFile : public FilePicture {
   SvgPicture picture_;
 };
 
+/// Leaves the making of a picture that nobody waits for any more.
+class GivenUp : public std::exception {};
+
 class PngFile : public FilePicture {
  public:
   PngFile(int width, int height, double scale, GoesOn goes_on)
       : goes_on_(std::move(goes_on)),
-        picture_(scaled(width, scale), scaled(height, scale), scale, [this] { goes_on_(); }) {}
+        picture_(scaled(width, scale), scaled(height, scale), scale, [this] { pause(); }) {
+    is_made_ = true;
+  }
 
   Picture& picture() override { return picture_; }
   std::string bytes() override { return writePng(picture_.finish(), goes_on_); }
 
  private:
+  /// A drawing on it ends by itself.
+  void pause() {
+    if (!goes_on_() && !is_made_) throw GivenUp();
+  }
+
   GoesOn goes_on_;
+  bool is_made_ = false;
   RasterPicture picture_;
 };
 
@@ -67,6 +79,8 @@ std::unique_ptr<FilePicture> makeFilePicture(std::string_view ending, int width,
   if (ending == "pdf") return std::make_unique<PdfFile>(width, height, scale);
   return nullptr;
 } catch (const std::bad_alloc&) {
+  return nullptr;
+} catch (const GivenUp&) {
   return nullptr;
 }
 

@@ -27,8 +27,8 @@ bool canMakePicture(std::string_view ending);
 /// A picture of a size in pixels of 15 twips in the format of a file's ending, so many times as
 /// large as that when it is shown: a PNG file has more pixels then, the lines of the others are the
 /// same. Null for any other ending, and when there is not memory enough. What takes long of a PNG
-/// file, from here to its bytes, asks now and then whether it goes on; only the making of the bytes
-/// is given up when it does not.
+/// file, from here to its bytes, asks now and then whether it goes on. Where it does not, there is
+/// no picture, or there are no bytes of it; whoever draws on it meanwhile gives that up.
 std::unique_ptr<FilePicture> makeFilePicture(
     std::string_view ending, int width, int height, double scale = 1,
     GoesOn goes_on = [] { return true; });

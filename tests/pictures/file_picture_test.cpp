@@ -78,8 +78,20 @@ TEST(FilePicture, AsksWhileAPngIsMadeReadyAndMadeWhetherItGoesOn) {
   EXPECT_TRUE(bytes == silent->bytes());
 }
 
+TEST(FilePicture, IsNotMadeWhereThatIsGivenUpWhileItsMemoryIsHandedOver) {
+  int asked = 0;
+  EXPECT_NE(makeFilePicture("png", 2000, 1000, 1, [&] { return ++asked > 0; }), nullptr);
+  for (int last = 1; last <= asked; ++last) {
+    int looks = 0;
+    EXPECT_EQ(makeFilePicture("png", 2000, 1000, 1, [&] { return ++looks < last; }), nullptr);
+    EXPECT_EQ(looks, last) << "it ends at once";
+  }
+}
+
 TEST(FilePicture, HasNoBytesWhereTheyAreGivenUp) {
-  const auto file = makeFilePicture("png", 2000, 1000, 1, [] { return false; });
+  bool goes_on = true;
+  const auto file = makeFilePicture("png", 2000, 1000, 1, [&] { return goes_on; });
+  goes_on = false;
   draw(file->picture());
   EXPECT_EQ(file->bytes(), "");
 }
