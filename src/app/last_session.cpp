@@ -20,15 +20,27 @@ namespace fs = std::filesystem;
 
 constexpr const char* kSessionFile = "session.zel";
 
+fs::path pathOf(const std::string& name) { return {std::u8string(name.begin(), name.end())}; }
+
 /// What is the user's own state is nobody else's to read.
 bool makeFolder(const std::string& folder) {
   try {
-    const fs::path path(std::u8string(folder.begin(), folder.end()));
+    const fs::path path = pathOf(folder);
     std::error_code error;
     if (fs::create_directories(path, error)) fs::permissions(path, fs::perms::owner_all, error);
     return !error;
   } catch (const std::bad_alloc&) {
     return false;
+  }
+}
+
+/// An older file, whose permissions the next one takes over, may have been made for others too.
+void hideFromOthers(const std::string& file) {
+  try {
+    std::error_code error;
+    fs::permissions(pathOf(file), fs::perms::group_all | fs::perms::others_all,
+                    fs::perm_options::remove, error);
+  } catch (const std::bad_alloc&) {
   }
 }
 
@@ -48,6 +60,7 @@ void LastSession::keep(const MainView& view, const GraphTable& graphs) {
   if (path_.empty() || graphs.count() < 1 || isDocument(kept_, view, graphs)) return;
   std::string().swap(kept_);  // its memory is free before that of the new bytes is needed
   if (!makeFolder(folder_)) return;
+  hideFromOthers(path_);
   auto bytes = documentBytes(view, graphs);
   if (!bytes || !takePrevious()) return;
   if (writeWholeFile(path_, *bytes, NewFile::for_its_user_alone).written) kept_ = std::move(*bytes);

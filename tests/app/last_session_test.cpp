@@ -155,6 +155,17 @@ TEST_F(SessionBefore, IsForTheUserAloneInAFolderThatOthersMayEnter) {
   EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
+TEST_F(SessionBefore, IsForTheUserAloneWhereTheFileWasForOthersToo) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the file takes its rights from the folder";
+#endif
+  namespace fs = std::filesystem;
+  leave("x");
+  fs::permissions(file, fs::perms(0644));
+  leave("x");
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
 TEST_F(SessionBefore, CostsNothingWhenItCannotBeRead) {
   for (const char* text : {"", "something else", "versiones_compatibles=2.0\r\n[PRINCIPAL]"}) {
     std::filesystem::create_directories(folder);
