@@ -3,23 +3,42 @@
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
+#include <vector>
+
+#include <pwd.h>
+#include <unistd.h>
 
 namespace zel {
 namespace {
 
-/// Without the "/" at its end; empty for the root and for what does not begin there.
-std::string absoluteFolder(const char* variable) {
-  const char* const value = std::getenv(variable);
-  std::string folder = value == nullptr || *value != '/' ? "" : value;
+bool isFromTheRoot(const char* folder) { return folder != nullptr && *folder == '/'; }
+
+std::string withoutSlashes(std::string folder) {
   folder.erase(folder.find_last_not_of('/') + 1);
   return folder;
+}
+
+/// The home of the user's entry among those of the system; the root without one.
+std::string homeOfEntry() {
+  constexpr std::size_t kLongestEntry = 1 << 16;
+  std::vector<char> texts(kLongestEntry);
+  passwd entry{};
+  passwd* found = nullptr;
+  const bool is_read = ::getpwuid_r(::getuid(), &entry, texts.data(), texts.size(), &found) == 0;
+  return is_read && found != nullptr && isFromTheRoot(found->pw_dir) ? found->pw_dir : "/";
+}
+
+std::string home() {
+  const char* const named = std::getenv("HOME");
+  return withoutSlashes(isFromTheRoot(named) ? named : homeOfEntry());
 }
 
 }  // namespace
 
 std::string folderNamedBy(const char* variable, const char* otherwise) {
-  const std::string folder = absoluteFolder(variable);
-  return folder.empty() ? absoluteFolder("HOME") + otherwise : folder;
+  const char* const named = std::getenv(variable);
+  const std::string folder = isFromTheRoot(named) ? withoutSlashes(named) : "";
+  return folder.empty() ? home() + otherwise : folder;
 }
 
 bool makeFolder(const std::string& folder) {

@@ -1,4 +1,8 @@
+#include <string>
+
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include "app/last_session.h"
 #include "files/whole_file.h"
@@ -20,6 +24,23 @@ TEST(StateFolder, LiesInTheUsersHomeWhereTheDesktopNamesNone) {
     const EnvironmentGuard state("XDG_STATE_HOME", name);
     EXPECT_EQ(stateFolder(), "/home/ana/.local/state/zel");
   }
+}
+
+TEST(StateFolder, LiesInTheHomeOfTheUsersEntryWhereTheEnvironmentNamesNone) {
+  const passwd* const entry = ::getpwuid(::getuid());
+  if (entry == nullptr || entry->pw_dir == std::string("/")) GTEST_SKIP() << "the user has no home";
+  const std::string of_entry = entry->pw_dir;
+  const EnvironmentGuard state("XDG_STATE_HOME", nullptr);
+  for (const char* const name : {static_cast<const char*>(nullptr), "", "ana"}) {
+    const EnvironmentGuard home("HOME", name);
+    EXPECT_EQ(stateFolder(), of_entry + "/.local/state/zel");
+  }
+}
+
+TEST(StateFolder, LiesInTheRootForAUserWhoseHomeThatIs) {
+  const EnvironmentGuard home("HOME", "/");
+  const EnvironmentGuard state("XDG_STATE_HOME", nullptr);
+  EXPECT_EQ(stateFolder(), "/.local/state/zel");
 }
 
 TEST(StateFolder, HasTheBytesOfTheEnvironmentWhateverTheyAre) {
