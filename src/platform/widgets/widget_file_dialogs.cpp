@@ -4,8 +4,15 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QListView>
 #include <QPointer>
+#include <QScreen>
+#include <QSplitter>
 #include <QStandardPaths>
+#include <QTreeView>
+#include <algorithm>
 
 #include "platform/widgets/dialog_filter.h"
 #include "platform/widgets/qt_texts.h"
@@ -37,6 +44,35 @@ void begin(QFileDialog& dialog, const std::string& proposal) {
   const bool keeps_name =
       has_folder || (is_whole && dialog.acceptMode() == QFileDialog::AcceptSave);
   if (keeps_name && !file.fileName().isEmpty()) dialog.selectFile(file.fileName());
+}
+
+/// The columns are as wide as what they hold, the longest kinds of files excepted.
+void widenColumns(const QAbstractItemView& list, QHeaderView& header) {
+  const int widest = 30 * list.fontMetrics().averageCharWidth();
+  for (int column = 1; column < header.count(); ++column) {
+    const int wanted = std::max(list.sizeHintForColumn(column), header.sectionSizeHint(column));
+    header.resizeSection(column, std::max(header.sectionSize(column), std::min(wanted, widest)));
+  }
+}
+
+/// The toolkit's own dialog opens too narrow for dates, kinds of files and places in most
+/// languages. It has these parts; a dialog of the desktop has none.
+void giveRoom(QFileDialog& dialog) {
+  auto* const list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  auto* const places = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
+  auto* const splitter = dialog.findChild<QSplitter*>(QStringLiteral("splitter"));
+  const auto* const files = dialog.findChild<QFileSystemModel*>();
+  if (list == nullptr || places == nullptr || splitter == nullptr || files == nullptr) return;
+  const QFontMetrics letters = dialog.fontMetrics();
+  const QSize first(130 * letters.averageCharWidth(), 32 * letters.lineSpacing());
+  dialog.resize(
+      first.expandedTo(dialog.sizeHint()).boundedTo(dialog.screen()->availableSize() * 0.9));
+  const int for_places =
+      std::clamp(places->sizeHintForColumn(0) + 2 * places->frameWidth(),
+                 20 * letters.averageCharWidth(), 40 * letters.averageCharWidth());
+  splitter->setSizes({for_places, dialog.width() - for_places});
+  QObject::connect(files, &QFileSystemModel::directoryLoaded, list,
+                   [list] { widenColumns(*list, *list->header()); });
 }
 
 }  // namespace
@@ -99,6 +135,7 @@ std::optional<std::string> WidgetFileDialogs::ask(std::string_view filter, Mode 
   for (const std::string& each : dialogFilters(filter)) filters << toQt(each);
   dialog->setNameFilters(filters);
   begin(*dialog, proposal);
+  giveRoom(*dialog);
   const bool accepted = dialog->exec() == QDialog::Accepted;
   std::optional<std::string> path;
   if (dialog && accepted && !dialog->selectedFiles().isEmpty())

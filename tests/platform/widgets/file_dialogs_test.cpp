@@ -1,7 +1,12 @@
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
+#include <QScreen>
 #include <QTest>
+#include <QTreeView>
+#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -14,6 +19,7 @@
 #include "support/environment_guard.h"
 #include "support/fake_services.h"
 #include "support/language_guard.h"
+#include "support/patience.h"
 #include "support/qt_application.h"
 #include "support/temporary_folder.h"
 
@@ -102,6 +108,40 @@ TEST_F(FileDialogsOfWidgets, BeginInTheUsersDocumentsWithoutADocumentOrItsFolder
     proposal = without;
     save({look});
     open({look});
+  }
+}
+
+/// No column of the list and no place beside it is cut off, unless the screen is small.
+void expectRoom(const QFileDialog& dialog) {
+  auto* const tree = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  const QAbstractItemView* const list = tree;
+  const auto* const places = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
+  ASSERT_TRUE(list != nullptr && places != nullptr);
+  const QHeaderView& header = *tree->header();
+  const auto is_narrow = [&](int column) {
+    return header.sectionSize(column) <
+           std::max(list->sizeHintForColumn(column), header.sectionSizeHint(column));
+  };
+  const auto has_room = [&] {
+    return list->model()->rowCount(list->rootIndex()) > 0 && !is_narrow(0) && !is_narrow(1) &&
+           !is_narrow(2) && !is_narrow(3);
+  };
+  EXPECT_TRUE(QTest::qWaitFor(has_room, kPatience));
+  EXPECT_TRUE(header.length() <= list->viewport()->width() ||
+              dialog.width() >= dialog.screen()->availableSize().width() * 9 / 10);
+  EXPECT_LE(places->sizeHintForColumn(0), places->viewport()->width());
+}
+
+TEST_F(FileDialogsOfWidgets, OpenWideEnoughForTheirColumnsAndPlaces) {
+  putBytes(folder_ / "a text whose name is long.zel", "x");
+  const DialogStep look = [](QFileDialog& dialog) {
+    expectRoom(dialog);
+    dialog.reject();
+  };
+  for (const char* const language : {"ES", "EN"}) {
+    SetCurrentLanguage(language);
+    open({look});
+    save({look});
   }
 }
 
