@@ -8,7 +8,10 @@
 #include <QStandardItemModel>
 #include <QStyleOptionButton>
 #include <QStyleOptionToolButton>
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -90,6 +93,45 @@ TEST_F(StyleOfTheProgram, MakesItsIconsAnewWhenTheColoursOfTheDesktopChange) {
   EXPECT_NE(icon(), first);
   QApplication::setPalette(QPalette());
   QApplication::setStyle(before);
+}
+
+/// As the eye takes it, from 1 for no contrast to 21 for black on white.
+double contrast(const QColor& one, const QColor& other) {
+  const auto luminance = [](const QColor& colour) {
+    const auto linear = [](double share) {
+      return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF()) + 0.05;
+  };
+  const double ratio = luminance(one) / luminance(other);
+  return std::max(ratio, 1 / ratio);
+}
+
+/// A colour that lets the one below it shine through.
+QColor laidOn(const QColor& below, const QColor& colour) {
+  const auto mixed = [&](float one, float other) {
+    return other + (one - other) * colour.alphaF();
+  };
+  return QColor::fromRgbF(mixed(colour.redF(), below.redF()),
+                          mixed(colour.greenF(), below.greenF()),
+                          mixed(colour.blueF(), below.blueF()));
+}
+
+TEST_F(StyleOfTheProgram, LetsHintsInEmptyFieldsBeReadOnLightAndDarkDesktops) {
+  const std::pair<QColor, QColor> desktops[] = {{Qt::white, Qt::black}, {0x232629, 0xFCFCFC}};
+  for (const auto& [field, typed] : desktops) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, field);
+    palette.setColor(QPalette::Text, typed);
+    palette.setColor(QPalette::PlaceholderText, Qt::black);
+    style.polish(palette);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+      const QColor hint = laidOn(field, palette.color(group, QPalette::PlaceholderText));
+      EXPECT_GE(contrast(hint, field), 4.5) << typed.name().toStdString();
+      EXPECT_GE(contrast(hint, typed), 2) << typed.name().toStdString();
+    }
+  }
 }
 
 /// Like the model of files: its header has a new picture whenever it is asked for one.
