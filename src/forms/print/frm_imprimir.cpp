@@ -68,7 +68,8 @@ void frmImprimir::buildControls() {
   cmdImprimir_->setObjectName("cmdImprimir");
   cmdSalir_->setObjectName("cmdSalir");
   cmdImprimir_->setEnabled(false);
-  for (QPushButton* button : {cmdImprimir_, cmdSalir_}) button->setAutoDefault(true);
+  cmdImprimir_->setDefault(true);
+  cmdSalir_->setAutoDefault(true);
   auto* preview = new QGridLayout(FraVistaPrevia_);
   preview->addWidget(page_, 0, 0);
   preview->addWidget(LblMensaje_, 0, 0, Qt::AlignCenter);
@@ -213,6 +214,8 @@ void frmImprimir::closeEvent(QCloseEvent* event) {
 void frmImprimir::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape)
     returnToCaller();
+  else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    cmdImprimir_->click();
   else
     Form::keyPressEvent(event);
 }

@@ -110,6 +110,29 @@ TEST_F(PrintWindow, GetsItsPreviewWhenThePrinterHasPaper) {
   EXPECT_FALSE(page().isVisible());
 }
 
+TEST_F(PrintWindow, PrintsAtEnterWhateverHasTheFocusButTheOtherButton) {
+  open();
+  EXPECT_TRUE(print().isDefault());
+  std::size_t pages = 0;
+  for (const char* const name :
+       {"chkNumeros", "cboImpresora", "chkAjustar", "Image3", "cmdImprimir"})
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+      QTest::keyClick(&control<QWidget>(window, name), key);
+      EXPECT_EQ(services.printer.printed.size(), ++pages) << name;
+    }
+  QTest::keyClick(&control<QWidget>(window, "cmdSalir"), Qt::Key_Return);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(services.printer.printed.size(), pages);
+}
+
+TEST_F(PrintWindow, DoesNotPrintAtEnterWithoutAPreview) {
+  services.printer.upright.reset();
+  open();
+  QTest::keyClick(&control<QWidget>(window, "chkNumeros"), Qt::Key_Return);
+  EXPECT_THAT(services.printer.printed, IsEmpty());
+  EXPECT_TRUE(window.isVisible());
+}
+
 TEST_F(PrintWindow, KeepsTheProportionsOfThePaper) {
   open();
   EXPECT_NEAR(static_cast<double>(page().width()) / page().height(), 16840.0 / 11900, 0.01);
