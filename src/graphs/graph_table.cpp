@@ -93,26 +93,26 @@ void GraphTable::clearGraphs() {
   count_ = 0;
 }
 
-std::optional<GraphDef> GraphTable::nextDefined(std::optional<char> letter) const {
+const GraphDef* GraphTable::nextDefined(std::optional<char> letter) const {
   char at = kLast;
   if (letter) at = *letter >= kLast ? kFirst : after(*letter);
-  if (!isInTable(at)) return std::nullopt;
+  if (!isInTable(at)) return nullptr;
   while (!slot(at)->defined && at < kLast) ++at;
-  if (slot(at)->defined) return graph(at);
+  if (slot(at)->defined) return slot(at);
   at = kFirst;
   while (!slot(at)->defined && at < kLast) ++at;
-  return graph(at);
+  return slot(at);
 }
 
-std::optional<GraphDef> GraphTable::previousDefined(std::optional<char> letter) const {
+const GraphDef* GraphTable::previousDefined(std::optional<char> letter) const {
   char at = kFirst;
   if (letter) at = *letter <= kFirst ? kLast : before(*letter);
-  if (!isInTable(at)) return std::nullopt;
+  if (!isInTable(at)) return nullptr;
   while (!slot(at)->defined && at > kFirst) --at;
-  if (slot(at)->defined) return graph(at);
+  if (slot(at)->defined) return slot(at);
   at = kLast;
   while (!slot(at)->defined && at > kFirst) --at;
-  return graph(at);
+  return slot(at);
 }
 
 bool GraphTable::rebuildGraph(char nombre, std::string ecuacion, std::string codigo,

@@ -44,12 +44,14 @@ class GraphTable {
   /// Empties all slots (each keeps its letter) and the count.
   void clearGraphs();
 
-  /// A copy of the next slot in use after the letter, going round at "z"; the letter's own slot
-  /// when no other is in use. When none is, a free slot: look at `defined`. Without a letter the
-  /// search begins at "z" itself, so that a graph "z" comes first: this is meant.
-  std::optional<GraphDef> nextDefined(std::optional<char> letter = std::nullopt) const;
-  /// The mirror image: going round at "a", and beginning there without a letter.
-  std::optional<GraphDef> previousDefined(std::optional<char> letter = std::nullopt) const;
+  /// The next slot in use after the letter, going round at "z"; the letter's own slot when no other
+  /// is in use. When none is, a free slot: look at `defined`. Without a letter the search begins at
+  /// "z" itself, so that a graph "z" comes first: this is meant. Null for a letter below the one
+  /// before "a".
+  const GraphDef* nextDefined(std::optional<char> letter = std::nullopt) const;
+  /// The mirror image: going round at "a", beginning there without a letter, and null for a letter
+  /// above the one after "z".
+  const GraphDef* previousDefined(std::optional<char> letter = std::nullopt) const;
 
   /// How often a slot came into use less how often one was freed.
   std::int16_t count() const { return count_; }

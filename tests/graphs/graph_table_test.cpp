@@ -24,12 +24,12 @@ GraphTable tableWith(std::string_view letters) {
 }
 
 char next(const GraphTable& table, std::optional<char> letter = std::nullopt) {
-  const auto def = table.nextDefined(letter);
+  const GraphDef* const def = table.nextDefined(letter);
   return def ? def->nombre : '!';
 }
 
 char previous(const GraphTable& table, std::optional<char> letter = std::nullopt) {
-  const auto def = table.previousDefined(letter);
+  const GraphDef* const def = table.previousDefined(letter);
   return def ? def->nombre : '!';
 }
 
@@ -167,6 +167,14 @@ TEST(GraphTable, WalksItsGraphsInLetterOrderAndAround) {
   EXPECT_EQ(previous(table, 'z'), 'd');
 }
 
+TEST(GraphTable, WalksToItsOwnSlots) {
+  const GraphTable table = tableWith("bd");
+  EXPECT_EQ(table.nextDefined('b'), table.slot('d'));
+  EXPECT_EQ(table.nextDefined('d'), table.slot('b'));
+  EXPECT_EQ(table.previousDefined('d'), table.slot('b'));
+  EXPECT_EQ(table.previousDefined('b'), table.slot('d'));
+}
+
 TEST(GraphTable, BeginsItsWalksAtTheFarEndWithoutALetter) {
   EXPECT_EQ(next(tableWith("bd")), 'b');
   EXPECT_EQ(next(tableWith("bdz")), 'z');
@@ -186,8 +194,8 @@ TEST(GraphTable, TakesTheLettersBeyondTheEndsAsPlacesToStart) {
 
 TEST(GraphTable, CannotWalkFromALetterFarOnTheOtherSide) {
   const GraphTable table = tableWith("bd");
-  EXPECT_EQ(table.nextDefined('A'), std::nullopt);
-  EXPECT_EQ(table.previousDefined('~'), std::nullopt);
+  EXPECT_EQ(table.nextDefined('A'), nullptr);
+  EXPECT_EQ(table.previousDefined('~'), nullptr);
 }
 
 TEST(GraphTable, EndsAWalkOnAFreeSlotWhenNoGraphIsDefined) {

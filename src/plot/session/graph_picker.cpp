@@ -16,10 +16,18 @@ namespace {
 /// Compares candidates as they come; an equally near one does not replace an earlier one.
 class NearestGraph {
  public:
-  NearestGraph(Engine& engine, PlanePoint point, Walk& walk)
-      : engine_(engine), point_(point), walk_(walk) {}
+  NearestGraph(Engine& engine, const GraphTable& graphs, PlanePoint point, Walk& walk)
+      : engine_(engine), graphs_(graphs), point_(point), walk_(walk) {}
 
-  void visit(const GraphDef& def) {
+  void visit(char letter) {
+    const GraphDef* const def = graphs_.slot(letter);
+    if (def != nullptr && def->defined) visitGraph(*def);
+  }
+
+  const std::optional<PickedGraph>& best() const { return best_; }
+
+ private:
+  void visitGraph(const GraphDef& def) {
     if (isTwoBranch(def)) {
       if (consider(def.nombre, parameter(def, "codigo1")))
         consider(def.nombre, parameter(def, "codigo2"));
@@ -30,9 +38,6 @@ class NearestGraph {
     }
   }
 
-  const std::optional<PickedGraph>& best() const { return best_; }
-
- private:
   void visitFamily(const GraphDef& def) {
     const auto range = parameterRange(def);
     if (!range) return;
@@ -58,6 +63,7 @@ class NearestGraph {
   }
 
   Engine& engine_;
+  const GraphTable graphs_;  // which stay as they are, whatever events run in the walk
   PlanePoint point_;
   Walk& walk_;
   std::optional<PickedGraph> best_;
@@ -70,11 +76,10 @@ class NearestGraph {
 std::optional<PickedGraph> pickGraph(Engine& engine, const GraphTable& graphs, char active,
                                      PlanePoint point, Walk& walk) {
   const double p = engine.GetP();
-  NearestGraph nearest(engine, point, walk);
+  NearestGraph nearest(engine, graphs, point, walk);
   for (int i = 0; i < GraphTable::kSlots && !walk.isEnded(); ++i) {
     const auto letter = static_cast<char>('a' + (active - 'a' + i) % GraphTable::kSlots);
-    const auto def = graphs.graph(letter);
-    if (def && def->defined) nearest.visit(*def);
+    nearest.visit(letter);
   }
   if (walk.isEnded()) {
     engine.SetP(p);

@@ -37,7 +37,7 @@ void PlotSession::open(const ViewSettings& view, const ScaleMarks& marks) {
 }
 
 void PlotSession::activateFirst() {
-  const auto first = graphs_.nextDefined('z');
+  const GraphDef* const first = graphs_.nextDefined('z');
   if (first && first->defined) active_ = first->nombre;
 }
 

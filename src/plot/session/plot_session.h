@@ -165,9 +165,9 @@ class PlotSession {
   bool takeView(const ViewSettings& view);
 
   void activateFirst();
-  void makeActive(const std::optional<GraphDef>& def);
+  void makeActive(const GraphDef* def);
   void setActive(char letter);
-  /// An empty definition in a document without graphs.
+  /// A copy, for what lets events run; an empty definition in a document without graphs.
   GraphDef activeDef() const;
 
   void pan(PlotCommand direction);

@@ -14,7 +14,7 @@ constexpr char32_t kSpace = 32;
 
 bool PlotSession::isEnabled(PlotCommand command) const {
   if (command != PlotCommand::recorrer && command != PlotCommand::calcular_y) return true;
-  return activeDef().tipo != 'T';
+  return !active_ || graphs_.slot(*active_)->tipo != 'T';
 }
 
 void PlotSession::execute(PlotCommand command) {
@@ -42,7 +42,7 @@ void PlotSession::execute(PlotCommand command) {
 void PlotSession::keyPressed(char32_t key) {
   if (key == kEscape || key == kSpace) drawing_.stop();
   if (!isDrawn()) return;
-  if (key == U'C' && active_) listener_.showInformation(activeDef().codigo);
+  if (key == U'C' && active_) listener_.showInformation(std::string(graphs_.codeOf(*active_)));
   if (key == U'+') execute(PlotCommand::acercar);
   if (key == U'-') execute(PlotCommand::alejar);
   if (key == U'n' || key == U'N') toggleNumbers();
@@ -85,20 +85,20 @@ void PlotSession::activatePrevious() {
 }
 
 void PlotSession::choose(char letter) {
-  const auto def = graphs_.graph(letter);
+  const GraphDef* const def = graphs_.slot(letter);
   if (!isDrawn() || !def || !def->defined) return;
   setMode(PlotMode::normal);
   makeActive(def);
 }
 
 bool PlotSession::activate(char letter) {
-  const auto def = graphs_.graph(letter);
+  const GraphDef* const def = graphs_.slot(letter);
   if (!def || !def->defined) return false;
   makeActive(def);
   return true;
 }
 
-void PlotSession::makeActive(const std::optional<GraphDef>& def) {
+void PlotSession::makeActive(const GraphDef* def) {
   if (!def || !def->defined) return;
   setActive(def->nombre);
   ++changes_;

@@ -82,6 +82,34 @@ TEST_F(GraphPicker, LooksAtTheFirstMembersOfAFamilyWithoutEnd) {
   EXPECT_FALSE(pick('a', 0, 5));
 }
 
+TEST_F(GraphPicker, LooksAtTheGraphsThatWereThereWhenItBegan) {
+  graphs.storeGraph(
+      graphOf('Z', {{"inicio", "0"}, {"fin", "99"}, {"variacion", "1"}}, longFormula("p")));
+  addFunction('b', "5,25");
+  Walk walk(engine, [&] {
+    graphs.clearGraphs();
+    return true;
+  });
+  const auto picked = pickGraph(engine, graphs, 'a', {0, 5.25}, walk);
+  EXPECT_EQ(graphs.count(), 0);
+  ASSERT_TRUE(picked);
+  EXPECT_EQ(picked->letter, 'b');
+}
+
+TEST_F(GraphPicker, TakesNoCopyOfAGraph) {
+  graphs.storeGraph(
+      graphOf('Z', {{"inicio", "0"}, {"fin", "99"}, {"variacion", "1"}}, longFormula("p")));
+  const auto owners = [this] { return graphs.slot('a')->parameters.use_count(); };
+  const auto before = owners();
+  int looks = 0;
+  Walk walk(engine, [&] {
+    EXPECT_EQ(owners(), before);
+    return ++looks > 0;
+  });
+  EXPECT_TRUE(pickGraph(engine, graphs, 'a', {0, 5}, walk));
+  EXPECT_GT(looks, 0);
+}
+
 TEST_F(GraphPicker, AWalkThatIsEndedPicksNothingAndPutsTheParameterBack) {
   graphs.storeGraph(
       graphOf('Z', {{"inicio", "0"}, {"fin", "1E+9"}, {"variacion", "1"}}, longFormula("p")));
