@@ -3,27 +3,22 @@
 #include <filesystem>
 #include <system_error>
 
+#include "files/absolute_path.h"
+
 namespace zel {
-namespace {
-
-namespace fs = std::filesystem;
-
-fs::path pathOf(const std::string& text) { return {std::u8string(text.begin(), text.end())}; }
-
-}  // namespace
 
 bool isInstalledProgram(const std::string& program_folder) {
-  const fs::path folder = pathOf(program_folder);
+  const std::filesystem::path folder = pathOf(program_folder);
   std::error_code ignored;
-  return fs::exists(folder / kInstallationMarker, ignored) ||
-         fs::exists(folder / "../share/zel" / kInstallationMarker, ignored);
+  return std::filesystem::exists(folder / kInstallationMarker, ignored) ||
+         std::filesystem::exists(folder / "../share/zel" / kInstallationMarker, ignored);
 }
 
 bool enterFolder(const std::string& folder) {
   std::error_code error;
-  fs::create_directories(pathOf(folder), error);
+  std::filesystem::create_directories(pathOf(folder), error);
   if (error) return false;
-  fs::current_path(pathOf(folder), error);
+  std::filesystem::current_path(pathOf(folder), error);
   return !error;
 }
 

@@ -11,6 +11,7 @@
 #include "app/main_commands.h"
 #include "app/messages.h"
 #include "base/language.h"
+#include "files/absolute_path.h"
 #include "files/whole_file.h"
 
 namespace zel {
@@ -19,8 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kSessionFile = "session.zel";
-
-fs::path pathOf(const std::string& name) { return {std::u8string(name.begin(), name.end())}; }
 
 /// What is the user's own state is nobody else's to read.
 bool makeFolder(const std::string& folder) {

@@ -57,8 +57,7 @@ PictureFile drawPictureFile(const PictureJob& job, Engine& engine, const GraphTa
   bool is_wanted = true;
   const GoesOn is_still_wanted = [&] { return is_wanted = is_wanted && goes_on(shown); };
   const auto file = makeFilePicture(job.ending, job.width, job.height, job.scale, is_still_wanted);
-  if (!is_wanted) return {};
-  if (!file) return {{}, "Valores demasiado grandes para operar."};
+  if (!file) return {{}, is_wanted ? "Valores demasiado grandes para operar." : ""};
   const auto goes_on_growing = [&](const StatusPanels& status) {
     shown = status;
     return is_still_wanted() && !file->isFull();

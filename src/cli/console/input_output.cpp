@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/console/interrupt.h"
+#include "files/absolute_path.h"
 #include "files/whole_file.h"
 
 namespace zel {
@@ -30,10 +31,6 @@ bool writeInPlace(const std::string& path, std::string_view bytes) {
 }
 
 }  // namespace
-
-std::filesystem::path pathOf(const std::string& utf8) {
-  return std::u8string(utf8.begin(), utf8.end());
-}
 
 bool isStandardStream(std::string_view path) { return path == "-"; }
 

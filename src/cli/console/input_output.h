@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,8 +8,6 @@
 
 /// Files that are read and written whole, where "-" is standard input or output.
 namespace zel {
-
-std::filesystem::path pathOf(const std::string& utf8);
 
 bool isStandardStream(std::string_view path);
 

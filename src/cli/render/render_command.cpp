@@ -12,6 +12,7 @@
 #include "cli/render/render_many.h"
 #include "cli/render/render_one.h"
 #include "cli/view_options.h"
+#include "files/absolute_path.h"
 #include "pictures/file_picture.h"
 
 namespace zel {

@@ -13,6 +13,7 @@
 #include "base/text.h"
 #include "cli/console/input_output.h"
 #include "cli/render/parallel_jobs.h"
+#include "files/absolute_path.h"
 
 namespace zel {
 namespace {
