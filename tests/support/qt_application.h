@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
+
 /// Qt for tests. It is all in this header: a build without Qt has nothing to leave out.
 namespace zel::test {
 
@@ -25,6 +27,9 @@ class QtSession : public ::testing::EmptyTestEventListener {
  public:
   QtSession() {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What the toolkit keeps for the next time is neither read from the user's settings nor left in
+    // them.
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(settings_.path().string()));
     before_ = qInstallMessageHandler(&QtSession::handle);
     running() = this;
     application_ = application_maker(argument_count_, arguments_);
@@ -82,6 +87,7 @@ class QtSession : public ::testing::EmptyTestEventListener {
     return false;
   }
 
+  TemporaryFolder settings_;
   int argument_count_ = 1;
   char name_[4] = "zel";
   char* arguments_[2] = {name_, nullptr};

@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "platform/widgets/dialog_filter.h"
+#include "platform/widgets/file_icons.h"
 #include "platform/widgets/qt_texts.h"
 
 namespace zel {
@@ -123,10 +124,12 @@ bool WidgetFileDialogs::maySave(const std::string& path) {
 std::optional<std::string> WidgetFileDialogs::ask(std::string_view filter, Mode mode,
                                                   const std::string& proposal) {
   const bool saves = mode == Mode::save;
+  FileIcons icons;
   // The dialog goes away with the window below it, wherever that may be taken down.
   const QPointer<QFileDialog> dialog = new QFileDialog(QApplication::activeWindow());
   dialog->setWindowTitle(saves ? inLanguage("Guardar como", "Save As")
                                : inLanguage("Abrir", "Open"));
+  dialog->setIconProvider(&icons);
   dialog->setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog->setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   // We ask ourselves, and in the program's language, once the ending is there.

@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "platform/widgets/file_icons.h"
 #include "platform/widgets/modal_driver.h"
 #include "platform/widgets/widget_file_dialogs.h"
 #include "support/environment_guard.h"
@@ -209,6 +210,13 @@ TEST_F(FileDialogsOfWidgets, KeepANameThatWasTypedWithAFolderThatIsMissing) {
           EXPECT_EQ(QFileInfo(dialog.selectedFiles().constFirst()).fileName(), "new.zel");
           dialog.reject();
         }});
+}
+
+TEST_F(FileDialogsOfWidgets, LookIntoNoFileForItsIcon) {
+  open({[](QFileDialog& dialog) {
+    EXPECT_NE(dynamic_cast<const FileIcons*>(dialog.iconProvider()), nullptr);
+    dialog.reject();
+  }});
 }
 
 TEST_F(FileDialogsOfWidgets, ProposeNoNameThatWouldComeBackAsAnother) {
