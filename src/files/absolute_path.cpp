@@ -1,7 +1,5 @@
 #include "files/absolute_path.h"
 
-#include <exception>
-
 namespace zel {
 
 std::filesystem::path pathOf(const std::string& name) {
@@ -12,7 +10,7 @@ std::string absolutePath(const std::string& path) {
   try {
     const std::u8string full = std::filesystem::absolute(pathOf(path)).u8string();
     return {full.begin(), full.end()};
-  } catch (const std::exception&) {
+  } catch (const std::filesystem::filesystem_error&) {
     return path;
   }
 }

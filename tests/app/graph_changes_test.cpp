@@ -110,6 +110,24 @@ TEST_F(GraphChanges, OpenGivesUnsavedGraphsBackUnderTheirOwnName) {
   EXPECT_EQ(program.document_name, "dos.zel");
 }
 
+TEST_F(GraphChanges, OpenTakesTheHeaderOfADocumentAndGivesItBack) {
+  accept('a', "x");
+  services.files.paths = {"uno.zel"};
+  saveDocumentAs(program, view);
+  std::string bytes = bytesOf("uno.zel");
+  const std::string section = "[PRINCIPAL]\r\n";
+  const std::size_t place = bytes.find(section);
+  ASSERT_NE(place, std::string::npos);
+  putBytes("dos.zel", bytes.insert(place + section.size(), "autor=alguien\r\n"));
+  const auto hasAuthor = [this] { return program.header.Exists("autor"); };
+  ASSERT_TRUE(openDocumentAt(program, "dos.zel", view));
+  EXPECT_TRUE(hasAuthor());
+  undo();
+  EXPECT_FALSE(hasAuthor());
+  redo();
+  EXPECT_TRUE(hasAuthor());
+}
+
 TEST_F(GraphChanges, GraphsThatARefusedDocumentClearedComeBack) {
   accept('a', "x");
   putBytes("malo.zel", "[PRINCIPAL]\r\nversiones_compatibles=2.0\r\n ");

@@ -315,6 +315,7 @@ TEST_F(MainCommands, ARefusedDocumentStaysTheCurrentOne) {
                 attention("File you try to open is uncompatible with that program version.")});
   EXPECT_EQ(program.document_name, "malo.zel");
   EXPECT_EQ(program.document_path, (std::filesystem::current_path() / "malo.zel").string());
+  EXPECT_TRUE(services.recent.added.empty());
 }
 
 TEST_F(MainCommands, ACancelledDialogChangesNothing) {

@@ -166,11 +166,13 @@ class FakeClipboard : public Clipboard {
     svg.clear();
   }
   void putPicture(const Bitmap& pixels, const std::string& document) override {
+    on_picture();
     calls.push_back("picture");
     bitmap = pixels;
     svg = document;
   }
 
+  std::function<void()> on_picture = [] {};
   std::vector<std::string> calls;  // "clear" or "picture"
   std::optional<Bitmap> bitmap;    // what is on the clipboard
   std::string svg;

@@ -21,7 +21,7 @@ class MainWindowInWantOfMemory : public WindowsInWantOfMemory {
     view.escala_x = "2";
     view.definicion = 50;
     newer_ = documentText(view, graphs);
-    path_ = absolutePath("the name of a document that needs memory.zel");
+    path_ = "the name of a document that needs memory.zel";
   }
 
   Deed command(const char* name) {
@@ -91,7 +91,7 @@ TEST_F(MainWindowInWantOfMemory, SavesTheDocumentWholeOrNotAtAll) {
   Deed save = command("mGuardar");
   save.prepare = [this] {
     putDocument();
-    program.document_path = path_;
+    program.document_path = absolutePath(path_);
     program.document_name = fromQt(QFileInfo(toQt(path_)).fileName());
     dynamic_cast<FormWindow&>(mainWindow()).showForm();
     putBytes(path_, newer_);
@@ -112,6 +112,20 @@ TEST_F(MainWindowInWantOfMemory, SavesTheDocumentUnderAnotherNameWholeOrNotAtAll
 
 TEST_F(MainWindowInWantOfMemory, DeletesGraphs) {
   EXPECT_GT(expectDoneOrTold(command("mBorrar")), 5);
+}
+
+TEST_F(MainWindowInWantOfMemory, KeepsTheWayForwardUnlessGraphsAreDeleted) {
+  Deed remove = command("mBorrar");
+  remove.prepare = [this] {
+    putDocument();
+    choose(mainWindow(), "mDuplicar");
+    settle();
+    choose(mainWindow(), "mDeshacer");
+    settle();
+    ASSERT_NE(program.history.redoable(), nullptr);
+    list().selectLetters("a");
+  };
+  EXPECT_GT(expectDoneOrTold(remove), 5);
 }
 
 /// Nobody is told of a session that is not kept: it is the next time.

@@ -3,6 +3,7 @@
 #include <QSpinBox>
 
 #include "forms/export/picture_preview.h"
+#include "memory/failing_new.h"
 #include "windows_fixture.h"
 
 namespace zel::test {
@@ -32,9 +33,13 @@ class OutputInWantOfMemory : public WindowsInWantOfMemory {
 };
 
 TEST_F(OutputInWantOfMemory, PutsThePictureOnTheClipboard) {
-  const auto prepare = [this] {
+  // From there on it is this clipboard of the tests that needs memory.
+  services.clipboard.on_picture = [] { may_fail = [](const void*) { return false; }; };
+  const auto prepare = [this, usual = may_fail] {
+    may_fail = usual;
     openPlot();
     services.clipboard.clear();
+    services.clipboard.svg = "what the user had there";
   };
   const auto held = [this] {
     return services.clipboard.svg + (services.clipboard.bitmap ? "picture" : "nothing");
@@ -44,6 +49,7 @@ TEST_F(OutputInWantOfMemory, PutsThePictureOnTheClipboard) {
     QTest::keyClick(&plot(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
   };
   EXPECT_GT(expectDoneOrTold({prepare, with_numbers, held}, 5), 50);
+  prepare();
 }
 
 TEST_F(OutputInWantOfMemory, SavesAPictureWholeOrNotAtAll) {

@@ -180,6 +180,7 @@ long WindowsInWantOfMemory::expectDoneOrTold(const Deed& deed, int stride) {
   for (long first = 1;; first += first < 40 ? 1 : stride) {
     prepare();
     const std::string before = deed.held();
+    const std::string selected = list().selectedLetters();
     EXPECT_NE(before, after);
     if (withFailingMemory(first, false, attempt) < first) break;
     ++failures;
@@ -190,6 +191,7 @@ long WindowsInWantOfMemory::expectDoneOrTold(const Deed& deed, int stride) {
     expectListsToAgree(first);
     expectOneWindowInFront(first);
     if (held == before) {
+      EXPECT_EQ(list().selectedLetters(), selected) << first;
       services.boxes.shown.clear();
       attempt();
       EXPECT_EQ(deed.held(), after) << first << ": done again";

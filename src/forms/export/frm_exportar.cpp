@@ -224,17 +224,20 @@ void frmExportar::cmdGuardar_Click() {
   if (is_saving_) return;
   const int mine = ++wanted_;
   const QPointer<QWidget> focus = focusWidget();
+  const auto end = [&] {
+    setSaving(false);
+    if (focus) focus->setFocus();
+  };
   ExportResult result;
   try {
     setSaving(true);
     result = exportPicture(program(), opened_, choice(), watch(mine));
   } catch (...) {  // for want of memory: it can be saved again
-    setSaving(false);
+    end();
     draws_soon_.start();
     throw;
   }
-  setSaving(false);
-  if (focus) focus->setFocus();
+  end();
   ShowAttention(program().services.boxes, result.message);
   if (result.written)
     returnToCaller();

@@ -13,6 +13,9 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSlider>
+#include <algorithm>
+#include <array>
+#include <utility>
 
 #include "app/desktop.h"
 #include "app/messages.h"
@@ -111,17 +114,21 @@ MainView frmDatosIni::fields() const {
   return view;
 }
 
-/// Boxes that hold the text already keep their own undo.
+/// Controls that hold all of it already stay as they are, with the boxes' own undo.
 void frmDatosIni::setFields(const MainView& view) {
-  const auto fill = [](QLineEdit& box, const std::string& text) {
-    if (const QString wanted = toQt(text); wanted != box.text()) box.setText(wanted);
-  };
-  fill(*txtRanXi_, view.xi);
-  fill(*txtRanXf_, view.xf);
-  fill(*txtRanYi_, view.yi);
-  fill(*txtRanYf_, view.yf);
-  fill(*txtEscalaX_, view.escala_x);
-  fill(*txtEscalaY_, view.escala_y);
+  const auto boxes =
+      std::to_array<std::pair<QLineEdit*, QString>>({{txtRanXi_, toQt(view.xi)},
+                                                     {txtRanXf_, toQt(view.xf)},
+                                                     {txtRanYi_, toQt(view.yi)},
+                                                     {txtRanYf_, toQt(view.yf)},
+                                                     {txtEscalaX_, toQt(view.escala_x)},
+                                                     {txtEscalaY_, toQt(view.escala_y)}});
+  const bool is_there =
+      std::ranges::all_of(boxes, [](const auto& box) { return box.first->text() == box.second; });
+  if (is_there && Slider1_->value() == view.definicion &&
+      chkProporcional_->isChecked() == view.proporcional)
+    return;
+  for (const auto& [box, text] : boxes) box->setText(text);
   Slider1_->setValue(view.definicion);
   Slider1_Change();
   actProporcional(view.proporcional);

@@ -99,9 +99,12 @@ void frmGrafico::copyPicture(bool with_numbers) {
   painter.end();
   SvgPicture svg(picGrafico_->width(), picGrafico_->height());
   picGrafico_->drawing().replay(svg);
+  // What is on the clipboard goes when all that takes its place is there.
+  const Bitmap bitmap = toBitmap(image);
+  const std::string text = picGrafico_->drawing().isFull() ? "" : svg.text(layer);
   Clipboard& clipboard = program().services.clipboard;
   clipboard.clear();
-  clipboard.putPicture(toBitmap(image), picGrafico_->drawing().isFull() ? "" : svg.text(layer));
+  clipboard.putPicture(bitmap, text);
 }
 
 void frmGrafico::openPrint() {
@@ -113,8 +116,8 @@ void frmGrafico::openPrint() {
 void frmGrafico::returnToMain() { leave(session_.view()); }
 
 void frmGrafico::leave(const ViewSettings& view) {
-  handViewOver(program().params, view, this);
   session_.close();
+  handViewOver(program().params, view, this);
   returnToCaller();
 }
 

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <memory>
 
 #include "platform/qt/bitmap_image.h"
 
@@ -11,10 +12,10 @@ namespace zel {
 void WidgetClipboard::clear() { QGuiApplication::clipboard()->clear(); }
 
 void WidgetClipboard::putPicture(const Bitmap& bitmap, const std::string& svg) {
-  auto* const data = new QMimeData;  // the clipboard's from now on
+  auto data = std::make_unique<QMimeData>();
   data->setImageData(toImage(bitmap));
   if (!svg.empty()) data->setData("image/svg+xml", QByteArray::fromStdString(svg));
-  QGuiApplication::clipboard()->setMimeData(data);
+  QGuiApplication::clipboard()->setMimeData(data.release());
 }
 
 }  // namespace zel
