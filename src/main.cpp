@@ -76,6 +76,7 @@ int run(int& argument_count, char** arguments) {
 int main(int argument_count, char** arguments) {
   try {
     zel::letWritesFail(zel::ClosedPipe::fails);
+    zel::nameHome();
     return run(argument_count, arguments);
   } catch (...) {
     std::fputs("zel: the program cannot go on\n", stderr);

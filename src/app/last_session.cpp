@@ -33,16 +33,6 @@ bool makeFolder(const std::string& folder) {
   }
 }
 
-/// An older file, whose permissions the next one takes over, may have been made for others too.
-void hideFromOthers(const std::string& file) {
-  try {
-    std::error_code error;
-    fs::permissions(pathOf(file), fs::perms::group_all | fs::perms::others_all,
-                    fs::perm_options::remove, error);
-  } catch (const std::bad_alloc&) {
-  }
-}
-
 }  // namespace
 
 LastSession::LastSession(const std::string& folder)
@@ -56,13 +46,14 @@ bool LastSession::isThere() const {
 /// Whether a document can be read back, which documentBytes looks at, takes long to tell; that it
 /// is the one that was kept does not.
 void LastSession::keep(const MainView& view, const GraphTable& graphs) {
-  if (path_.empty() || graphs.count() < 1 || isDocument(kept_, view, graphs)) return;
+  if (path_.empty() || graphs.count() < 1) return;
+  if (isDocument(kept_, view, graphs) && fileExists(path_)) return;
   std::string().swap(kept_);  // its memory is free before that of the new bytes is needed
   if (!makeFolder(folder_)) return;
-  hideFromOthers(path_);
   auto bytes = documentBytes(view, graphs);
   if (!bytes || !takePrevious()) return;
-  if (writeWholeFile(path_, *bytes, NewFile::for_its_user_alone).written) kept_ = std::move(*bytes);
+  if (writeWholeFile(path_, *bytes, NewFile::always_for_its_user_alone).written)
+    kept_ = std::move(*bytes);
 }
 
 bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& message) {

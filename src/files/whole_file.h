@@ -33,8 +33,9 @@ struct WriteResult {
   bool operator==(const WriteResult&) const = default;
 };
 
-/// Who may use a file that is made where there was none. On Windows the folder says who.
-enum class NewFile { as_any_other, for_its_user_alone };
+/// Who may use a file that is made where there was none, and with `always` also one that takes the
+/// place of another. On Windows the folder says who.
+enum class NewFile { as_any_other, for_its_user_alone, always_for_its_user_alone };
 
 /// Replaces the file by a new one with its permissions, access control list and extended
 /// attributes (on Windows its attributes and access control list), in one step: a failure leaves

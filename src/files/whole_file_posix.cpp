@@ -153,14 +153,13 @@ void syncFolder(const std::string& folder) {
   if (descriptor) retried([&] { return ::fsync(descriptor.number()); });
 }
 
-mode_t modeOf(NewFile file) {
-  return file == NewFile::for_its_user_alone ? kHiddenMode : kModeOfNewFile;
-}
+mode_t modeOf(NewFile file) { return file == NewFile::as_any_other ? kModeOfNewFile : kHiddenMode; }
 
 /// What a file is to hold; nothing where a write is only tried.
 using Content = std::optional<std::string_view>;
 
-/// `old` is null where there is no file yet, which gets `mode` then. Returns 0 or the error.
+/// `old` is null where there is no file yet, or one that the new one does not take after: that gets
+/// `mode` then. Returns 0 or the error.
 int replaceFile(const std::string& path, Content bytes, const struct stat* old, mode_t mode) {
   const std::string folder = folderOf(path);
   removeLeftovers(path);
@@ -184,7 +183,7 @@ WriteResult writeNewFile(const std::string& path, Content bytes, NewFile file) {
   return resultOf(false, replaceFile(path, bytes, nullptr, modeOf(file)));
 }
 
-WriteResult replaceTarget(const std::string& path, Content bytes) {
+WriteResult replaceTarget(const std::string& path, Content bytes, NewFile file) {
   const auto target = followLinks(path);
   if (!target) return resultOf(true, ELOOP);
   struct stat old {};
@@ -197,7 +196,8 @@ WriteResult replaceTarget(const std::string& path, Content bytes) {
     if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
   }
   if (::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0) return resultOf(true, errno);
-  return resultOf(true, replaceFile(*target, bytes, &old, kHiddenMode));
+  const bool takes_after = file != NewFile::always_for_its_user_alone;
+  return resultOf(true, replaceFile(*target, bytes, takes_after ? &old : nullptr, kHiddenMode));
 }
 
 WriteResult writeAnyFile(const std::string& path, Content bytes, NewFile file) {
@@ -206,7 +206,7 @@ WriteResult writeAnyFile(const std::string& path, Content bytes, NewFile file) {
     return errno == ENOENT ? writeNewFile(path, bytes, file) : resultOf(false, errno);
   if (S_ISDIR(old.st_mode)) return resultOf(false, EISDIR);
   if (!S_ISREG(old.st_mode)) return resultOf(true, ENOTSUP);
-  return replaceTarget(path, bytes);
+  return replaceTarget(path, bytes, file);
 }
 
 WriteResult writeOrTry(const std::string& path, Content bytes, NewFile new_file) {

@@ -1,8 +1,18 @@
 #include "forms/application.h"
 
+#include <QKeyEvent>
 #include <QSessionManager>
 
 namespace zel {
+namespace {
+
+bool isHeldEnter(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const auto& press = static_cast<const QKeyEvent&>(event);
+  return press.isAutoRepeat() && (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter);
+}
+
+}  // namespace
 
 Application::Application(int& argument_count, char** arguments)
     : QApplication(argument_count, arguments) {
@@ -11,6 +21,7 @@ Application::Application(int& argument_count, char** arguments)
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
+  if (isHeldEnter(*event)) return true;
   try {
     return QApplication::notify(receiver, event);
   } catch (...) {

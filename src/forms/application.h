@@ -21,6 +21,7 @@ class Application : public QApplication {
   /// not asked: one that hides when it is closed would stand in the way of a logout.
   std::function<void()> quits = [] {};
 
+  /// An Enter that is held down accepts once: not also the dialog or the question that comes next.
   bool notify(QObject* receiver, QEvent* event) override;
 
  protected:

@@ -33,6 +33,10 @@ std::string stateFolder();
 /// however `program_path` is written.
 ProgramPlace programPlace(const std::string& program_path);
 
+/// Names the user's home to the toolkit where the environment does not. Called once, before the
+/// application is there. On Windows the toolkit knows it.
+void nameHome();
+
 /// From now on a signal that asks the program to end (SIGTERM, SIGINT, SIGHUP) gives the
 /// application the event QEvent::Quit, as a logout does, and another one of its kind ends the
 /// program at once. Called once, when the application is there. Windows has no such signals.

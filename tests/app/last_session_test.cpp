@@ -161,9 +161,30 @@ TEST_F(SessionBefore, IsForTheUserAloneWhereTheFileWasForOthersToo) {
 #endif
   namespace fs = std::filesystem;
   leave("x");
-  fs::permissions(file, fs::perms(0644));
-  leave("x");
+  fs::permissions(file, fs::perms(0666));
+  leave("x+1");
   EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(SessionBefore, LeavesTheRightsOfWhatItIsALinkTo) {
+#ifdef _WIN32
+  GTEST_SKIP() << "a link takes a right that not every user has";
+#endif
+  namespace fs = std::filesystem;
+  fs::create_directories(folder + "/other");
+  fs::permissions(folder + "/other", fs::perms(0755));
+  fs::create_symlink("other", file);
+  leave("x");
+  EXPECT_EQ(fs::status(folder + "/other").permissions(), fs::perms(0755));
+}
+
+TEST_F(SessionBefore, IsWrittenAgainWhereItIsGone) {
+  begin();
+  addFunction('a', "x");
+  program.last_session.keep(view, program.graphs);
+  std::filesystem::remove(file);
+  program.last_session.keep(view, program.graphs);
+  EXPECT_TRUE(std::filesystem::exists(file));
 }
 
 TEST_F(SessionBefore, CostsNothingWhenItCannotBeRead) {

@@ -1,6 +1,8 @@
 #include "forms/application.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
 #include <QSessionManager>
 #include <QWidget>
 #include <cstdlib>
@@ -67,6 +69,30 @@ class StubbornWindow : public QWidget {
 TEST(ApplicationDeathTest, QuitsThoughAWindowWillNotClose) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(quitBeforeAStubbornWindow(), ::testing::ExitedWithCode(3), "");
+}
+
+/// Ends with the number of the clicks that an Enter, held down on a button, has come to.
+[[noreturn]] void holdEnterDown() {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  char name[] = "zel";
+  char* arguments[] = {name, nullptr};
+  int count = 1;
+  Application application(count, arguments);
+  QPushButton button;
+  button.setAutoDefault(true);
+  int clicks = 0;
+  QObject::connect(&button, &QPushButton::clicked, [&] { ++clicks; });
+  for (const bool repeats : {false, true, true})
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+      QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, "\r", repeats);
+      QCoreApplication::sendEvent(&button, &press);
+    }
+  std::_Exit(clicks);
+}
+
+TEST(ApplicationDeathTest, TakesAnEnterThatIsHeldDownOnce) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(holdEnterDown(), ::testing::ExitedWithCode(2), "");
 }
 
 /// Answers a session manager that asks for the state of the program.

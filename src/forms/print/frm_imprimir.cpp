@@ -214,10 +214,10 @@ void frmImprimir::closeEvent(QCloseEvent* event) {
 void frmImprimir::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape)
     returnToCaller();
-  else if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
-    Form::keyPressEvent(event);
-  else if (!event->isAutoRepeat())
+  else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
     cmdImprimir_->click();
+  else
+    Form::keyPressEvent(event);
 }
 
 }  // namespace zel

@@ -1,8 +1,9 @@
 #include "platform/widgets/file_icons.h"
 
 #include <QFileInfo>
-#include <QIcon>
 #include <QMimeDatabase>
+
+#include "platform/widgets/qt_texts.h"
 
 namespace zel {
 namespace {
@@ -15,10 +16,14 @@ QMimeType typeByName(const QFileInfo& file) {
 
 QIcon FileIcons::icon(const QFileInfo& file) const {
   if (!file.isFile()) return QFileIconProvider::icon(file);
-  return QIcon::fromTheme(typeByName(file).iconName(), icon(File));
+  const QString name = typeByName(file).iconName();
+  if (!icons_.contains(name)) icons_.insert(name, QIcon::fromTheme(name, icon(File)));
+  return icons_.value(name);
 }
 
 QString FileIcons::type(const QFileInfo& file) const {
+  // The toolkit's own translations lack it.
+  if (file.isDir()) return inLanguage("Carpeta", "Folder");
   if (!file.isFile()) return QFileIconProvider::type(file);
   const QMimeType type = typeByName(file);
   return type.comment().isEmpty() ? type.name() : type.comment();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QFileIconProvider>
+#include <QHash>
+#include <QIcon>
 
 namespace zel {
 
@@ -12,6 +14,9 @@ class FileIcons : public QFileIconProvider {
   using QFileIconProvider::icon;
   QIcon icon(const QFileInfo& file) const override;
   QString type(const QFileInfo& file) const override;
+
+ private:
+  mutable QHash<QString, QIcon> icons_;  // by name: a name that no theme has is looked for long
 };
 
 }  // namespace zel

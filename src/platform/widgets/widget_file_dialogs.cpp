@@ -8,9 +8,11 @@
 #include <QHeaderView>
 #include <QListView>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSplitter>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QTreeView>
 #include <algorithm>
 
@@ -47,13 +49,18 @@ void begin(QFileDialog& dialog, const std::string& proposal) {
   if (keeps_name && !file.fileName().isEmpty()) dialog.selectFile(file.fileName());
 }
 
-/// The columns are as wide as what they hold, the longest kinds of files excepted.
-void widenColumns(const QAbstractItemView& list, QHeaderView& header) {
-  const int widest = 30 * list.fontMetrics().averageCharWidth();
+/// The columns are as wide as what they hold, the longest kinds of files excepted, whatever the
+/// toolkit remembers of them. The names have the rest.
+void fitColumns(const QAbstractItemView& list, QHeaderView& header) {
+  const int letter = list.fontMetrics().averageCharWidth();
+  const int bar = list.style()->pixelMetric(QStyle::PM_ScrollBarExtent);  // it may come later
+  int rest = list.width() - 2 * list.frameWidth() - bar;
   for (int column = 1; column < header.count(); ++column) {
     const int wanted = std::max(list.sizeHintForColumn(column), header.sectionSizeHint(column));
-    header.resizeSection(column, std::max(header.sectionSize(column), std::min(wanted, widest)));
+    header.resizeSection(column, std::min(wanted, 30 * letter));
+    rest -= header.sectionSize(column);
   }
+  header.resizeSection(0, std::max(rest, 20 * letter));
 }
 
 /// The toolkit's own dialog opens too narrow for dates, kinds of files and places in most
@@ -69,11 +76,12 @@ void giveRoom(QFileDialog& dialog) {
   dialog.resize(
       first.expandedTo(dialog.sizeHint()).boundedTo(dialog.screen()->availableSize() * 0.9));
   const int for_places =
-      std::clamp(places->sizeHintForColumn(0) + 2 * places->frameWidth(),
+      std::clamp(std::max(places->sizeHintForColumn(0) + 2 * places->frameWidth(),
+                          splitter->sizes().constFirst()),
                  20 * letters.averageCharWidth(), 40 * letters.averageCharWidth());
   splitter->setSizes({for_places, dialog.width() - for_places});
   QObject::connect(files, &QFileSystemModel::directoryLoaded, list,
-                   [list] { widenColumns(*list, *list->header()); });
+                   [list] { fitColumns(*list, *list->header()); });
 }
 
 }  // namespace
@@ -127,6 +135,7 @@ std::optional<std::string> WidgetFileDialogs::ask(std::string_view filter, Mode 
   FileIcons icons;
   // The dialog goes away with the window below it, wherever that may be taken down.
   const QPointer<QFileDialog> dialog = new QFileDialog(QApplication::activeWindow());
+  const auto end = qScopeGuard([&] { delete dialog; });  // before its icons go
   dialog->setWindowTitle(saves ? inLanguage("Guardar como", "Save As")
                                : inLanguage("Abrir", "Open"));
   dialog->setIconProvider(&icons);
@@ -143,7 +152,6 @@ std::optional<std::string> WidgetFileDialogs::ask(std::string_view filter, Mode 
   std::optional<std::string> path;
   if (dialog && accepted && !dialog->selectedFiles().isEmpty())
     path = dialog->selectedFiles().constFirst().toStdString();
-  delete dialog;
   return path;
 }
 

@@ -47,6 +47,8 @@ ProgramPlace programPlace(const std::string& program_path) {
   return {separator == std::string::npos ? "." : path.substr(0, separator), name};
 }
 
+void nameHome() {}
+
 void quitOnSignals() {}
 
 }  // namespace zel

@@ -8,6 +8,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include "platform/desktop_services.h"
+
 namespace zel {
 namespace {
 
@@ -39,6 +41,10 @@ std::string folderNamedBy(const char* variable, const char* otherwise) {
   const char* const named = std::getenv(variable);
   const std::string folder = isFromTheRoot(named) ? withoutSlashes(named) : "";
   return folder.empty() ? home() + otherwise : folder;
+}
+
+void nameHome() {
+  if (!isFromTheRoot(std::getenv("HOME"))) ::setenv("HOME", homeOfEntry().c_str(), 1);
 }
 
 bool makeFolder(const std::string& folder) {

@@ -125,15 +125,6 @@ TEST_F(PrintWindow, PrintsAtEnterWhateverHasTheFocusButTheOtherButton) {
   EXPECT_EQ(services.printer.printed.size(), pages);
 }
 
-TEST_F(PrintWindow, PrintsOnceAtAnEnterThatIsHeldDown) {
-  open();
-  for (const bool repeats : {false, true, true}) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", repeats);
-    QApplication::sendEvent(&control<QWidget>(window, "chkNumeros"), &press);
-  }
-  EXPECT_EQ(services.printer.printed.size(), 1U);
-}
-
 TEST_F(PrintWindow, DoesNotPrintAtEnterWithoutAPreview) {
   services.printer.upright.reset();
   open();

@@ -146,6 +146,26 @@ TEST_F(FileDialogsOfWidgets, OpenWideEnoughForTheirColumnsAndPlaces) {
   }
 }
 
+TEST_F(FileDialogsOfWidgets, FitTheirColumnsWhateverWidthsAreRemembered) {
+  open({[](QFileDialog& dialog) {
+    for (int column = 0; column < 4; ++column)
+      dialog.findChild<QTreeView*>(QStringLiteral("treeView"))
+          ->header()
+          ->resizeSection(column, 900);
+    dialog.reject();
+  }});
+  open({[](QFileDialog& dialog) {
+    const auto* const list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+          return list->header()->length() <= list->viewport()->width() &&
+                 list->header()->sectionSize(0) > list->header()->sectionSize(1);
+        },
+        kPatience));
+    dialog.reject();
+  }});
+}
+
 TEST_F(FileDialogsOfWidgets, GiveNothingWhenCancelled) {
   EXPECT_EQ(open({kCancel}), std::nullopt);
   EXPECT_EQ(save({kCancel}), std::nullopt);

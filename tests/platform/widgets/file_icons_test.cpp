@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/language_guard.h"
 #include "support/qt_application.h"
 #include "support/temporary_folder.h"
 
@@ -43,7 +44,13 @@ TEST_F(IconsOfFiles, ShowFilesAndFoldersDifferently) {
   EXPECT_FALSE(of_file.isNull());
   EXPECT_FALSE(picture(folder()).isNull());
   EXPECT_NE(of_file, picture(folder()));
-  EXPECT_NE(icons_.type(file("b.zel", "x")), icons_.type(folder()));
+}
+
+TEST_F(IconsOfFiles, CallAFolderAFolderInEachLanguage) {
+  const LanguageGuard language("ES");
+  EXPECT_EQ(icons_.type(folder()), "Carpeta");
+  SetCurrentLanguage("EN");
+  EXPECT_EQ(icons_.type(folder()), "Folder");
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,20 @@ TEST(StateFolder, LiesInTheHomeOfTheUsersEntryWhereTheEnvironmentNamesNone) {
     const EnvironmentGuard home("HOME", name);
     EXPECT_EQ(stateFolder(), of_entry + "/.local/state/zel");
   }
+}
+
+TEST(HomeOfTheToolkit, IsNamedWhereTheEnvironmentNamesNone) {
+  const passwd* const entry = ::getpwuid(::getuid());
+  if (entry == nullptr) GTEST_SKIP() << "the user has no entry";
+  const std::string of_entry = entry->pw_dir;
+  for (const char* const name : {static_cast<const char*>(nullptr), "", "ana"}) {
+    const EnvironmentGuard home("HOME", name);
+    nameHome();
+    EXPECT_EQ(std::getenv("HOME"), of_entry);
+  }
+  const EnvironmentGuard home("HOME", "/home/ana");
+  nameHome();
+  EXPECT_EQ(std::getenv("HOME"), std::string("/home/ana"));
 }
 
 TEST(StateFolder, LiesInTheRootForAUserWhoseHomeThatIs) {
