@@ -20,7 +20,7 @@ class IconsOfFiles : public ::testing::Test {
     putBytes(folder_ / name, bytes);
     return QFileInfo(QString::fromStdString(folder_ / name));
   }
-  QFileInfo folder() const { return QFileInfo(QString::fromStdString(folder_.path())); }
+  QFileInfo folder() const { return QFileInfo(QString::fromStdString(folder_ / "")); }
 
   const FileIcons icons_;
 
