@@ -139,6 +139,22 @@ TEST_F(MarkNumbers, StayRoundWhereTheFirstMarkIsNoMultipleOfTheStride) {
   EXPECT_THAT(xNumbers(-97, 103, 1), ::testing::Not(::testing::Contains("-97")));
 }
 
+TEST_F(MarkNumbers, StayRoundWhereTheDistanceIsNotOne) {
+  EXPECT_THAT(xNumbers(-5.2, 4.8, 0.1),
+              ElementsAre("-5", "-4,5", "-4", "-3,5", "-3", "-2,5", "-2", "-1,5", "-1", "-0,5", "0",
+                          "0,5", "1", "1,5", "2", "2,5", "3", "3,5", "4", "4,5"));
+}
+
+TEST_F(MarkNumbers, AreCountedFromTheFirstMarkThatIsOffTheGridByMoreThanAMillionth) {
+  // The first mark is twice as far off as the end of the range.
+  const Texts from_zero = xNumbers(23 + 0.45e-6, 222, 1);
+  EXPECT_THAT(from_zero, IsSupersetOf({"30", "40", "220"}));
+  EXPECT_THAT(from_zero, ::testing::Not(::testing::Contains("33")));
+  const Texts from_first = xNumbers(23 + 0.55e-6, 222, 1);
+  EXPECT_THAT(from_first, IsSupersetOf({"23", "33", "213"}));
+  EXPECT_THAT(from_first, ::testing::Not(::testing::Contains("30")));
+}
+
 TEST_F(MarkNumbers, AreRoundOnesWhereARangeHasNoMarks) {
   EXPECT_THAT(xNumbers(-1000, 1000, 1), ::testing::Contains("500"));
   EXPECT_THAT(xNumbers(0.25, 0.26, 1), ::testing::Contains("0,255"));
@@ -148,6 +164,15 @@ TEST_F(MarkNumbers, AreRoundOnesWhereARangeHasNoMarks) {
   EXPECT_THAT(textsOf(numbers()), ::testing::IsSupersetOf({"0,5", "-0,5"}));
   marks = {0.3, 0.3, false, false};
   EXPECT_THAT(textsOf(numbers()), ::testing::IsSupersetOf({"0,5", "-0,5"})) << "marks not shown";
+}
+
+TEST_F(MarkNumbers, BeginAtARoundOneWhereARangeHasNoMarks) {
+  EXPECT_THAT(xNumbers(0.2533, 0.2559, 1),
+              ElementsAre("0,2534", "0,2536", "0,2538", "0,254", "0,2542", "0,2544", "0,2546",
+                          "0,2548", "0,255", "0,2552", "0,2554", "0,2556", "0,2558"));
+  EXPECT_THAT(xNumbers(-0.3533, 0.2266, 1),
+              ElementsAre("-0,35", "-0,3", "-0,25", "-0,2", "-0,15", "-0,1", "-0,05", "0", "0,05",
+                          "0,1", "0,15", "0,2"));
 }
 
 TEST_F(MarkNumbers, TellTheOriginOnce) {
@@ -279,6 +304,38 @@ TEST_F(MarkNumbers, ThePointersTextStaysOnThePictureAndOffThePointer) {
                         pointer.x <= label->corner.x + label->width &&
                         label->corner.y <= pointer.y && pointer.y <= label->corner.y + kLine;
     EXPECT_FALSE(covers) << label->text;
+  }
+}
+
+TEST_F(MarkNumbers, ThePointersTextIsAsLargeAsItIsMeasured) {
+  show(-4, 4, -3, 3);
+  ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  const auto label = pointerLabel(viewport, {6000, 4500}, measure);
+  ASSERT_TRUE(label);
+  EXPECT_EQ(label->width, 8 * kCharacter);
+  EXPECT_EQ(label->height, kLine);
+  EXPECT_EQ(label->corner, (Point{6180, 4680}));
+}
+
+TEST_F(MarkNumbers, ThePointersTextTurnsToTheOtherSideWhereItWouldComeTooNearToTheEdge) {
+  // A pixel is worth one, so that all coordinates have four digits.
+  show(9200, 10000, 8400, 9000);
+  ASSERT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  const double width = 14 * kCharacter;
+  const double last_x = 12000 - 25 - width - 180;
+  const double last_y = 9000 - 25 - kLine - 180;
+  struct Row {
+    Point pointer, corner;
+  };
+  const Row rows[] = {{{last_x, 4500}, {last_x + 180, 4680}},
+                      {{last_x + 1, 4500}, {last_x + 1 - 180 - width, 4680}},
+                      {{6000, last_y}, {6180, last_y + 180}},
+                      {{6000, last_y + 1}, {6180, last_y + 1 - 180 - kLine}}};
+  for (const Row& row : rows) {
+    const auto label = pointerLabel(viewport, row.pointer, measure);
+    ASSERT_TRUE(label);
+    EXPECT_EQ(label->width, width) << label->text;
+    EXPECT_EQ(label->corner, row.corner);
   }
 }
 

@@ -23,6 +23,13 @@ TEST(RoundedText, EndsAtItsPlace) {
     EXPECT_EQ(roundedText(row.number, row.decade), row.text) << row.number << " " << row.decade;
 }
 
+TEST(RoundedText, IsThatOfTheNumberWherePlacesAreTooManyToBeCounted) {
+  EXPECT_EQ(roundedText(0.9999999999999994, -15), "0,999999999999999");  // a count of 1E+15
+  EXPECT_EQ(roundedText(1000000000000014.5, 0), "1,00000000000001E+15");
+  EXPECT_EQ(roundedText(-1000000000000014.5, 0), "-1,00000000000001E+15");
+  EXPECT_EQ(roundedText(999999999999998.5, 0), "999999999999999");
+}
+
 TEST(RoundedText, KnowsThePlaceOfTheFirstDigit) {
   EXPECT_EQ(placeOf(1), 0);
   EXPECT_EQ(placeOf(9.99), 0);
