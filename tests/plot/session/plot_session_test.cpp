@@ -21,6 +21,12 @@ TEST_F(Session, DrawsNothingBeforeItIsOpened) {
   EXPECT_THAT(screen.statuses, IsEmpty());
 }
 
+TEST_F(Session, HasNeitherATracePointNorARectangleBeforeItIsOpened) {
+  EXPECT_EQ(session.tracePosition(), 0);
+  session.setMode(PlotMode::zoom);
+  EXPECT_EQ(session.zoomRectangle(), std::nullopt);
+}
+
 TEST_F(Session, DrawsTheOpenedViewOnceAtFirst) {
   addFamilyAndFunction();
   session.open(viewport.view, marks);

@@ -19,6 +19,18 @@ TEST(AWalk, LooksAfterSoMuchWork) {
   EXPECT_EQ(evaluations, 2 * (Engine::kMostWork / 4) - 1);
 }
 
+TEST(AWalk, CountsItsWorkFromNothing) {
+  Engine engine;
+  std::size_t looks = 0;
+  Walk walk(engine, [&] { return ++looks < 3; });
+  double value = 0;
+  std::string message;
+  engine.Evaluate(1, value, "10", message);  // of three, which is no divisor of the most work
+  std::size_t evaluations = 1;
+  while (walk.goesOn()) ++evaluations;
+  EXPECT_EQ(evaluations, 3 * (Engine::kMostWork / 3 + 1));
+}
+
 TEST(AWalk, LooksAfterFewEvaluationsOfALongCode) {
   Engine engine;
   int looks = 0;
@@ -98,6 +110,15 @@ TEST_F(LongWalks, EndWithARedraw) {
   const std::size_t drawing = during(pan, [] {});
   EXPECT_LE(during([&] { session.execute(PlotCommand::recorrer); }, pan), 2 + drawing);
   EXPECT_EQ(session.mode(), PlotMode::normal);
+}
+
+TEST_F(LongWalks, EndWithWhateverChangesModeAndViewOrGraphAtOnce) {
+  const auto trace = [&] { session.execute(PlotCommand::recorrer); };
+  const auto zoom = [&] { session.execute(PlotCommand::acercar); };
+  EXPECT_EQ(during(trace, [&] { session.activateNext(); }), 2u);
+  session.activateNext();
+  const std::size_t drawing = during(zoom, [] {});
+  EXPECT_LE(during(trace, zoom), 2 + drawing);
 }
 
 TEST_F(LongWalks, TakeNoOtherWalkIn) {
