@@ -134,6 +134,22 @@ TEST_F(Reentrancy, AGivenUpRedrawDrawsNothingMore) {
   EXPECT_EQ(redraw(), RedrawOutcome::drawn);
 }
 
+TEST_F(Reentrancy, ARedrawInsideOneThatIsGivenUpWins) {
+  const ViewSettings before = viewport.view;
+  for (std::size_t moment = 1; moment <= moments; ++moment) {
+    viewport.view = before;
+    screen = {};
+    screen.on_events = [&](std::size_t run) {
+      if (run != moment) return;
+      drawing.giveUp();
+      viewport.view = panned();
+      EXPECT_EQ(redraw(), RedrawOutcome::drawn);
+    };
+    EXPECT_EQ(redraw(), RedrawOutcome::abandoned) << moment;
+    EXPECT_EQ(picture.texts(), fresh) << moment;
+  }
+}
+
 TEST_F(Reentrancy, AStopAtAnyMomentLeavesAWholeRedraw) {
   for (std::size_t moment = 1; moment <= moments; ++moment) {
     screen = {};

@@ -260,6 +260,14 @@ TEST_F(DrawingTest, IsOverWhereAnExceptionGoesThroughIt) {
   EXPECT_EQ(engine.GetP(), 0.5);
 }
 
+TEST_F(DrawingTest, LeavesAParameterThatIsSetAfterItToTheNext) {
+  addGraph('a', FamilyFields{field("P"), field("1"), field("2"), field("1")});
+  EXPECT_EQ(redraw(), RedrawOutcome::drawn);
+  engine.SetP(7);
+  EXPECT_EQ(redraw(), RedrawOutcome::drawn);
+  EXPECT_EQ(engine.GetP(), 7);
+}
+
 TEST_F(DrawingTest, GoesOnWithTheNextGraphAfterAStop) {
   addGraph('a', FamilyFields{field("P"), field("0"), field("4"), field("1")});
   addFunction('b', "x");

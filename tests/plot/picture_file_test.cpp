@@ -32,6 +32,21 @@ TEST_F(PictureFiles, AreTooLargeWhereNoPictureCanBeMade) {
   EXPECT_EQ(file.message, "Valores demasiado grandes para operar.");
 }
 
+TEST_F(PictureFiles, OfTheLeastWidthHaveSamplesAndNarrowerOnesHaveNone) {
+  viewport.view.definicion = 1;
+  const auto messageOf = [&](int width) {
+    const PictureJob job = {"svg", width, 100, {viewport.view, marks}};
+    return drawPictureFile(job, engine, graphs, [](const StatusPanels&) { return true; }).message;
+  };
+  EXPECT_EQ(messageOf(kLeastWidth), "");
+  EXPECT_EQ(messageOf(kLeastWidth - 1), redrawMessage(RedrawOutcome::failed));
+}
+
+TEST_F(PictureFiles, AreBoundedForWhoeverAsksForThem) {
+  EXPECT_EQ(kLongestSide, 32767);
+  EXPECT_EQ(kMostPixels, 134'217'728);
+}
+
 TEST_F(PictureFiles, SayWhyARangeIsRefused) {
   show(1, 1, -5, 5);
   EXPECT_EQ(draw("svg").bytes, "");

@@ -127,6 +127,21 @@ TEST(Viewport, IsTooLargeWhenTheProductOfTheScalesVanishes) {
   EXPECT_EQ(verdict(-1e300, 1e300, -10, 10), RangeVerdict::drawable);
 }
 
+TEST(Viewport, IsBoundedByTheProductOfTheScalesAndTheSampleCount) {
+  // The scales make 2^-1073, that is two of the smallest numbers.
+  EXPECT_EQ(verdict(-1e160, 1e160, -2.8e170, 2.8e170), RangeVerdict::drawable);
+  EXPECT_EQ(verdict(-1e160, 1e160, -2.8e171, 2.8e171), RangeVerdict::too_large);
+  // The scales make 1.01E+306, of which the largest number is 177 times as much.
+  Viewport viewport = viewportOf(-10, 10, 0, 1e-300);
+  viewport.size = PictureSize::ofPixels(150, 600);
+  const double scales = (2250.0 / 20) * (9000 / 1e-300);
+  const int most = static_cast<int>(std::numeric_limits<double>::max() / scales);
+  viewport.view.definicion = static_cast<std::int16_t>(most);
+  EXPECT_EQ(viewport.prepare(), RangeVerdict::drawable);
+  viewport.view.definicion = static_cast<std::int16_t>(most + 1);
+  EXPECT_EQ(viewport.prepare(), RangeVerdict::failed);
+}
+
 TEST(Viewport, FailsWhereTheArithmeticOverflows) {
   EXPECT_EQ(verdict(-1e308, 1e308, -10, 10), RangeVerdict::failed);  // the width of x
   EXPECT_EQ(verdict(-10, 10, -1e308, 1e308), RangeVerdict::failed);  // the width of y
