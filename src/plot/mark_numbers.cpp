@@ -43,8 +43,8 @@ struct MarkNumber {
 std::optional<Direction> roundMarks(Direction range) {
   range.distance = unitOfPlace(placeOf(kNearest / range.scale));
   range.mark = std::ceil(range.first / range.distance) * range.distance;
-  const bool steps = range.distance > 0 && range.last + range.distance > range.last &&
-                     range.first - range.distance < range.first;
+  const bool steps =
+      range.last + range.distance > range.last && range.first - range.distance < range.first;
   if (!steps || !std::isfinite(range.mark)) return std::nullopt;
   return range;
 }

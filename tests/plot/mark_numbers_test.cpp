@@ -81,6 +81,8 @@ TEST_F(MarkNumbers, AreCountedFromTheFirstMarkThatIsOffTheGridByMoreThanAMillion
   const Texts from_first = xNumbers(23 + 0.55e-6, 222, 1);
   EXPECT_THAT(from_first, IsSupersetOf({"23", "33", "213"}));
   EXPECT_THAT(from_first, ::testing::Not(::testing::Contains("30")));
+  EXPECT_THAT(xNumbers(2.3 + 0.45e-7, 22.2, 0.1), IsSupersetOf({"3", "4", "22"}));
+  EXPECT_THAT(xNumbers(2.3 + 0.55e-7, 22.2, 0.1), IsSupersetOf({"2,3", "3,3", "21,3"}));
 }
 
 TEST_F(MarkNumbers, AreRoundOnesWhereARangeHasNoMarks) {

@@ -52,6 +52,21 @@ TEST_F(SessionSlopes, OfAGraphThatHasBecomeAnotherOneStandToTheRight) {
   EXPECT_EQ(session.cursor()->slope, Slope::decreciente_der);
 }
 
+TEST_F(SessionTools, TheWindowIsToldOfTheOpeningTheModeAndTheCursor) {
+  const auto changesIn = [&](const auto& task) {
+    const int before = listener.tools_changes;
+    task();
+    return listener.tools_changes - before;
+  };
+  EXPECT_EQ(changesIn([&] { session.open(viewport.view, marks); }), 1);
+  session.drawFirst();
+  EXPECT_EQ(changesIn([&] { session.setMode(PlotMode::zoom); }), 1);
+  EXPECT_EQ(changesIn([&] { session.execute(PlotCommand::recorrer); }), 2);  // mode and cursor
+  EXPECT_EQ(changesIn([&] { session.redraw(); }), 1);                        // the cursor again
+  // A click tells of the mode, of the graph that was picked, and of the cursor when it is there.
+  EXPECT_EQ(changesIn([&] { session.mouseDown(MouseButton::left, {750, 1300}); }), 3);
+}
+
 TEST_F(SessionTools, TheWindowIsToldOfEachGraphThatBecomesTheActiveOne) {
   const int changes = listener.tools_changes;
   EXPECT_TRUE(session.activate('c'));

@@ -1,5 +1,7 @@
 #include "plot/session/walk.h"
 
+#include <new>
+
 #include "plot/session/plot_session_fixture.h"
 
 namespace zel::test {
@@ -119,6 +121,13 @@ TEST_F(LongWalks, EndWithWhateverChangesModeAndViewOrGraphAtOnce) {
   session.activateNext();
   const std::size_t drawing = during(zoom, [] {});
   EXPECT_LE(during(trace, zoom), 2 + drawing);
+}
+
+TEST_F(LongWalks, MayBeginAgainAfterOneInWhichMemoryRanOut) {
+  const auto trace = [&] { session.execute(PlotCommand::recorrer); };
+  const std::size_t alone = during(trace, [] {});
+  EXPECT_THROW(during(trace, [] { throw std::bad_alloc(); }), std::bad_alloc);
+  EXPECT_EQ(during(trace, [] {}), alone);
 }
 
 TEST_F(LongWalks, TakeNoOtherWalkIn) {
