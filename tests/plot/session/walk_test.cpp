@@ -114,6 +114,12 @@ TEST_F(LongWalks, EndWithARedraw) {
   EXPECT_EQ(session.mode(), PlotMode::normal);
 }
 
+TEST_F(LongWalks, EndWithARedrawOfTheSameView) {
+  const auto redraw = [&] { session.redraw(); };
+  const std::size_t drawing = during(redraw, [] {});
+  EXPECT_LE(during([&] { session.execute(PlotCommand::recorrer); }, redraw), 2 + drawing);
+}
+
 TEST_F(LongWalks, EndWithWhateverChangesModeAndViewOrGraphAtOnce) {
   const auto trace = [&] { session.execute(PlotCommand::recorrer); };
   const auto zoom = [&] { session.execute(PlotCommand::acercar); };
