@@ -13,7 +13,9 @@ screen_jobs=
 open_screen() {
   screen_files=$1
   exec 8>"$screen_files/display"
-  Xvfb -displayfd 8 -screen 0 1280x1024x24 >"$screen_files/xvfb.log" 2>&1 &
+  # A screen begins anew when its last client goes, and throws out who comes meanwhile: the window
+  # manager, where a look for it is over first.
+  Xvfb -noreset -displayfd 8 -screen 0 1280x1024x24 >"$screen_files/xvfb.log" 2>&1 &
   screen_jobs=$!
   exec 8>&-
   wait_until test -s "$screen_files/display" || fail "no screen"
