@@ -258,5 +258,10 @@ TEST(Viewport, HasItsFourEdgesInside) {
   EXPECT_FALSE(viewport.isInside(0, std::nan("")));
 }
 
+TEST(ViewSettings, ShowTenToEachSideOfTheOriginAtFirst) {
+  const ViewSettings view;
+  EXPECT_EQ(view, (ViewSettings{-10, -10, 10, 10, 100, false}));
+}
+
 }  // namespace
 }  // namespace zel::test

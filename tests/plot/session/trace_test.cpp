@@ -59,6 +59,14 @@ TEST_F(Trace, WalksNoLongerThanItsBoundFromBeyondTheRange) {
   EXPECT_EQ(step("0", 100'005.25, -1)->x, 4);
 }
 
+TEST_F(Trace, WalksAsManyStepsHoweverLongOneIs) {
+  viewport.view.definicion *= 2;
+  ASSERT_TRUE(step("0", 0, 1));
+  ASSERT_EQ(viewport.xStep(), 0.5);
+  EXPECT_EQ(step("0", -50'005.25, 1)->x, -4.5);
+  EXPECT_EQ(step("0", -50'004.75, 1)->x, -4.75);
+}
+
 TEST_F(Trace, EndsWhereItsStepNoLongerAdvances) {
   EXPECT_FALSE(step("0", 1e300, 1));
   EXPECT_FALSE(step("0", 1e300, -1));
