@@ -16,9 +16,9 @@ strip=x86_64-w64-mingw32-strip
 compiler=$(dirname "$(x86_64-w64-mingw32-gcc-posix -print-libgcc-file-name)")
 library_folders=("$windows_qt/bin" "$compiler" /usr/x86_64-w64-mingw32/lib)
 
-# imports FILE: the libraries that it wants, by name.
+# imports FILE: the libraries that it wants, by name. What is read is English, whatever the user speaks.
 imports() {
-  x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/^\s*DLL Name: //p'
+  LC_ALL=C x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/^\s*DLL Name: //p'
 }
 
 # add_libraries FILE...: copies those of ours that they want, and those that these want.

@@ -2,6 +2,7 @@
 # The programs are built so that a fault is hard to use: at a random place, with tables that nobody
 # can write, a stack that nobody can run, canaries, checked copies and marked targets of jumps.
 set -uo pipefail
+export LC_ALL=C # what is read of other programs is English, whatever the user speaks
 cli=$1
 [[ -x $cli ]] || { echo "there is no $cli"; exit 1; }
 failures=0

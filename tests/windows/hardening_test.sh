@@ -2,6 +2,7 @@
 # The programs lie at a random place out of 64 bits, run no data, and have canaries on the stack;
 # zel-cli.exe checks its copies.
 set -uo pipefail
+export LC_ALL=C # what is read of other programs is English, whatever the user speaks
 # shellcheck source-path=SCRIPTDIR
 . "$(dirname "$0")/wine.sh"
 
