@@ -10,6 +10,7 @@ set -uo pipefail
 . "$(dirname "$0")/screen.sh"
 # shellcheck source-path=SCRIPTDIR
 . "$(dirname "$0")/print_server.sh"
+export LANG=C.UTF-8 # Wine's own dialogs speak the system's language
 pictures=${TOUR_PICTURES:-$work}
 mkdir -p "$pictures"/{ES,EN} "$work/run"
 "$root/scripts/windows_package.sh" --folder "$work/ZEL" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
