@@ -73,8 +73,9 @@ bool LastSession::recover(MainView& view, GraphTable& graphs, std::string& messa
 }
 
 bool LastSession::takePrevious() try {
-  if (!previous_) previous_ = readWholeFile(path_).value_or("");
-  return true;
+  if (!previous_) previous_ = readWholeFile(path_);
+  if (!previous_ && !fileExists(path_)) previous_ = "";
+  return previous_.has_value();
 } catch (const std::bad_alloc&) {
   return false;
 }

@@ -24,15 +24,16 @@ class LastSession {
 
   /// Keeps the view and the graphs, unless they are what was kept last. A table without graphs is
   /// not kept, so that what was there before it can still be recovered; and nothing takes the place
-  /// of what cannot be read for want of memory.
+  /// of a file that cannot be read, which is tried again each time.
   void keep(const MainView& view, const GraphTable& graphs);
 
-  /// Reads what the session before this one has left. False with a message when it cannot be read:
-  /// view and graphs are then as they were, and it is no longer there but for want of memory.
+  /// Reads what the session before this one has left. False with a message when that fails: view
+  /// and graphs are then as they were. What was read and is no document is no longer there; what
+  /// cannot be read, or wants memory, still is.
   bool recover(MainView& view, GraphTable& graphs, std::string& message);
 
  private:
-  /// False for want of memory.
+  /// False where there is a file that cannot be read, and for want of memory.
   bool takePrevious();
 
   std::string folder_;

@@ -9,6 +9,7 @@
 namespace zel::test {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAre;
 
@@ -203,6 +204,25 @@ TEST_F(SessionBefore, CostsNothingWhenItCannotBeRead) {
   ASSERT_EQ(services.boxes.shown.size(), 3u);
   EXPECT_EQ(services.boxes.shown[0],
             attention("El archivo no es compatible con esta versión del programa."));
+}
+
+TEST_F(SessionBefore, StaysWhereItCouldNotBeReadForAWhile) {
+  leave("x^2");
+  const std::string aside = folder + "/aside";
+  std::filesystem::rename(file, aside);
+  std::filesystem::create_directory(file);
+  begin();
+  addFunction('a', "x");
+  keep();
+  EXPECT_FALSE(recover());
+  EXPECT_THAT(services.boxes.shown, ElementsAre(attention("Error: No se pudo abrir el archivo.")));
+  EXPECT_TRUE(program.last_session.isThere());
+  std::filesystem::remove(file);
+  std::filesystem::rename(aside, file);
+  keep();
+  EXPECT_NE(bytesOf(file).find("=x\r\n"), std::string::npos) << "this one is kept";
+  EXPECT_TRUE(recover());
+  EXPECT_EQ(formulaOf('q'), "x^2");
 }
 
 TEST_F(SessionBefore, NobodyIsToldThatItCannotBeWritten) {
