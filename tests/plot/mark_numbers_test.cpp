@@ -123,6 +123,19 @@ TEST_F(MarkNumbers, LeaveZeroToTheOneAxisThatIsSeen) {
   EXPECT_THAT(textsOf(numbers()), ::testing::Contains("0"));
 }
 
+TEST_F(MarkNumbers, LeaveAGapToThoseOfTheOtherAxis) {
+  marks = {1, 1, true, true};
+  show(10.4, 22.4, -15, 15);
+  const NumberLayer close = numbers();
+  const PictureLabel below = labelled(close, "-2");
+  const double room = labelled(close, "10,8").corner.x - (below.corner.x + below.width);
+  EXPECT_GT(room, 0);
+  EXPECT_LT(room, 25);
+  EXPECT_THAT(textsOf(close), ::testing::Not(::testing::Contains("-1"))) << "beside 10,8";
+  show(10.45, 22.45, -15, 15);
+  EXPECT_THAT(textsOf(numbers()), IsSupersetOf({"10,9", "-1", "-2"}));
+}
+
 TEST_F(MarkNumbers, StandAtTheEdgeBeyondWhichTheirAxisLies) {
   struct Row {
     double yi, yf, top;
