@@ -21,13 +21,11 @@ std::string entryValue(const std::string& text) {
   return replaceAll(value, "\r", "\\r");
 }
 
-/// A word of a command line: in quotation marks, where four characters need a "\", and with "%"
-/// doubled, as it stands for the documents.
+/// A word of a command line: in quotation marks, where four characters need a "\".
 std::string commandWord(const std::string& text) {
   std::string word;
   for (const char c : text) {
     if (c == '"' || c == '`' || c == '$' || c == '\\') word += '\\';
-    if (c == '%') word += '%';
     word += c;
   }
   return "\"" + word + "\"";
@@ -49,7 +47,7 @@ bool isPlain(std::string_view text) {
 
 bool canBeNamed(const DocumentType& type) {
   return isPlain(type.program_path) && isPlain(type.working_folder) &&
-         type.program_path.find('=') == std::string::npos;
+         type.program_path.find_first_of("=%") == std::string::npos;
 }
 
 std::string mimeType(const DocumentType& type) { return "application/x-" + type.name; }

@@ -14,7 +14,8 @@ struct DocumentType {
 };
 
 /// Whether a desktop entry can name the program and the folder: in UTF-8, without control
-/// characters, and the program without "=", which no entry may hold.
+/// characters, and the program without "=", which no entry may hold, and without "%": some desktops
+/// look for the program before they make one of the two that "%" is written as.
 bool canBeNamed(const DocumentType& type);
 
 /// "application/x-zel"

@@ -52,11 +52,12 @@ TEST_F(ClassesOfAUser, KeepsTheFourEntriesAsGiven) {
 }
 
 TEST_F(ClassesOfAUser, MakesNoDesktopEntryForAPathThatItWouldNameWrongly) {
-  for (const char* const path : {"/a\nb/zel", "/a\xFF/zel", "/a=b/zel"}) {
+  for (const char* const path : {"/a\nb/zel", "/a\xFF/zel", "/a=b/zel", "/100%/zel"}) {
     XdgClassRegistry registry(data, path, launched.launcher());
     EXPECT_TRUE(registerZelDocuments(registry, {"C:\\zel", "zel"}));
     EXPECT_FALSE(exists("applications"));
     EXPECT_FALSE(exists("mime"));
+    EXPECT_THAT(launched.lines, IsEmpty());
   }
 }
 

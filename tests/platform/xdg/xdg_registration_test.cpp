@@ -1,11 +1,8 @@
 // The registration with the desktop's real tools, in a home of its own.
 
 #include <QProcess>
-#include <QStandardPaths>
 #include <filesystem>
-#include <vector>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "app/desktop.h"
@@ -19,8 +16,6 @@
 namespace zel::test {
 namespace {
 
-using ::testing::HasSubstr;
-
 /// What a program writes, without the line's end.
 std::string outputOf(const QString& program, const QStringList& arguments) {
   QProcess process;
@@ -30,23 +25,51 @@ std::string outputOf(const QString& program, const QStringList& arguments) {
   return QString::fromUtf8(process.readAll()).trimmed().toStdString();
 }
 
-std::vector<std::string> missingPrograms(const std::vector<std::string>& programs) {
-  std::vector<std::string> missing;
-  for (const std::string& program : programs)
-    if (!isInstalled(program)) missing.push_back(program);
-  return missing;
-}
+/// Says what it was called with, and where, once it has all been said.
+constexpr const char* kProgram =
+    "#!/bin/sh\nprintf '%s|%s|%s' \"$#\" \"$1\" \"$PWD\" >\"$0.part\"\n"
+    "mv \"$0.part\" \"$0.said\"\n";
 
 class Registration : public ::testing::Test {
  protected:
   Registration() { std::filesystem::create_directories(home_ / "folder with blanks"); }
 
+  /// scripts/setup.sh installs them: without them nothing would be shown.
+  void SetUp() override {
+    for (const char* const tool :
+         {"desktop-file-validate", "gio", "update-mime-database", "xdg-mime"})
+      ASSERT_TRUE(isInstalled(tool)) << tool << " is not installed";
+  }
+
+  void tellDesktop() {
+    const DesktopServices services = makeDesktopServices(program);
+    registerZelDocuments(*services.registry, {"C:\\zel", "zel"});
+  }
+
   /// Registers as the first start does, and waits for the tools, the last of which writes the
   /// default program.
   void registerDocuments() {
-    const DesktopServices services = makeDesktopServices(program);
-    registerZelDocuments(*services.registry, {"C:\\zel", "zel"});
+    std::filesystem::remove(home_ / "config/mimeapps.list");
+    tellDesktop();
     EXPECT_TRUE(waitUntil([this] { return isDefault(); }));
+  }
+
+  /// Registers a program in a folder of this name from another one, and has the desktop open a
+  /// document with it.
+  void expectToOpen(const std::string& program_folder, const std::string& working_folder) {
+    const std::string folder = home_ / working_folder;
+    const std::string document = home_ / "a document.zel";
+    std::filesystem::create_directories(home_ / program_folder);
+    std::filesystem::create_directories(folder);
+    const CurrentFolderGuard current(folder);
+    program = home_ / (program_folder + "/zel");
+    putBytes(program, kProgram);
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    putBytes(document, "x");
+    registerDocuments();
+    ASSERT_EQ(outputOf("gio", {"launch", entry, QString::fromStdString(document)}), "");
+    EXPECT_TRUE(waitUntil([this] { return std::filesystem::exists(program + ".said"); }));
+    EXPECT_EQ(bytesOf(program + ".said"), "1|" + document + "|" + folder);
   }
 
   bool isDefault() const {
@@ -61,11 +84,10 @@ class Registration : public ::testing::Test {
   EnvironmentGuard desktop_{"XDG_CURRENT_DESKTOP", "GNOME"};
   LanguageGuard language_{"ES"};
   std::string program = home_ / "folder with blanks/zel";
+  const QString entry = QString::fromStdString(home_ / "share/applications/zel.desktop");
 };
 
 TEST_F(Registration, MakesTheProgramTheOneThatOpensDocuments) {
-  const auto missing = missingPrograms({"xdg-mime", "update-mime-database", "gio"});
-  if (!missing.empty()) GTEST_SKIP() << missing.front() << " is not installed";
   registerDocuments();
   putBytes(home_ / "picture.zel", "x");
   putBytes(home_ / "picture.other", "x");
@@ -78,29 +100,41 @@ TEST_F(Registration, MakesTheProgramTheOneThatOpensDocuments) {
 }
 
 TEST_F(Registration, WritesADesktopEntryWithoutFaults) {
-  const auto missing = missingPrograms({"desktop-file-validate", "xdg-mime"});
-  if (!missing.empty()) GTEST_SKIP() << missing.front() << " is not installed";
   registerDocuments();
-  const QString entry = QString::fromStdString(home_ / "share/applications/zel.desktop");
   EXPECT_EQ(outputOf("desktop-file-validate", {entry}), "");
 }
 
-// The desktop reads the command as it was meant, blanks included, and starts it in its folder.
-TEST_F(Registration, LetsTheDesktopOpenADocumentWithTheProgram) {
-  const auto missing = missingPrograms({"xdg-mime", "gio"});
-  if (!missing.empty()) GTEST_SKIP() << missing.front() << " is not installed";
-  putBytes(program,
-           "#!/bin/sh\nprintf '%s|%s|%s' \"$#\" \"$1\" \"$PWD\" >\"$0.part\"\n"
-           "mv \"$0.part\" \"$0.said\"\n");
-  std::filesystem::permissions(program, std::filesystem::perms::owner_all);
-  const CurrentFolderGuard current(home_.path());
-  registerDocuments();
-  const std::string document = home_ / "a document.zel";
-  putBytes(document, "x");
-  outputOf("gio", {"launch", QString::fromStdString(home_ / "share/applications/zel.desktop"),
-                   QString::fromStdString(document)});
-  EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(program + ".said"); }));
-  EXPECT_EQ(bytesOf(program + ".said"), "1|" + document + "|" + home_.path().string());
+// The desktop reads the command as it was meant, and starts it in its folder.
+TEST_F(Registration, LetsTheDesktopOpenADocumentWithTheProgramAtAnOddPath) {
+  for (const char* const name :
+       {"folder with  blanks", " blanks ", "it's", "a\"b\"c", "a$HOME$1", "$(id)", "a`id`b", "a\\b",
+        "a\\sb\\nc", "a\\", "a;b;", "~", "~root", "añejo Ñandú 日本", "#a&b|c>d<e", "(a)*?[b]!"}) {
+    SCOPED_TRACE(name);
+    expectToOpen(name, name);
+    if (HasFailure()) return;
+  }
+}
+
+TEST_F(Registration, LetsTheDesktopStartTheProgramInAFolderThatItCouldNotBeIn) {
+  for (const char* const name : {"100%", "100%f", "a=b"}) {
+    SCOPED_TRACE(name);
+    expectToOpen("program", name);
+    std::filesystem::remove(program + ".said");
+    if (HasFailure()) return;
+  }
+}
+
+TEST_F(Registration, MakesNoEntryForAProgramThatTheDesktopWouldNotStart) {
+  for (const char* const name :
+       {"100%", "100%f", "100%%", "a=b", "new\nline", "tab\t", "bytes\xFF", "bytes\xC3"}) {
+    SCOPED_TRACE(name);
+    std::filesystem::create_directories(home_ / name);
+    program = home_ / (std::string(name) + "/zel");
+    putBytes(program, kProgram);
+    tellDesktop();
+    EXPECT_FALSE(std::filesystem::exists(home_ / "share/applications"));
+    EXPECT_FALSE(std::filesystem::exists(home_ / "share/mime"));
+  }
 }
 
 TEST_F(Registration, LeavesToAPackageWhatAPackageHasDone) {
