@@ -1,8 +1,10 @@
 // Every allocation of a redraw, of a trace and of the check of a formula fails once. Each failure
 // reaches the caller, who tells of it, and what comes next is as if it had not been.
 
+#include <cstddef>
 #include <iostream>
 #include <new>
+#include <vector>
 
 #include "engine/formula_check.h"
 #include "failing_new.h"
@@ -20,15 +22,26 @@ class PlotInWantOfMemory : public PlotSessionTest {
     whole_ = picture.texts();
   }
 
-  /// Whether a call came to its end.
-  template <class Call>
-  static bool succeeds(Call call) {
-    try {
-      call();
-      return true;
-    } catch (const std::bad_alloc&) {
-      return false;
-    }
+  /// Lets each allocation of a call fail in turn. Every failure reaches the caller; `look` runs
+  /// behind each, and behind the call that goes through. Returns the number of failures.
+  template <class Call, class Look>
+  static long expectAllTold(Call call, Look look) {
+    long told = 0;
+    bool succeeds = false;
+    const auto attempt = [&] {
+      succeeds = false;
+      try {
+        call();
+        succeeds = true;
+      } catch (const std::bad_alloc&) {
+        ++told;
+      }
+    };
+    const long failures = failEachAllocation(false, attempt, look);
+    EXPECT_TRUE(succeeds);
+    EXPECT_EQ(told, failures);
+    std::cout << failures << " failures\n";
+    return failures;
   }
 
   Texts whole_;
@@ -36,17 +49,13 @@ class PlotInWantOfMemory : public PlotSessionTest {
 
 TEST_F(PlotInWantOfMemory, IsDrawnWholeByTheNextRedraw) {
   engine.SetP(0.5);
-  bool drawn = false;
-  const long failures = failEachAllocation(
-      false, [&] { drawn = succeeds([&] { session.redraw(); }); },
-      [&] {
-        EXPECT_EQ(engine.GetP(), 0.5);
-        screen.statuses.clear();
-      });
-  EXPECT_TRUE(drawn);
+  const long failures = expectAllTold([&] { session.redraw(); },
+                                      [&] {
+                                        EXPECT_EQ(engine.GetP(), 0.5);
+                                        screen.statuses.clear();
+                                      });
   EXPECT_EQ(picture.texts(), whole_);
   EXPECT_EQ(listener.messages, Texts());
-  std::cout << failures << " failures\n";
   EXPECT_GT(failures, 2 * Drawing::kMostNested);  // none of them counts as a redraw under way
 }
 
@@ -55,15 +64,16 @@ TEST_F(PlotInWantOfMemory, IsTracedAfterAFailure) {
   ASSERT_TRUE(session.activate('d'));
   session.execute(PlotCommand::recorrer);
   ASSERT_TRUE(session.cursor());
-  bool traced = false;
-  const long failures = failEachAllocation(
-      false, [&] { traced = succeeds([&] { session.execute(PlotCommand::recorrer_adelante); }); },
-      [] {});
-  EXPECT_TRUE(traced);
-  const double x = session.tracePosition();
+  const double before = session.tracePosition();
+  std::vector<double> positions;
+  const long failures = expectAllTold([&] { session.execute(PlotCommand::recorrer_adelante); },
+                                      [&] { positions.push_back(session.tracePosition()); });
+  EXPECT_GT(failures, 1);
+  std::vector<double> expected(static_cast<std::size_t>(failures), before);
+  expected.push_back(before + 1);  // a sample at every integer
+  EXPECT_EQ(positions, expected);
   session.execute(PlotCommand::recorrer_adelante);
-  EXPECT_GT(session.tracePosition(), x);
-  std::cout << failures << " failures\n";
+  EXPECT_EQ(session.tracePosition(), before + 2);
 }
 
 TEST_F(PlotInWantOfMemory, KeepsItsEngineAsItWas) {
@@ -71,19 +81,12 @@ TEST_F(PlotInWantOfMemory, KeepsItsEngineAsItWas) {
     Engine fresh([this](char letter) { return graphs.codeOf(letter); });
     std::string expected;
     const bool passes = CheckFormula(fresh, formula, expected);
-    failEachAllocation(
-        false,
-        [&] {
-          succeeds([&] {
-            std::string said;
-            CheckFormula(engine, formula, said);
-          });
-        },
-        [&] {
-          std::string said;
-          EXPECT_EQ(CheckFormula(engine, formula, said), passes) << formula;
-          EXPECT_EQ(said, expected) << formula;
-        });
+    const auto check = [&] {
+      std::string said;
+      EXPECT_EQ(CheckFormula(engine, formula, said), passes) << formula;
+      EXPECT_EQ(said, expected) << formula;
+    };
+    EXPECT_GT(expectAllTold(check, check), 0) << formula;
   }
 }
 
