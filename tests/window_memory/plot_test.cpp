@@ -1,7 +1,9 @@
 // Every allocation of what the plot window does fails once: it is done, or told and done the next
 // time.
 #include <QAbstractButton>
+#include <functional>
 #include <sstream>
+#include <string_view>
 
 #include "forms/plot/frm_grafico.h"
 #include "forms/plot/picture_box.h"
@@ -35,8 +37,29 @@ class PlotWindowInWantOfMemory : public WindowsInWantOfMemory {
     return text.str();
   }
 
+  /// What is on the paper, in few letters.
+  std::string pixels() {
+    const Bitmap bitmap = plot().picture().bitmap();
+    const std::string_view bytes(reinterpret_cast<const char*>(bitmap.pixels.data()),
+                                 bitmap.pixels.size() * sizeof bitmap.pixels[0]);
+    return std::to_string(std::hash<std::string_view>()(bytes));
+  }
+
+  /// Another size makes the plot draw itself anew, and so does the size that it had.
+  void resizeThereAndBack() {
+    const QSize size = plot().size();
+    for (const QSize& next : {size + QSize(40, 40), size}) {
+      plot().resize(next);
+      settle();
+    }
+  }
+
   Deed button(const char* name) {
-    return {[this] { open(); }, [this, name] { click(plot(), name); }, [this] { return place(); }};
+    return {.prepare = [this] { open(); },
+            .act = [this, name] { click(plot(), name); },
+            .held = [this] { return place(); },
+            .shown = [this] { return pixels(); },
+            .refresh = [this] { resizeThereAndBack(); }};
   }
 };
 
@@ -44,12 +67,14 @@ TEST_F(PlotWindowInWantOfMemory, IsOpenedAndDrawnOrNotAtAll) {
   const auto held = [this] {
     return plot().isVisible() ? "shown " + place() : text(mainWindow(), "txtRanXi");
   };
-  EXPECT_GT(expectDoneOrTold({[this] {
-                                leave();
-                                putDocument();
-                              },
-                              [this] { click(mainWindow(), "CmdGraficarLista"); }, held}),
-            30);
+  Deed opening = button("");
+  opening.prepare = [this] {
+    leave();
+    putDocument();
+  };
+  opening.act = [this] { click(mainWindow(), "CmdGraficarLista"); };
+  opening.held = held;
+  EXPECT_GT(expectDoneOrTold(opening), 30);
 }
 
 TEST_F(PlotWindowInWantOfMemory, GoesBackToTheMainWindow) {

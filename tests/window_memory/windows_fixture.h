@@ -29,15 +29,18 @@ class WindowsInWantOfMemory : public WindowTest {
 
   /// What a user does.
   struct Deed {
-    std::function<void()> prepare;            // puts things as they are before it
-    std::function<void()> act;                // as the real events do
-    std::function<std::string()> held;        // what is there, before or after it
-    std::optional<std::string> refused = {};  // what there may be besides
+    std::function<void()> prepare;                           // puts things as they are before it
+    std::function<void()> act;                               // as the real events do
+    std::function<std::string()> held;                       // what is there, before or after it
+    std::optional<std::string> refused = {};                 // what there may be besides
+    std::function<std::string()> shown = [] { return ""; };  // the picture that follows from it
+    std::function<void()> refresh = [] {};                   // makes the picture anew
   };
 
   /// Lets each allocation of a deed fail in turn, from the 40th on every `stride`-th. The deed is
   /// done or it is told, what is held is what was there before or what is there after it, the lists
-  /// show that, and done again it does what it always does. Returns the number of failures.
+  /// show that, and done again it does what it always does. A picture that is not what it is to be
+  /// is told, too, and whole when it is made anew. Returns the number of failures.
   long expectDoneOrTold(const Deed& deed, int stride = 1);
 
   /// The window of a name when it is shown, null otherwise.
