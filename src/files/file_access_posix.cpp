@@ -14,6 +14,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include "files/descriptor.h"
 #include "files/file_access.h"
 
 namespace zel {
@@ -131,13 +132,16 @@ void keepOtherAttributes(int number, const std::string& path) {
 
 int takeAfter(int number, const std::string& path, const struct stat& old) {
   constexpr auto kSameUser = static_cast<uid_t>(-1);
-  static_cast<void>(::fchown(number, old.st_uid, old.st_gid) == 0 ||
-                    ::fchown(number, kSameUser, old.st_gid) == 0);
+  const auto give = [&](uid_t user) {
+    return retried([&] { return ::fchown(number, user, old.st_gid); }) == 0;
+  };
+  static_cast<void>(give(old.st_uid) || give(kSameUser));
   struct stat made {};
   if (::fstat(number, &made) != 0) return errno;
   const mode_t mode = keepList(number, path, permissionsFor(made, old), made.st_gid == old.st_gid);
   if (::fstat(number, &made) != 0) return errno;
-  if ((made.st_mode & kPermissions) != mode && ::fchmod(number, mode) != 0) return errno;
+  const bool is_other = (made.st_mode & kPermissions) != mode;
+  if (is_other && retried([&] { return ::fchmod(number, mode); }) != 0) return errno;
   keepOtherAttributes(number, path);
   return 0;
 }

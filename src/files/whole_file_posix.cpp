@@ -88,7 +88,7 @@ class TemporaryFile {
   /// renameTo.
   int unhide() const {
     const bool hidden = mode_ != kHiddenMode;
-    return !hidden || ::fchmod(number(), mode_) == 0 ? 0 : errno;
+    return !hidden || setPermissions(mode_) == 0 ? 0 : errno;
   }
 
   /// Another descriptor keeps the lock.
@@ -126,8 +126,12 @@ class TemporaryFile {
     struct stat made {};
     if (::fstat(number(), &made) != 0) return errno;
     constexpr mode_t kPermissionBits = 07777;
-    if (::fchmod(number(), kHiddenMode) == 0) mode_ = made.st_mode & kPermissionBits;
+    if (setPermissions(kHiddenMode) == 0) mode_ = made.st_mode & kPermissionBits;
     return 0;
+  }
+
+  int setPermissions(mode_t mode) const {
+    return retried([&] { return ::fchmod(number(), mode); });
   }
 
   /// Whether it is locked, and not taken away before that. Where there are no locks, nobody takes

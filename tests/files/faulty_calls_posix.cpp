@@ -17,6 +17,7 @@ namespace {
 zel::test::Fault fault;
 bool is_counting = false;
 int calls = 0;
+std::string_view hit;  // the function of the last call that met the fault
 
 /// Counts a call, and tells whether it fails; errno is set then.
 bool isFaulty(std::string_view name) {
@@ -25,6 +26,7 @@ bool isFaulty(std::string_view name) {
   const bool is_hit =
       fault.first != 0 && (fault.lasts ? calls >= fault.first : calls == fault.first);
   if (!is_hit) return false;
+  hit = name;
   if (fault.event) {
     is_counting = false;
     fault.event();
@@ -54,6 +56,7 @@ namespace zel::test {
 void beginFaults(const Fault& next) {
   fault = next;
   calls = 0;
+  hit = {};
   is_counting = true;
 }
 
@@ -61,6 +64,8 @@ int endFaults() {
   is_counting = false;
   return calls;
 }
+
+std::string_view faultyCall() { return hit; }
 
 void atEachCall(Fault fault, const std::function<void()>& prepare,
                 const std::function<void()>& attempt, const std::function<void()>& look) {

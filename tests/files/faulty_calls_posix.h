@@ -23,6 +23,9 @@ void beginFaults(const Fault& fault);
 /// Stops counting. The number of calls.
 int endFaults();
 
+/// The function whose call met the fault last; empty where none has since it began.
+std::string_view faultyCall();
+
 /// Lets each call of an attempt meet the fault in turn, until one has fewer calls: `prepare` runs
 /// before each attempt, and `look` behind it.
 void atEachCall(Fault fault, const std::function<void()>& prepare,
