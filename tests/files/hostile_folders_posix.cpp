@@ -1,7 +1,10 @@
 // Saves on file systems that are full, that may not be written, or that go away, and over files of
 // other users. Root alone can make such file systems; they end with the child that mounts them.
 
+#include <algorithm>
 #include <cerrno>
+#include <functional>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <sched.h>
@@ -10,6 +13,7 @@
 
 #include "child_posix.h"
 #include "document_fixture.h"
+#include "faulty_calls_posix.h"
 #include "files/absolute_path.h"
 
 namespace zel::test {
@@ -28,28 +32,61 @@ class HostileFolders : public DocumentTest {
     old_bytes_ = *documentBytes(view, older_);
   }
 
+  /// Mounts a file system of this size there, for this process alone.
+  static bool mountADisk(const std::string& place, const char* size) {
+    return ::unshare(CLONE_NEWNS) == 0 && ::mount("", "/", "", MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           ::mount("none", place.c_str(), "tmpfs", 0, size) == 0;
+  }
+
+  /// Runs a check that returns kPassed, or kCannotMount, in a process of its own.
+  template <class Check>
+  static void expectToPass(Check check) {
+    const int result = inAChild(check);
+    if (result == kCannotMount) GTEST_SKIP() << "only root can mount a file system";
+    EXPECT_EQ(result, kPassed);
+  }
+
   /// Runs a check that returns kPassed in a process whose folder is a small file system of its own.
   template <class Check>
   void onASmallDisk(Check check) {
-    const int result = inAChild([&] {
-      const bool is_mounted = ::unshare(CLONE_NEWNS) == 0 &&
-                              ::mount("", "/", "", MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                              ::mount("none", disk().c_str(), "tmpfs", 0, "size=64k") == 0;
-      if (!is_mounted) return kCannotMount;
+    expectToPass([&] {
+      if (!mountADisk(disk(), "size=64k")) return kCannotMount;
       return writeDocument(path, view, older_).written ? check() : 0;
     });
-    if (result == kCannotMount) GTEST_SKIP() << "only root can mount a file system";
-    EXPECT_EQ(result, kPassed);
+  }
+
+  /// Saves while something happens before the first, the second, ... call, and notes in `ends`
+  /// whether each save says that it was done.
+  void atEachCallOfASave(const std::string& document, const std::function<void()>& prepare,
+                         const std::function<void()>& event, const std::function<void()>& look) {
+    constexpr int kMostAtOnce = 4096;  // so that there are some calls of `write`
+    atEachCall(
+        {.piece = kMostAtOnce, .event = event}, prepare,
+        [&] { ends_.push_back(writeDocument(document, view, newer_).written); }, look);
+  }
+
+  /// Most calls come before the last step, and one or more behind it: the saves before whose call
+  /// it happened have failed until then, and are done from there on.
+  void expectFailuresFirst(std::size_t fewest) const {
+    EXPECT_TRUE(std::ranges::is_sorted(ends_));
+    EXPECT_GT(std::ranges::count(ends_, false), fewest);
+    EXPECT_GT(std::ranges::count(ends_, true), 1);  // the last one is untouched
   }
 
   std::string disk() const { return folder.path().string(); }
   bool saves() const { return writeDocument(path, view, newer_).written; }
   bool holdsOld() const { return bytesOf(path) == old_bytes_; }
+  static std::set<std::string> namesIn(const std::string& place) {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(place)) names.insert(entry.path().filename());
+    return names;
+  }
   bool isAlone() const { return folder.names() == std::set<std::string>{"sample.zel"}; }
 
   GraphTable older_;
   GraphTable newer_;
   std::string old_bytes_;
+  std::vector<bool> ends_;
 };
 
 TEST_F(HostileFolders, KeepTheOlderDocumentWhereTheDiskIsFull) {
@@ -90,8 +127,40 @@ TEST_F(HostileFolders, ComplainWhereTheFileSystemWentAway) {
   });
 }
 
-/// The file system goes away in the middle of the save: the process stands in a folder without
-/// name.
+/// The same disk in two places: the one that the save sees goes away.
+TEST_F(HostileFolders, LeaveTheOlderOrTheNewerDocumentWhereTheDiskGoesAwayInTheMiddle) {
+  expectToPass([&] {
+    const TemporaryFolder always_there;
+    const std::string kept = always_there / "sub/sample.zel";
+    const auto plug_in = [&] {
+      return ::mount(always_there.path().c_str(), disk().c_str(), "", MS_BIND, nullptr) == 0;
+    };
+    if (!mountADisk(always_there.path(), "size=256k")) return kCannotMount;
+    fs::create_directory(always_there / "sub");
+    const std::string newer = *documentBytes(view, newer_);
+    atEachCallOfASave(
+        folder / "sub/sample.zel",
+        [&] {
+          putBytes(kept, old_bytes_);
+          EXPECT_TRUE(plug_in());
+        },
+        [&] { EXPECT_EQ(::umount2(disk().c_str(), MNT_DETACH), 0); },
+        [&] {
+          EXPECT_EQ(bytesOf(kept), ends_.back() ? newer : old_bytes_);
+          if (faultyCall().empty()) return;
+          EXPECT_EQ(folder.names(), std::set<std::string>{});  // nothing is made where it was
+          EXPECT_TRUE(plug_in());
+          EXPECT_TRUE(writeDocument(folder / "sub/sample.zel", view, newer_).written);
+          EXPECT_EQ(bytesOf(kept), newer);
+          EXPECT_EQ(namesIn(always_there / "sub"), std::set<std::string>{"sample.zel"});
+          EXPECT_EQ(::umount2(disk().c_str(), MNT_DETACH), 0);
+        });
+    expectFailuresFirst(6);
+    return HasFailure() ? 0 : kPassed;
+  });
+}
+
+/// The process stands in a folder without a name.
 TEST_F(HostileFolders, ComplainWhereTheFolderWentAway) {
   fs::create_directory(folder / "sub");
   const CurrentFolderGuard current(folder.path() / "sub");
@@ -99,6 +168,23 @@ TEST_F(HostileFolders, ComplainWhereTheFolderWentAway) {
   EXPECT_FALSE(writeDocument("sample.zel", view, newer_).written);
   EXPECT_EQ(absolutePath("sample.zel"), "sample.zel");
   EXPECT_EQ(folder.names(), std::set<std::string>{});
+}
+
+TEST_F(HostileFolders, ComplainWhereTheFolderGoesAwayInTheMiddle) {
+  const CurrentFolderGuard current(folder.path());
+  for (const char* const document : {"sample.zel", "../sub/sample.zel"}) {
+    ends_.clear();
+    atEachCallOfASave(
+        document,
+        [&] {
+          fs::create_directory(folder / "sub");
+          fs::current_path(folder / "sub");
+          putBytes("sample.zel", old_bytes_);
+        },
+        [&] { fs::remove_all(folder / "sub"); },
+        [&] { EXPECT_TRUE(faultyCall().empty() || folder.names().empty()); });
+    expectFailuresFirst(6);
+  }
 }
 
 TEST_F(HostileFolders, KeepAStrangersFileThatMayBeWrittenAndNotReplaced) {
