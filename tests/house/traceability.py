@@ -1,6 +1,7 @@
 """What the program promises by name, and no test shows: rows of the message table, controls, keys
 of the toolbar, bounds of docs/limits.md; and where that document is not true. One line for each."""
 
+import fnmatch
 import functools
 import pathlib
 import re
@@ -184,18 +185,39 @@ def bounds(root, tests):
         yield from (f"test {name}" for name in shown if not tests.exist(root, name))
 
 
+RELIABILITY = "docs/reliability.md"
+
+
 def named_tests(root, tests):
-    """Tests that the document of what is promised names, one or a suite."""
+    """Tests that the document of what is promised names, one or a suite, or by a filter."""
+    text = (root / RELIABILITY).read_text("utf-8")
     suites = {name.split(".")[0] for name in tests.names}
-    for suite, name in re.findall(r"`(\w+)\.([A-Z]\w*|\*)`", (root / "docs/reliability.md").read_text("utf-8")):
+    for suite, name in re.findall(r"`(\w+)\.([A-Z]\w*|\*)`", text):
         if suite not in suites if name == "*" else f"{suite}.{name}" not in tests.names:
-            yield f"test {suite}.{name} of docs/reliability.md"
+            yield f"test {suite}.{name} of {RELIABILITY}"
+    for folder, option in re.findall(r"\b(\w+)_tests --gtest_filter='?([^\s'`]+)", text):
+        names = Tests(root / "tests" / folder).names
+        for wanted in option.split("-")[0].split(":"):
+            if not fnmatch.filter(names, wanted):
+                yield f"filter {wanted} of {RELIABILITY}"
+
+
+def named_files(root, _):
+    """What the same document names by its path, and scripts by their names alone: these are in each
+    folder of the tests that their cell or paragraph names, or in any where it names none."""
+    for cell in re.split(r" \| |\n\n", (root / RELIABILITY).read_text("utf-8")):
+        paths = set(re.findall(r"(?<![\w/])(?:tests|scripts|fuzz)/[\w./-]*[\w/]", cell))
+        yield from (f"file {path} of {RELIABILITY}" for path in paths if not (root / path).exists())
+        folders = [path for path in paths if re.fullmatch(r"tests/[\w/]+/", path)] or ["tests/**/"]
+        for script in re.findall(r"`(\w+\.(?:sh|py))`", cell):
+            yield from (f"script {script} of {RELIABILITY}, in {folder}"
+                        for folder in folders if not any(root.glob(folder + script)))
 
 
 def main():
     root = pathlib.Path(sys.argv[1])
     tests = Tests(root / "tests")
-    for check in (messages, controls, toolbar_keys, bounds, named_tests):
+    for check in (messages, controls, toolbar_keys, bounds, named_tests, named_files):
         for line in sorted(set(check(root, tests))):
             print(line)
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Each message that the program shows, in both languages, each control and each key of the toolbar is
-# named by a test. docs/limits.md has each bound with its number, and a test that is there.
+# named by a test. docs/limits.md has each bound with its number, and a test that is there. The tests,
+# filters and files that docs/reliability.md names are there.
 set -euo pipefail
 root=$2
 here=$(dirname "$0")
@@ -52,9 +53,18 @@ Loops:
 - One (`Suite.Shows`).
 - Two.
 EOF
-# shellcheck disable=SC2016 # the backticks are the document's
-echo '`Suite.*`, `Suite.IsGoneToo`, `Other.*`' >"$sample/docs/reliability.md"
-cat >"$sample/tests/a_test.cpp" <<'EOF'
+cat >"$sample/docs/reliability.md" <<'EOF'
+| a | `Suite.*`, `Suite.IsGoneToo`, `Other.*` |
+| b | `bin/some_tests --gtest_filter='Suite.Sh*'` | `some_tests --gtest_filter=Suite.Shows:Suite.Is*` |
+| c | `other_tests --gtest_filter='Suite.*'` |
+| d | `tests/some/here_test.sh` | `tests/some/gone_test.sh`, `scripts/gone.sh 10` |
+| e | `here_test.sh` and `lost_test.sh` in `tests/some/` and `tests/other/` |
+
+Besides `here_test.sh` in the folder `tests/some` there is `nowhere_test.sh`.
+EOF
+mkdir "$sample"/tests/{some,other}
+touch "$sample"/tests/{some/here_test.sh,other/lost_test.sh}
+cat >"$sample/tests/some/a_test.cpp" <<'EOF'
 TEST_F(Suite,
        Shows) {
   "Hecho. Campo F." "\r\nField F." "uno dos\r\n" "none two" "txtA" Slider9 Arriba kMostWrong
@@ -74,8 +84,15 @@ bound kMostWrong is {1000}, not 1,001
 bound of f: nothing shows it
 nothing shows: - Two.
 test Suite.IsGone, of e
+filter Suite.* of docs/reliability.md
+filter Suite.Is* of docs/reliability.md
 test Other.* of docs/reliability.md
 test Suite.IsGoneToo of docs/reliability.md
+file scripts/gone.sh of docs/reliability.md
+file tests/some/gone_test.sh of docs/reliability.md
+script here_test.sh of docs/reliability.md, in tests/other/
+script lost_test.sh of docs/reliability.md, in tests/some/
+script nowhere_test.sh of docs/reliability.md, in tests/**/
 EOF
 if ! python3 "$here/traceability.py" "$sample" | diff "$sample/expected" -; then
   echo "The check itself is wrong."
