@@ -1,6 +1,7 @@
 #include "platform/widgets/help_page.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextTable>
@@ -69,19 +70,25 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
 
 void HelpPage::take(const std::string& text, const QString& folder) {
   places_.clear();
-  const QString content = QString::fromStdString(text);
-  if (Qt::mightBeRichText(content))
-    setHtml(content);
-  else
-    setMarkdown(content);
-  document()->setDocumentMargin(kTextMargin);
-  layOutTables(document()->rootFrame(), lineColour(palette()));
+  layOut(QString::fromStdString(text));
   listHeadings();
   loadPictures(folder);
   fitPictures();
   unmark();
   verticalScrollBar()->setValue(0);
   emit placesChanged();
+}
+
+/// Once, and not at each line as it comes.
+void HelpPage::layOut(const QString& content) {
+  document()->setLayoutEnabled(false);
+  const auto enable = qScopeGuard([this] { document()->setLayoutEnabled(true); });
+  if (Qt::mightBeRichText(content))
+    setHtml(content);
+  else
+    setMarkdown(content);
+  document()->setDocumentMargin(kTextMargin);
+  layOutTables(document()->rootFrame(), lineColour(palette()));
 }
 
 void HelpPage::listHeadings() {

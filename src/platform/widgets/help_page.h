@@ -51,6 +51,7 @@ class HelpPage : public QTextBrowser {
 
  private:
   void follow(const QUrl& link);
+  void layOut(const QString& content);
   void listHeadings();
   void loadPictures(const QString& folder);
   void fitPictures();
