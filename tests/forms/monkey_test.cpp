@@ -17,6 +17,7 @@
 #include "forms/monkey_hands.h"
 #include "forms/waits.h"
 #include "forms/window_fixture.h"
+#include "platform/widgets/widget_help_viewer.h"
 
 namespace zel::test {
 namespace {
@@ -40,6 +41,7 @@ class Monkey : public WindowTest {
       timer.start(0);
     }
     program.last_session = LastSession("state");
+    services.help.real = &help_;
     writeHostileDocuments();
     addFunction('a', "x^2/4-2");
     addFunction('b', "inv(x)");
@@ -119,11 +121,13 @@ class Monkey : public WindowTest {
     open->trigger();
   }
 
-  /// Few random clicks lead to the plot, to the export window or from the plot to the print window,
-  /// so these are opened on purpose now and then.
+  /// Few random clicks lead to the plot, to the export window, to the help or from the plot to the
+  /// print window, so these are opened on purpose now and then.
   void goFurther(QWidget& window) {
     auto* const exports = window.findChild<QAction*>("mExportar");
     if (exports && below(3) == 0) return exports->trigger();
+    auto* const help = window.findChild<QAction*>("mTemasDeAyuda");
+    if (help && below(6) == 0) return help->trigger();
     for (const char* name : {"CmdGraficarLista", "Imprimir"})
       if (auto* const button = window.findChild<QAbstractButton*>(name)) return button->click();
     hands_.click(window);
@@ -218,7 +222,7 @@ class Monkey : public WindowTest {
   bool hasBeenEverywhere() const {
     constexpr std::array kWindows = {"frmIdioma",      "frmPresentacion", "frmDatosIni",
                                      "frmAdmGraficos", "frmGrafico",      "frmImprimir",
-                                     "frmExportar",    "frmAcercaDe"};
+                                     "frmExportar",    "frmAcercaDe",     "frmAyuda"};
     return std::ranges::all_of(kWindows, [&](const char* name) { return visits_.contains(name); });
   }
 
@@ -241,6 +245,7 @@ class Monkey : public WindowTest {
   Waits wait_{"start"};
 
  private:
+  WidgetHelpViewer help_{{ZEL_SOURCE_DIR "/help"}};  // its links lead to its own headings alone
   std::optional<Forms> forms_;
   QTimer patience_;
   static constexpr int kDeepest = 3;

@@ -82,9 +82,11 @@ class FakeHelpViewer : public HelpViewer {
  public:
   void show(const std::string& help_file, int command) override {
     shown.emplace_back(help_file, command);
+    if (real) real->show(help_file, command);
   }
 
   std::vector<std::pair<std::string, int>> shown;
+  HelpViewer* real = nullptr;  // which shows it, too
 };
 
 class FakeClassRegistry : public ClassRegistry {
