@@ -129,8 +129,8 @@ TEST_F(HostileFolders, ComplainWhereTheFileSystemWentAway) {
 
 /// The same disk in two places: the one that the save sees goes away.
 TEST_F(HostileFolders, LeaveTheOlderOrTheNewerDocumentWhereTheDiskGoesAwayInTheMiddle) {
+  const TemporaryFolder always_there;
   expectToPass([&] {
-    const TemporaryFolder always_there;
     const std::string kept = always_there / "sub/sample.zel";
     const auto plug_in = [&] {
       return ::mount(always_there.path().c_str(), disk().c_str(), "", MS_BIND, nullptr) == 0;
