@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "files/whole_file.h"
+#include "support/access_list_win32.h"
 #include "support/temporary_folder.h"
 
 namespace zel::test {
@@ -50,39 +51,11 @@ TEST_F(WholeFileOfWindows, LeavesAFileThatAnotherProgramKeepsForItself) {
   expectOnly("newer");
 }
 
-/// Who may use a file, as the system writes it.
-std::vector<char> accessListOf(const std::wstring& path) {
-  DWORD size = 0;
-  GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
-  std::vector<char> list(size);
-  EXPECT_TRUE(GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, list.data(), size, &size));
-  return list;
-}
-
-/// Nobody but a file's owner may use it from now on.
-void keepForItsOwner(const std::wstring& path) {
-  DWORD size = 0;
-  GetFileSecurityW(path.c_str(), OWNER_SECURITY_INFORMATION, nullptr, 0, &size);
-  std::vector<char> described(size);
-  PSID owner = nullptr;
-  BOOL is_default = FALSE;
-  ASSERT_TRUE(
-      GetFileSecurityW(path.c_str(), OWNER_SECURITY_INFORMATION, described.data(), size, &size));
-  ASSERT_TRUE(GetSecurityDescriptorOwner(described.data(), &owner, &is_default));
-  std::vector<char> room(200);
-  const auto list = reinterpret_cast<PACL>(room.data());
-  SECURITY_DESCRIPTOR access{};
-  ASSERT_TRUE(InitializeAcl(list, static_cast<DWORD>(room.size()), ACL_REVISION));
-  ASSERT_TRUE(AddAccessAllowedAce(list, ACL_REVISION, FILE_ALL_ACCESS, owner));
-  ASSERT_TRUE(InitializeSecurityDescriptor(&access, SECURITY_DESCRIPTOR_REVISION));
-  ASSERT_TRUE(SetSecurityDescriptorDacl(&access, TRUE, list, FALSE));
-  ASSERT_TRUE(SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, &access));
-}
-
 TEST_F(WholeFileOfWindows, KeepsTheAccessListOfTheOlderFile) {
   const std::vector<char> any = accessListOf(wide());
-  keepForItsOwner(wide());
+  ASSERT_TRUE(keepForItsOwner(wide()));
   const std::vector<char> own = accessListOf(wide());
+  ASSERT_FALSE(own.empty());
   ASSERT_NE(own, any);
   EXPECT_TRUE(writes());
   expectOnly("newer");

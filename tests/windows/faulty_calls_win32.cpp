@@ -6,8 +6,9 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <type_traits>
-#include <utility>
 
 namespace {
 
@@ -15,24 +16,15 @@ zel::test::Fault fault;
 bool is_counting = false;
 int calls = 0;
 
-template <class Function>
-Function* systemFunction(const char* name) {
-  return reinterpret_cast<Function*>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), name)));
-}
+/// The name of a function, as an argument of templates.
+template <std::size_t size>
+struct Name {
+  char text[size];
 
-/// What it returns where it fails. A handle that fails to close is closed all the same.
-template <class Function, class... Arguments>
-auto failed(const char* name, Arguments... arguments) {
-  using Result = decltype(std::declval<Function*>()(arguments...));
-  if constexpr (std::is_same_v<Function, decltype(CloseHandle)>)
-    systemFunction<Function>(name)(arguments...);
-  SetLastError(fault.error);
-  if constexpr (std::is_same_v<Result, HANDLE>)
-    return INVALID_HANDLE_VALUE;
-  else
-    return Result{};
-}
+  constexpr Name(const char (&from)[size]) { std::copy_n(from, size, text); }
+
+  constexpr bool is(std::string_view other) const { return other == text; }
+};
 
 /// Counts a call, and tells whether something happens to it.
 bool isHit(std::string_view name) {
@@ -47,65 +39,74 @@ void happen() {
   is_counting = true;
 }
 
-/// Calls the system's function of this name, unless it is to fail.
-template <class Function, class... Arguments>
-auto counted(const char* name, Arguments... arguments) {
-  const bool is_hit = isHit(name);
-  if (is_hit && !fault.event) return failed<Function>(name, arguments...);
-  if (is_hit && !fault.is_behind) happen();
-  const auto result = systemFunction<Function>(name)(arguments...);
-  const DWORD error = GetLastError();
-  if (is_hit && fault.is_behind) happen();
-  SetLastError(error);
-  return result;
-}
+/// What is called in the place of a function of the system.
+template <Name name, class Function>
+struct Caught;
 
-HANDLE WINAPI createFile(LPCWSTR path, DWORD access, DWORD share, LPSECURITY_ATTRIBUTES security,
-                         DWORD disposition, DWORD flags, HANDLE from) {
-  return counted<decltype(CreateFileW)>("CreateFileW", path, access, share, security, disposition,
-                                        flags, from);
-}
+template <Name name, class Result, class... Arguments>
+struct Caught<name, Result(Arguments...)> {
+  /// Calls the system's function, unless it is to fail.
+  static Result call(Arguments... arguments) {
+    const bool is_hit = isHit(name.text);
+    if (is_hit && !fault.event) return failed(arguments...);
+    if (is_hit && !fault.is_behind) happen();
+    Result result = callSystem(arguments...);
+    const DWORD error = GetLastError();
+    if (is_hit && fault.is_behind) happen();
+    if constexpr (name.is("GetFileAttributesW"))
+      if (is_counting && fault.sees_links && result != INVALID_FILE_ATTRIBUTES)
+        result |= FILE_ATTRIBUTE_REPARSE_POINT;
+    SetLastError(error);
+    return result;
+  }
 
-BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED way) {
-  return counted<decltype(WriteFile)>("WriteFile", file, bytes, count, written, way);
-}
+ private:
+  static Result callSystem(Arguments... arguments) {
+    using Function = Result(Arguments...);
+    static const auto function = reinterpret_cast<Function*>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernelbase.dll"), name.text)));
+    return function(arguments...);
+  }
 
-BOOL WINAPI flushFile(HANDLE file) {
-  return counted<decltype(FlushFileBuffers)>("FlushFileBuffers", file);
-}
-
-BOOL WINAPI closeHandle(HANDLE handle) {
-  return counted<decltype(CloseHandle)>("CloseHandle", handle);
-}
-
-BOOL WINAPI replaceFile(LPCWSTR path, LPCWSTR by, LPCWSTR backup, DWORD flags, LPVOID, LPVOID) {
-  return counted<decltype(ReplaceFileW)>("ReplaceFileW", path, by, backup, flags, nullptr, nullptr);
-}
-
-BOOL WINAPI moveFile(LPCWSTR from, LPCWSTR to, DWORD flags) {
-  return counted<decltype(MoveFileExW)>("MoveFileExW", from, to, flags);
-}
-
-BOOL WINAPI deleteFile(LPCWSTR path) { return counted<decltype(DeleteFileW)>("DeleteFileW", path); }
+  /// What it returns where it fails. What fails to close is closed all the same.
+  static Result failed(Arguments... arguments) {
+    if constexpr (name.is("CloseHandle") || name.is("FindClose")) callSystem(arguments...);
+    SetLastError(fault.error);
+    if constexpr (std::is_same_v<Result, HANDLE>)
+      return INVALID_HANDLE_VALUE;
+    else if constexpr (name.is("GetFileAttributesW"))
+      return INVALID_FILE_ATTRIBUTES;
+    else
+      return Result{};
+  }
+};
 
 }  // namespace
 
-extern "C" {
-extern const decltype(&createFile) caught_create __asm__("__imp_CreateFileW");
-extern const decltype(&writeFile) caught_write __asm__("__imp_WriteFile");
-extern const decltype(&flushFile) caught_flush __asm__("__imp_FlushFileBuffers");
-extern const decltype(&closeHandle) caught_close __asm__("__imp_CloseHandle");
-extern const decltype(&replaceFile) caught_replace __asm__("__imp_ReplaceFileW");
-extern const decltype(&moveFile) caught_move __asm__("__imp_MoveFileExW");
-extern const decltype(&deleteFile) caught_delete __asm__("__imp_DeleteFileW");
-const decltype(&createFile) caught_create = createFile;
-const decltype(&writeFile) caught_write = writeFile;
-const decltype(&flushFile) caught_flush = flushFile;
-const decltype(&closeHandle) caught_close = closeHandle;
-const decltype(&replaceFile) caught_replace = replaceFile;
-const decltype(&moveFile) caught_move = moveFile;
-const decltype(&deleteFile) caught_delete = deleteFile;
-}
+#define ZEL_CAUGHT(name)                                                     \
+  extern "C" {                                                               \
+  extern const decltype(&name) caught_##name __asm__("__imp_" #name);        \
+  const decltype(&name) caught_##name = Caught<#name, decltype(name)>::call; \
+  }
+
+ZEL_CAUGHT(CloseHandle)
+ZEL_CAUGHT(CreateFileW)
+ZEL_CAUGHT(DeleteFileW)
+ZEL_CAUGHT(FindClose)
+ZEL_CAUGHT(FindFirstFileW)
+ZEL_CAUGHT(FindNextFileW)
+ZEL_CAUGHT(FlushFileBuffers)
+ZEL_CAUGHT(GetFileAttributesExW)
+ZEL_CAUGHT(GetFileAttributesW)
+ZEL_CAUGHT(GetFileInformationByHandle)
+ZEL_CAUGHT(GetFileSizeEx)
+ZEL_CAUGHT(GetFileType)
+ZEL_CAUGHT(GetFinalPathNameByHandleW)
+ZEL_CAUGHT(GetKernelObjectSecurity)
+ZEL_CAUGHT(MoveFileExW)
+ZEL_CAUGHT(ReadFile)
+ZEL_CAUGHT(SetFileInformationByHandle)
+ZEL_CAUGHT(WriteFile)
 
 namespace zel::test {
 

@@ -16,6 +16,7 @@ struct Fault {
   std::string_view only = {};        // the function whose calls count; empty for all of them
   std::function<void()> event = {};  // what happens instead, and the call goes through
   bool is_behind = false;            // the event comes after the call
+  bool sees_links = false;           // files are said to be links; no call fails for it
 };
 
 /// Counts from now on.

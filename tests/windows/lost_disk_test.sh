@@ -60,8 +60,8 @@ save_until() {
   [[ $heard == waiting* ]]
 }
 saver() { cli_path=${cli_path%/*}/save_interrupted.exe cli "$@"; }
-head -c 300000 /dev/zero | tr '\0' o >"$work/old"
-head -c 2500000 /dev/zero | tr '\0' n >"$work/new"
+head -c 30000 /dev/zero | tr '\0' o >"$work/old"
+head -c 1200000 /dev/zero | tr '\0' n >"$work/new"
 mkfifo "$work/told" "$work/heard"
 ends=()
 for ((call = 1; call < 100; ++call)); do

@@ -1,9 +1,9 @@
 // save_interrupted FOLDER: saves a document over another one, in processes that end themselves
 // before the first, the second, ... call that touches a file, and after each; then one that is let
-// be. Whatever a stopped process leaves must be the older or the newer document, whole, and the
-// next save takes away what is left beside it. The same where a call fails, or it and all later
-// ones, where the last step is refused for a while, and where four processes save at once, one of
-// which ends itself.
+// be. Whatever a stopped process leaves must be the older or the newer document, whole and for its
+// owner alone, and the next save takes away what is left beside it. The same where a call fails, or
+// it and all later ones, of a save or of a look at the document, where the last step is refused for
+// a while, and where four processes save at once, one of which ends itself.
 //
 // save_interrupted wait CALL PATH: saves there, but says "waiting" before that call and waits for a
 // line.
@@ -12,7 +12,6 @@
 #include <windows.h>
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string>
@@ -21,12 +20,19 @@
 
 #include "faulty_calls_win32.h"
 #include "files/whole_file.h"
+#include "support/access_list_win32.h"
+#include "support/temporary_folder.h"
 
 namespace {
 
+using zel::test::accessListOf;
 using zel::test::beginFaults;
+using zel::test::bytesOf;
 using zel::test::endFaults;
 using zel::test::Fault;
+using zel::test::keepForItsOwner;
+using zel::test::putBytes;
+using zel::test::utf8Of;
 
 constexpr UINT kStopped = 77;
 
@@ -34,18 +40,8 @@ void stop() { TerminateProcess(GetCurrentProcess(), kStopped); }
 
 namespace fs = std::filesystem;
 
-const std::string kOld(300000, 'o');
-const std::string kNew(2500000, 'n');  // more than one call of WriteFile
-
-std::string utf8(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
-std::string bytesOf(const fs::path& path) {
-  std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
+const std::string kOld(30000, 'o');
+const std::string kNew(1200000, 'n');  // more than one call of WriteFile
 
 /// This program anew, with a task of its own; null where it does not start.
 HANDLE startSaver(const fs::path& path, const std::string& task, int call) {
@@ -73,94 +69,160 @@ DWORD statusOf(HANDLE process) {
   return status;
 }
 
-/// What is wrong with what a stopped process left; empty when nothing is.
-std::string complaint(const fs::path& folder, const fs::path& document, bool existed) {
-  for (const auto& entry : fs::directory_iterator(folder)) {
-    const std::string name = utf8(entry.path().filename());
-    if (entry.path() != document && !name.starts_with(".zel-")) return "a file " + name;
-  }
-  if (!fs::exists(document)) return existed ? "no document" : "";
-  const std::string bytes = bytesOf(document);
-  if (bytes == kNew || (existed && bytes == kOld)) return {};
-  return "neither document, but " + std::to_string(bytes.size()) + " bytes";
-}
+enum class Target { missing, there, link };
 
-/// The path of a document in a folder that is new, with the older document or nothing.
-fs::path prepare(const fs::path& folder, bool existed) {
-  const fs::path document = folder / u8"é Ω.zel";
+/// A document that is to be saved.
+struct Document {
+  fs::path path;
+  bool existed;
+  std::vector<char> access;  // who may use it, where it existed
+
+  std::string name() const { return utf8Of(path); }
+  fs::path folder() const { return path.parent_path(); }
+  bool isAlone() const {
+    return std::distance(fs::directory_iterator(folder()), fs::directory_iterator()) == 1;
+  }
+};
+
+/// One document in a folder that is new, the older one or nothing.
+Document prepare(const fs::path& folder, Target target) {
+  Document document{folder / u8"é Ω.zel", target != Target::missing, {}};
   fs::remove_all(folder);
   fs::create_directories(folder);
-  if (existed) std::ofstream(document, std::ios::binary) << kOld;
+  if (!document.existed) return document;
+  putBytes(document.name(), kOld);
+  const auto for_anybody = accessListOf(document.path);
+  keepForItsOwner(document.path);
+  document.access = accessListOf(document.path);
+  if (document.access == for_anybody) std::cout << "the document is for anybody\n";
   return document;
 }
 
-/// Whether there is one file in the folder.
-bool isAlone(const fs::path& folder) {
-  return std::distance(fs::directory_iterator(folder), fs::directory_iterator()) == 1;
+/// What is wrong with what a save left; empty when nothing is.
+std::string complaint(const Document& document) {
+  for (const auto& entry : fs::directory_iterator(document.folder())) {
+    const std::string name = utf8Of(entry.path().filename());
+    if (entry.path() != document.path && !name.starts_with(".zel-")) return "a file " + name;
+  }
+  if (!fs::exists(document.path)) return document.existed ? "no document" : "";
+  if (document.existed && accessListOf(document.path) != document.access)
+    return "others may use it";
+  const std::string bytes = bytesOf(document.name());
+  if (bytes == kNew || (document.existed && bytes == kOld)) return {};
+  return "neither document, but " + std::to_string(bytes.size()) + " bytes";
 }
 
-/// Whether an untouched save leaves the newer document alone in the folder.
-bool isCleaned(const fs::path& folder, const fs::path& document) {
-  return zel::writeWholeFile(utf8(document), kNew).written && bytesOf(document) == kNew &&
-         isAlone(folder);
+/// The same, and what is wrong with what an untouched save leaves then.
+std::string complaintAndSave(const Document& document) {
+  const std::string wrong = complaint(document);
+  if (!wrong.empty()) return wrong;
+  const bool is_clean = zel::writeWholeFile(document.name(), kNew).written &&
+                        bytesOf(document.name()) == kNew && document.isAlone() &&
+                        (!document.existed || accessListOf(document.path) == document.access);
+  return is_clean ? "" : "not cleaned by the next save";
+}
+
+/// What is wrong with its answer; empty when nothing is.
+std::string save(const Document& document) {
+  const bool written = zel::writeWholeFile(document.name(), kNew).written;
+  return written && bytesOf(document.name()) != kNew ? "written, and it is not there" : "";
+}
+
+/// All but a save, none of which changes a document.
+std::string look(const Document& document) {
+  const auto bytes = zel::readWholeFile(document.name());
+  if (bytes && *bytes != kOld) return "read as " + std::to_string(bytes->size()) + " bytes";
+  if (!zel::fileExists(document.name())) return "not there";
+  if (zel::createMissingFile(document.name())) return "made anew";
+  zel::removeEmptyFile(document.name());
+  zel::obstacleToWriting(document.name());
+  return bytesOf(document.name()) == kOld ? "" : "not the older document any more";
 }
 
 /// Lets every call fail in turn. False for a complaint.
-bool survives(const fs::path& folder, DWORD error, bool for_good, bool existed) {
-  int call = 0;
+bool survives(const fs::path& folder, DWORD error, bool for_good, Target target,
+              std::string (*act)(const Document&)) {
+  Fault fault{.error = error, .sees_links = target == Target::link};
+  int made = 0;
   do {
-    ++call;
-    const fs::path document = prepare(folder, existed);
-    beginFaults({.first = call, .last = for_good ? Fault::kForGood : call, .error = error});
-    const bool written = zel::writeWholeFile(utf8(document), kNew).written;
-    const int made = endFaults();
-    std::string wrong = complaint(folder, document, existed);
-    if (wrong.empty() && written && bytesOf(document) != kNew)
-      wrong = "written, and it is not there";
-    if (wrong.empty() && !isCleaned(folder, document)) wrong = "not cleaned by the next save";
+    fault.last = for_good ? Fault::kForGood : fault.first + 1;
+    ++fault.first;
+    const Document document = prepare(folder, target);
+    beginFaults(fault);
+    std::string wrong = act(document);
+    made = endFaults();
+    if (wrong.empty()) wrong = complaintAndSave(document);
     if (!wrong.empty()) {
-      std::cout << "error " << error << " at call " << call << ": " << wrong << '\n';
+      std::cout << "error " << error << " at call " << fault.first << ": " << wrong << '\n';
       return false;
     }
-    if (made < call) break;
-  } while (true);
+  } while (made >= fault.first);
   constexpr int kFewest = 6;
-  return call > kFewest;
+  return fault.first > kFewest;
 }
 
-/// Refuses the last step so often, from the first time on. False for a complaint.
-bool endsAsExpected(const fs::path& folder, DWORD error, int refusals, bool expected) {
-  const fs::path document = prepare(folder, true);
-  beginFaults({.first = 1, .last = refusals, .error = error, .only = "MoveFileExW"});
-  const bool written = zel::writeWholeFile(utf8(document), kNew).written;
+/// Lets the calls of one function fail so often, from the first time on. False for a complaint.
+bool endsAsExpected(const fs::path& folder, const Fault& fault, bool expected) {
+  const Document document = prepare(folder, Target::there);
+  beginFaults(fault);
+  const bool written = zel::writeWholeFile(document.name(), kNew).written;
   const int tries = endFaults();
   constexpr int kMostTries = 100;
-  if (written == expected && tries <= kMostTries && isAlone(folder) &&
-      bytesOf(document) == (expected ? kNew : kOld))
+  if (written == expected && tries <= kMostTries && document.isAlone() &&
+      bytesOf(document.name()) == (expected ? kNew : kOld))
     return true;
-  std::cout << "error " << error << " of " << refusals << " moves: " << tries << " tries, "
-            << (written ? "written" : "not written") << '\n';
+  std::cout << "error " << fault.error << " of " << fault.last << " " << fault.only << ": " << tries
+            << " tries, " << (written ? "written" : "not written") << '\n';
   return false;
 }
 
+/// The last step is tried again while another program may have one of the files open.
+bool isTriedAgain(const fs::path& folder) {
+  Fault fault{.first = 1, .last = 1, .error = ERROR_DISK_FULL, .only = "MoveFileExW"};
+  bool all_hold = endsAsExpected(folder, fault, false);
+  for (const DWORD error : {DWORD{ERROR_SHARING_VIOLATION}, DWORD{ERROR_ACCESS_DENIED}})
+    for (const int refusals : {5, Fault::kForGood}) {
+      fault.error = error;
+      fault.last = refusals;
+      if (!endsAsExpected(folder, fault, refusals != Fault::kForGood)) all_hold = false;
+    }
+  return all_hold;
+}
+
+/// A document is saved where its file system has no access lists, and not where its list cannot be
+/// read.
+bool looksForAnAccessList(const fs::path& folder) {
+  bool all_hold = true;
+  for (const DWORD error : {DWORD{ERROR_NOT_SUPPORTED}, DWORD{ERROR_INVALID_FUNCTION},
+                            DWORD{ERROR_ACCESS_DENIED}, DWORD{ERROR_NOT_ENOUGH_MEMORY}})
+    for (const int call : {1, 2}) {
+      const bool has_none = error == ERROR_NOT_SUPPORTED || error == ERROR_INVALID_FUNCTION;
+      const Fault fault{
+          .first = call, .last = call, .error = error, .only = "GetKernelObjectSecurity"};
+      if (!endsAsExpected(folder, fault, has_none)) all_hold = false;
+    }
+  return all_hold;
+}
+
 /// Stops at every call in turn. False for a complaint.
-bool holds(const fs::path& folder, const std::string& when, bool existed) {
+bool holds(const fs::path& folder, const std::string& when, Target target) {
   int call = 0;
   for (DWORD status = kStopped; status == kStopped;) {
     ++call;
-    const fs::path document = prepare(folder, existed);
-    status = statusOf(startSaver(document, when, call));
-    const std::string wrong = complaint(folder, document, existed);
-    const bool is_cleaned = !wrong.empty() || isCleaned(folder, document);
-    if (!wrong.empty() || !is_cleaned ||
-        (status != kStopped && (status != 0 || bytesOf(document) != kNew))) {
+    const Document document = prepare(folder, target);
+    status = statusOf(startSaver(document.path, when, call));
+    std::string wrong;
+    if (status != kStopped && (status != 0 || bytesOf(document.name()) != kNew))
+      wrong = "not saved";
+    if (wrong.empty()) wrong = complaintAndSave(document);
+    if (!wrong.empty()) {
       std::cout << when << " call " << call << ": " << wrong << " (status " << status << ")\n";
       return false;
     }
   }
-  std::cout << (existed ? "over a document, " : "a new document, ") << when << ": " << call - 1
-            << " calls\n";
-  constexpr int kFewest = 6;  // open, write thrice, flush, close, and the move
+  std::cout << (target == Target::missing ? "a new document, " : "over a document, ") << when
+            << ": " << call - 1 << " calls\n";
+  constexpr int kFewest = 6;  // open, write twice, flush, close, and the move
   return call > kFewest;
 }
 
@@ -172,17 +234,17 @@ int saveOften(int call, const fs::path& path) {
   beginFaults({.first = call, .last = call, .event = stop});
   int status = kSaved;
   for (int i = 0; i < kSavesEach; ++i)
-    if (zel::writeWholeFile(utf8(path), i % 2 == 0 ? kNew : kOld).written) ++status;
+    if (zel::writeWholeFile(utf8Of(path), i % 2 == 0 ? kNew : kOld).written) ++status;
   endFaults();
   return status;
 }
 
 /// What is wrong with a document while a process saves it; empty when nothing is, and it was seen.
-std::string complaintWhile(HANDLE saver, const fs::path& document) {
+std::string complaintWhile(HANDLE saver, const std::string& document) {
   int looks = 0;
   while (WaitForSingleObject(saver, 0) == WAIT_TIMEOUT) {
-    if (!zel::fileExists(utf8(document))) return "not there";
-    const auto bytes = zel::readWholeFile(utf8(document));
+    if (!zel::fileExists(document)) return "not there";
+    const auto bytes = zel::readWholeFile(document);
     if (bytes) ++looks;
     if (bytes && *bytes != kOld && *bytes != kNew)
       return "seen with " + std::to_string(bytes->size()) + " bytes";
@@ -193,24 +255,23 @@ std::string complaintWhile(HANDLE saver, const fs::path& document) {
 /// Four processes save one document, of which one ends itself; all saves of the others go through.
 /// False for a complaint.
 bool isSharedByMany(const fs::path& folder) {
-  const fs::path document = prepare(folder, true);
-  constexpr int kInTheMiddle = 31;  // a call
+  const Document document = prepare(folder, Target::there);
+  constexpr int kInTheMiddle = 61;  // a call
   std::vector<HANDLE> savers;
   for (const int call : {kInTheMiddle, 0, 0, 0})
-    savers.push_back(startSaver(document, "often", call));
-  std::string wrong = complaintWhile(savers.back(), document);
-  int saves = 0;
+    savers.push_back(startSaver(document.path, "often", call));
+  std::string wrong = complaintWhile(savers.back(), document.name());
+  int saved = 0;
   for (const HANDLE saver : savers) {
     const int status = static_cast<int>(statusOf(saver));
     if (saver == savers.front() ? status != kStopped : status < kSaved)
       wrong += " a saver ended with " + std::to_string(status);
-    if (status >= kSaved) saves += status - kSaved;
+    if (status >= kSaved) saved += status - kSaved;
   }
-  wrong += complaint(folder, document, true);
-  if (wrong.empty() && !isCleaned(folder, document)) wrong = "not cleaned by the next save";
-  std::cout << "four at once: " << saves << " of " << 3 * kSavesEach << " saves"
+  wrong += complaintAndSave(document);
+  std::cout << "four at once: " << saved << " of " << 3 * kSavesEach << " saves"
             << (wrong.empty() ? "" : ": ") << wrong << '\n';
-  return wrong.empty() && saves == 3 * kSavesEach;
+  return wrong.empty() && saved == 3 * kSavesEach;
 }
 
 void wait() {
@@ -220,7 +281,7 @@ void wait() {
 
 int saveWith(const Fault& fault, const fs::path& path) {
   beginFaults(fault);
-  const bool written = zel::writeWholeFile(utf8(path), kNew).written;
+  const bool written = zel::writeWholeFile(utf8Of(path), kNew).written;
   endFaults();
   return written ? 0 : 1;
 }
@@ -233,27 +294,35 @@ int doTask(std::wstring_view task, int call, const fs::path& path) {
                   path);
 }
 
+bool survivesAllErrors(const fs::path& folder) {
+  bool all_hold = true;
+  for (const DWORD error :
+       {DWORD{ERROR_DISK_FULL}, DWORD{ERROR_IO_DEVICE}, DWORD{ERROR_ACCESS_DENIED}})
+    for (const bool for_good : {false, true}) {
+      for (const Target target : {Target::missing, Target::there, Target::link})
+        if (!survives(folder, error, for_good, target, save)) all_hold = false;
+      if (!survives(folder, error, for_good, Target::there, look)) all_hold = false;
+    }
+  return all_hold;
+}
+
+bool passesARound(const fs::path& folder) {
+  bool all_hold = true;
+  for (const char* const when : {"before", "after"})
+    for (const Target target : {Target::there, Target::missing})
+      if (!holds(folder, when, target)) all_hold = false;
+  for (const auto test : {survivesAllErrors, isTriedAgain, looksForAnAccessList, isSharedByMany})
+    if (!test(folder)) all_hold = false;
+  return all_hold;
+}
+
 }  // namespace
 
 int wmain(int count, wchar_t** wide) {
   if (count == 4) return doTask(wide[1], std::stoi(wide[2]), wide[3]);
   if (count != 2) return 2;
   const fs::path folder = fs::path(wide[1]) / "whole";
-  bool all_hold = true;
-  for (const char* const when : {"before", "after"})
-    for (const bool existed : {true, false})
-      if (!holds(folder, when, existed)) all_hold = false;
-  for (const DWORD error :
-       {DWORD{ERROR_DISK_FULL}, DWORD{ERROR_IO_DEVICE}, DWORD{ERROR_ACCESS_DENIED}})
-    for (const bool for_good : {false, true})
-      for (const bool existed : {true, false})
-        if (!survives(folder, error, for_good, existed)) all_hold = false;
-  for (const DWORD error : {DWORD{ERROR_SHARING_VIOLATION}, DWORD{ERROR_ACCESS_DENIED}})
-    if (!endsAsExpected(folder, error, 5, true) ||
-        !endsAsExpected(folder, error, Fault::kForGood, false))
-      all_hold = false;
-  if (!endsAsExpected(folder, ERROR_DISK_FULL, 1, false)) all_hold = false;
-  if (!isSharedByMany(folder)) all_hold = false;
+  const bool all_hold = passesARound(folder);
   fs::remove_all(folder);
   return all_hold ? 0 : 1;
 }
