@@ -1,9 +1,10 @@
-// save_interrupted FOLDER: saves a document over another one, in processes that end themselves
-// before the first, the second, ... call that touches a file, and after each; then one that is let
-// be. Whatever a stopped process leaves must be the older or the newer document, whole and for its
-// owner alone, and the next save takes away what is left beside it. The same where a call fails, or
-// it and all later ones, of a save or of a look at the document, where the last step is refused for
-// a while, and where four processes save at once, one of which ends itself.
+// save_interrupted FOLDER [SAVES]: saves a document over another one, in processes that end
+// themselves before the first, the second, ... call that touches a file, and after each; then one
+// that is let be. Whatever a stopped process leaves must be the older or the newer document, whole
+// and for its owner alone, and the next save takes away what is left beside it. The same where a
+// call fails, or it and all later ones, of a save or of a look at the document, where the last step
+// is refused for a while, and where four processes save at once, one of which ends itself. With
+// SAVES, all of it again until there were so many.
 //
 // save_interrupted wait CALL PATH: saves there, but says "waiting" before that call and waits for a
 // line.
@@ -35,6 +36,7 @@ using zel::test::putBytes;
 using zel::test::utf8Of;
 
 constexpr UINT kStopped = 77;
+constexpr DWORD kDiskQuotaExceeded = 1295;  // for which mingw has no name
 
 void stop() { TerminateProcess(GetCurrentProcess(), kStopped); }
 
@@ -84,6 +86,8 @@ struct Document {
   }
 };
 
+int saves = 0;  // of this run
+
 /// One document in a folder that is new, the older one or nothing.
 Document prepare(const fs::path& folder, Target target) {
   Document document{folder / u8"é Ω.zel", target != Target::missing, {}};
@@ -116,6 +120,7 @@ std::string complaint(const Document& document) {
 std::string complaintAndSave(const Document& document) {
   const std::string wrong = complaint(document);
   if (!wrong.empty()) return wrong;
+  ++saves;
   const bool is_clean = zel::writeWholeFile(document.name(), kNew).written &&
                         bytesOf(document.name()) == kNew && document.isAlone() &&
                         (!document.existed || accessListOf(document.path) == document.access);
@@ -124,6 +129,7 @@ std::string complaintAndSave(const Document& document) {
 
 /// What is wrong with its answer; empty when nothing is.
 std::string save(const Document& document) {
+  ++saves;
   const bool written = zel::writeWholeFile(document.name(), kNew).written;
   return written && bytesOf(document.name()) != kNew ? "written, and it is not there" : "";
 }
@@ -164,6 +170,7 @@ bool survives(const fs::path& folder, DWORD error, bool for_good, Target target,
 /// Lets the calls of one function fail so often, from the first time on. False for a complaint.
 bool endsAsExpected(const fs::path& folder, const Fault& fault, bool expected) {
   const Document document = prepare(folder, Target::there);
+  ++saves;
   beginFaults(fault);
   const bool written = zel::writeWholeFile(document.name(), kNew).written;
   const int tries = endFaults();
@@ -210,6 +217,7 @@ bool holds(const fs::path& folder, const std::string& when, Target target) {
   for (DWORD status = kStopped; status == kStopped;) {
     ++call;
     const Document document = prepare(folder, target);
+    ++saves;
     status = statusOf(startSaver(document.path, when, call));
     std::string wrong;
     if (status != kStopped && (status != 0 || bytesOf(document.name()) != kNew))
@@ -268,6 +276,7 @@ bool isSharedByMany(const fs::path& folder) {
       wrong += " a saver ended with " + std::to_string(status);
     if (status >= kSaved) saved += status - kSaved;
   }
+  saves += saved;
   wrong += complaintAndSave(document);
   std::cout << "four at once: " << saved << " of " << 3 * kSavesEach << " saves"
             << (wrong.empty() ? "" : ": ") << wrong << '\n';
@@ -296,8 +305,8 @@ int doTask(std::wstring_view task, int call, const fs::path& path) {
 
 bool survivesAllErrors(const fs::path& folder) {
   bool all_hold = true;
-  for (const DWORD error :
-       {DWORD{ERROR_DISK_FULL}, DWORD{ERROR_IO_DEVICE}, DWORD{ERROR_ACCESS_DENIED}})
+  for (const DWORD error : {DWORD{ERROR_DISK_FULL}, kDiskQuotaExceeded, DWORD{ERROR_IO_DEVICE},
+                            DWORD{ERROR_ACCESS_DENIED}, DWORD{ERROR_OPERATION_ABORTED}})
     for (const bool for_good : {false, true}) {
       for (const Target target : {Target::missing, Target::there, Target::link})
         if (!survives(folder, error, for_good, target, save)) all_hold = false;
@@ -320,9 +329,13 @@ bool passesARound(const fs::path& folder) {
 
 int wmain(int count, wchar_t** wide) {
   if (count == 4) return doTask(wide[1], std::stoi(wide[2]), wide[3]);
-  if (count != 2) return 2;
+  if (count != 2 && count != 3) return 2;
   const fs::path folder = fs::path(wide[1]) / "whole";
-  const bool all_hold = passesARound(folder);
+  const int wanted = count == 3 ? std::stoi(wide[2]) : 0;
+  bool all_hold = true;
+  do all_hold = passesARound(folder);
+  while (all_hold && saves < wanted);
+  std::cout << saves << " saves\n";
   fs::remove_all(folder);
   return all_hold ? 0 : 1;
 }
