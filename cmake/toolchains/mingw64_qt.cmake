@@ -21,5 +21,3 @@ set(ENV{PKG_CONFIG_LIBDIR} "${ZEL_WINDOWS_LIBRARIES}/lib/pkgconfig")
 # moc, rcc and uic are this machine's own, of the same version.
 set(QT_HOST_PATH /usr)
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake)
-
-set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../../scripts/wine.sh")

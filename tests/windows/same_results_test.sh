@@ -4,7 +4,9 @@
 set -uo pipefail
 # shellcheck source-path=SCRIPTDIR
 . "$(dirname "$0")/wine.sh"
-[[ -x $linux_path ]] || skip "there is no zel-cli of this system in build/release"
+# The same library compresses the pictures of both.
+[[ $cli_path != */mingw-core/* ]] || linux_path=$root/build/asan-ubsan/bin/zel-cli
+[[ -x $linux_path ]] || skip "there is no ${linux_path#"$root/"}"
 
 # Wine's own services start with its first program, and complain where that one does: here one that
 # waits for the end of the test.
