@@ -47,6 +47,3 @@ ZEL_CAUGHT(HANDLE, FindFirstFileW, INVALID_HANDLE_VALUE, isRefused(path),
 ZEL_CAUGHT(BOOL, DeleteFileW, FALSE, isRefused(path), (LPCWSTR path), (path))
 ZEL_CAUGHT(BOOL, MoveFileExW, FALSE, isRefused(path) || isRefused(to),
            (LPCWSTR path, LPCWSTR to, DWORD flags), (path, to, flags))
-ZEL_CAUGHT(BOOL, ReplaceFileW, FALSE, isRefused(path) || isRefused(by),
-           (LPCWSTR path, LPCWSTR by, LPCWSTR backup, DWORD flags, LPVOID one, LPVOID other),
-           (path, by, backup, flags, one, other))
