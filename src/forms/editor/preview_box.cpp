@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "forms/pixel_frame.h"
 #include "pictures/raster_picture.h"
 #include "platform/qt/bitmap_image.h"
 
@@ -40,8 +41,7 @@ void PreviewBox::drawWith(const std::function<void(Picture&)>& draw) {
 void PreviewBox::paintEvent(QPaintEvent* event) {
   QLabel::paintEvent(event);
   QPainter painter(this);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  paintPixelFrame(painter, rect(), palette().color(QPalette::Mid));
   if (is_stale_ || pixmap().isNull() || pixmap().size() == pixels()) return;
   is_stale_ = true;
   QMetaObject::invokeMethod(this, &PreviewBox::outgrown, Qt::QueuedConnection);

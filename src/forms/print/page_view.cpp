@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "forms/paper_shadow.h"
+#include "forms/pixel_frame.h"
 #include "pictures/picture_size.h"
 
 namespace zel {
@@ -37,8 +38,7 @@ class Outline : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2, Qt::DashLine));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    paintPixelFrame(painter, rect(), QPen(palette().color(QPalette::Highlight), 2, Qt::DashLine));
   }
 };
 
@@ -67,8 +67,8 @@ void ScaledImage::paintEvent(QPaintEvent*) {
   }
   QPainter painter(this);
   painter.drawPixmap(0, 0, scaled_);
-  painter.setPen(QPen(QColor::fromRgb(hasFocus() ? kEdgeWithFocus : kEdge), 1, Qt::DashLine));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  const QColor edge = QColor::fromRgb(hasFocus() ? kEdgeWithFocus : kEdge);
+  paintPixelFrame(painter, rect(), QPen(edge, 1, Qt::DashLine));
 }
 
 PageView::PageView(QWidget* parent)
