@@ -22,6 +22,21 @@ void drawFocus(const QStyleOption& option, QPainter& painter) {
   painter.restore();
 }
 
+/// At the edge, outside of the frame that marks the focus: some styles show a checked button by a
+/// shade that is hard to see on dark desktops.
+void drawChecked(const QStyleOption& option, QPainter& painter) {
+  if (!(option.state & QStyle::State_On)) return;
+  constexpr qreal kInset = 1;  // pixels, half of the frame's width
+  constexpr qreal kRadius = 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2 * kInset));
+  painter.setBrush(Qt::NoBrush);
+  const QRectF edge = QRectF(option.rect).adjusted(kInset, kInset, -kInset, -kInset);
+  painter.drawRoundedRect(edge, kRadius, kRadius);
+  painter.restore();
+}
+
 /// Nothing for what is no header.
 std::optional<QStyleOptionHeaderV2> withoutIcon(const QStyleOption& option) {
   const auto* const header = qstyleoption_cast<const QStyleOptionHeaderV2*>(&option);
@@ -47,13 +62,17 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
                                QPainter* painter, const QWidget* widget) const {
   const auto header = element == CE_Header ? withoutIcon(*option) : std::nullopt;
   QProxyStyle::drawControl(element, header ? &*header : option, painter, widget);
-  if (element == CE_PushButton) drawFocus(*option, *painter);
+  if (element != CE_PushButton) return;
+  drawChecked(*option, *painter);
+  drawFocus(*option, *painter);
 }
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);
-  if (control == CC_ToolButton) drawFocus(*option, *painter);
+  if (control != CC_ToolButton) return;
+  drawChecked(*option, *painter);
+  drawFocus(*option, *painter);
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -7,13 +7,13 @@
 
 namespace zel {
 
-/// The desktop's style but for five things: a button that has the focus shows it, a default one
-/// too; no button of a dialog has an icon, so that those of message boxes look like all others; an
-/// icon is the same one each time, until the colours or the theme of the desktop change, because
-/// the toolkit caches the pictures of each new one anew; and for that reason the header of a list
-/// has no icon: that of file dialogs would be a new one, and an empty one, at each paint; and the
-/// hint in an empty field is a paler shade of what is typed there, because the toolkit leaves it
-/// black on some dark desktops.
+/// The desktop's style but for six things: a button that has the focus shows it, a default one
+/// too; a button that is checked has a frame of the colour of selections; no button of a dialog has
+/// an icon, so that those of message boxes look like all others; an icon is the same one each time,
+/// until the colours or the theme of the desktop change, because the toolkit caches the pictures of
+/// each new one anew; and for that reason the header of a list has no icon: that of file dialogs
+/// would be a new one, and an empty one, at each paint; and the hint in an empty field is a paler
+/// shade of what is typed there, because the toolkit leaves it black on some dark desktops.
 class ProgramStyle : public QProxyStyle {
  public:
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -24,16 +24,16 @@ class StyleOfTheProgram : public ::testing::Test {
  protected:
   StyleOfTheProgram() { application(); }
 
-  /// So many pixels of a drawn button have the colour that marks the focus.
+  /// So many pixels of a drawn button have the colour that marks the focus, and what is checked.
   template <class Option>
-  int marked(Option option, bool has_focus, const std::function<void(Option&, QPainter&)>& draw) {
+  int marked(Option option, QStyle::State state,
+             const std::function<void(Option&, QPainter&)>& draw) {
     QImage image(120, 40, QImage::Format_ARGB32);
     image.fill(Qt::white);
     option.rect = image.rect();
     option.palette = QPalette(Qt::lightGray);
     option.palette.setColor(QPalette::Highlight, Qt::magenta);
-    option.state = QStyle::State_Enabled | QStyle::State_Raised;
-    option.state.setFlag(QStyle::State_HasFocus, has_focus);
+    option.state = QStyle::State_Enabled | state;
     QPainter painter(&image);
     draw(option, painter);
     painter.end();
@@ -42,33 +42,50 @@ class StyleOfTheProgram : public ::testing::Test {
       for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == Qt::magenta;
     return count;
   }
-  int markedPushButton(QStyleOptionButton::ButtonFeatures features, bool has_focus) {
+  int markedPushButton(QStyleOptionButton::ButtonFeatures features, QStyle::State state) {
     QStyleOptionButton option;
     option.features = features;
     return marked<QStyleOptionButton>(
-        option, has_focus, [this](QStyleOptionButton& with, QPainter& painter) {
+        option, state, [this](QStyleOptionButton& with, QPainter& painter) {
           style.drawControl(QStyle::CE_PushButton, &with, &painter, nullptr);
+        });
+  }
+  int markedToolButton(QStyle::State state) {
+    return marked<QStyleOptionToolButton>(
+        {}, state, [this](QStyleOptionToolButton& with, QPainter& painter) {
+          with.subControls = QStyle::SC_ToolButton;
+          style.drawComplexControl(QStyle::CC_ToolButton, &with, &painter, nullptr);
         });
   }
 
   static constexpr int kRing = 100;  // pixels, at least
+  static constexpr auto kPlain = QStyle::State_Raised;
+  static constexpr auto kFocused = QStyle::State_Raised | QStyle::State_HasFocus;
   ProgramStyle style;
 };
 
 TEST_F(StyleOfTheProgram, MarksAButtonThatHasTheFocusADefaultOneToo) {
   for (const auto feature : {QStyleOptionButton::None, QStyleOptionButton::DefaultButton}) {
-    EXPECT_GT(markedPushButton(feature, true), kRing);
-    EXPECT_LT(markedPushButton(feature, false), kRing);
+    EXPECT_GT(markedPushButton(feature, kFocused), kRing);
+    EXPECT_LT(markedPushButton(feature, kPlain), kRing);
   }
 }
 
 TEST_F(StyleOfTheProgram, MarksAToolButtonThatHasTheFocus) {
-  const auto draw = [this](QStyleOptionToolButton& with, QPainter& painter) {
-    with.subControls = QStyle::SC_ToolButton;
-    style.drawComplexControl(QStyle::CC_ToolButton, &with, &painter, nullptr);
-  };
-  EXPECT_GT(marked<QStyleOptionToolButton>({}, true, draw), kRing);
-  EXPECT_LT(marked<QStyleOptionToolButton>({}, false, draw), kRing);
+  EXPECT_GT(markedToolButton(kFocused), kRing);
+  EXPECT_LT(markedToolButton(kPlain), kRing);
+}
+
+TEST_F(StyleOfTheProgram, FramesAButtonThatIsChecked) {
+  EXPECT_GT(markedPushButton(QStyleOptionButton::None, QStyle::State_On), kRing);
+  EXPECT_GT(markedToolButton(QStyle::State_On), kRing);
+}
+
+TEST_F(StyleOfTheProgram, ShowsTheFocusOfACheckedButtonToo) {
+  constexpr auto kBoth = QStyle::State_On | QStyle::State_HasFocus;
+  EXPECT_GT(markedPushButton(QStyleOptionButton::None, kBoth),
+            markedPushButton(QStyleOptionButton::None, QStyle::State_On) + kRing);
+  EXPECT_GT(markedToolButton(kBoth), markedToolButton(QStyle::State_On) + kRing);
 }
 
 TEST_F(StyleOfTheProgram, GivesTheSameIconEachTime) {
