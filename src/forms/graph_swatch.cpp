@@ -16,14 +16,14 @@ class SwatchEngine : public PaintedIcon {
  public:
   SwatchEngine(QColor colour, SwatchLook look) : colour_(colour), look_(look) {}
 
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(rect.topLeft());
     painter->scale(rect.width() / kSide, rect.height() / kSide);
     painter->setBrush(colour_);
     if (look_ == SwatchLook::rounded)
-      paintRounded(*painter);
+      paintRounded(*painter, mode);
     else
       paintSquare(*painter);
     painter->restore();
@@ -32,11 +32,11 @@ class SwatchEngine : public PaintedIcon {
   QIconEngine* clone() const override { return new SwatchEngine(*this); }
 
  private:
-  static void paintRounded(QPainter& painter) {
+  static void paintRounded(QPainter& painter, QIcon::Mode mode) {
     constexpr qreal kMargin = 3;
     constexpr qreal kRadius = 8;
     constexpr QColor kEdge(128, 128, 128);  // seen on light and on dark
-    painter.setPen(QPen(kEdge, kEdgeWidth));
+    painter.setPen(QPen(mode == QIcon::Selected ? Qt::white : kEdge, kEdgeWidth));
     painter.drawRoundedRect(QRectF(kMargin, kMargin, kSide - 2 * kMargin, kSide - 2 * kMargin),
                             kRadius, kRadius);
   }

@@ -39,9 +39,10 @@ TEST_F(ListOfGraphs, WritesLettersInTheNormalColourAndTheSwatchUntintedInASelect
   window.showForm();
   const QTreeWidgetItem& row = *list().topLevelItem(0);
   EXPECT_FALSE(row.data(0, Qt::ForegroundRole).isValid());
-  const QImage normal = row.icon(0).pixmap(16, QIcon::Normal).toImage();
-  EXPECT_EQ(normal.pixelColor(normal.rect().center()), QColor(255, 0, 0));
-  EXPECT_EQ(row.icon(0).pixmap(16, QIcon::Selected).toImage(), normal);
+  for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) {
+    const QImage swatch = row.icon(0).pixmap(16, mode).toImage();
+    EXPECT_EQ(swatch.pixelColor(swatch.rect().center()), QColor(255, 0, 0));
+  }
 }
 
 TEST_F(ListOfGraphs, CutsATextAfterAThousandCharacters) {
