@@ -16,6 +16,7 @@
 #include <QTreeView>
 #include <algorithm>
 
+#include "base/message_table.h"
 #include "platform/widgets/dialog_filter.h"
 #include "platform/widgets/file_icons.h"
 #include "platform/widgets/qt_texts.h"
@@ -108,8 +109,8 @@ std::optional<std::string> WidgetFileDialogs::askSave(std::string_view filter,
 
 bool WidgetFileDialogs::mayOpen(const std::string& path) {
   if (QFileInfo(toQt(path)).isFile()) return true;
-  boxes_.show(aboutFile(path, "No existe el archivo «%1».", "The file “%1” does not exist."), "ZEL",
-              BoxStyle::stop);
+  boxes_.show(aboutFile(path, "No existe el archivo «%1».", "The file “%1” does not exist."),
+              Localize("ZEL - ATENCIÓN"), BoxStyle::stop);
   return false;
 }
 
@@ -119,7 +120,7 @@ bool WidgetFileDialogs::maySave(const std::string& path) {
     boxes_.show(inLanguage("No existe la carpeta «%1».", "The folder “%1” does not exist.")
                     .arg(QDir::toNativeSeparators(file.path()))
                     .toStdString(),
-                "ZEL", BoxStyle::stop);
+                Localize("ZEL - ATENCIÓN"), BoxStyle::stop);
     return false;
   }
   if (!file.exists()) return true;

@@ -219,9 +219,10 @@ TEST_F(FileDialogsOfWidgets, ComeAgainWhenAFileIsNotToBeReplaced) {
 TEST_F(FileDialogsOfWidgets, WantAnExistingFolder) {
   SetCurrentLanguage("EN");
   EXPECT_EQ(save({type("nowhere/new"), kCancel}), std::nullopt);
-  ASSERT_EQ(boxes.shown.size(), 1U);
   const auto nowhere = pathOf(folder_ / "nowhere").make_preferred();  // as the system writes it
-  EXPECT_EQ(boxes.shown.front().text, "The folder “" + utf8Of(nowhere) + "” does not exist.");
+  EXPECT_THAT(boxes.shown, ElementsAre(FakeMessageBoxes::Box{
+                               "The folder “" + utf8Of(nowhere) + "” does not exist.",
+                               "ZEL - NOTIFY", BoxStyle::stop}));
 }
 
 TEST_F(FileDialogsOfWidgets, KeepANameThatWasTypedWithAFolderThatIsMissing) {
