@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QKeySequence>
 #include <QLibraryInfo>
 #include <QTest>
 #include <QWidget>
@@ -45,6 +46,25 @@ TEST(QtTexts, FollowTheLanguageAtTheNextKeyOrButton) {
     EXPECT_EQ(translated(), "Directorio:");
   }
   EXPECT_EQ(translated(), "Directory:");
+}
+
+TEST(QtTexts, NameKeysAsTheHelpDoes) {
+  application();
+  const LanguageGuard language("ES");
+  const QtTexts texts;
+  QWidget window;
+  QTest::mouseClick(&window, Qt::LeftButton);
+  const auto named = [](QKeyCombination keys) {
+    return QKeySequence(keys).toString(QKeySequence::NativeText);
+  };
+  const QKeyCombination save_as = Qt::CTRL | Qt::SHIFT | Qt::Key_S;
+  EXPECT_EQ(named(save_as), "Ctrl+Mayús+S");
+  EXPECT_EQ(named(Qt::Key_Delete), "Supr");
+  EXPECT_EQ(named(Qt::Key_Insert), "Insertar");
+  SetCurrentLanguage("EN");
+  QTest::mouseClick(&window, Qt::LeftButton);
+  EXPECT_EQ(named(save_as), "Ctrl+Shift+S");
+  EXPECT_EQ(named(Qt::Key_Delete), "Del");
 }
 
 }  // namespace
