@@ -35,6 +35,7 @@ GraphBar::GraphBar(QWidget* parent)
   LblGrafico_->setObjectName("LblGrafico");
   LblGrafico_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   LblGrafico_->setIndent(0);
+  LblGrafico_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("m(x)=…")));
   CmdNumeros_->setCheckable(true);
   swatch_->setObjectName("LblColor");
   swatch_->setFrameStyle(QFrame::Box | QFrame::Plain);

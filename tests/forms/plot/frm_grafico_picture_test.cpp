@@ -95,6 +95,8 @@ TEST_F(GraficoPicture, AWindowStopsAtASizeWithAPictureThatCanBeDrawn) {
       const QWidget& button = control<QWidget>(name);
       EXPECT_GE(button.width(), button.minimumSizeHint().width()) << name;
     }
+    const QWidget& label = control<QWidget>("LblGrafico");
+    EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance(QStringLiteral("a(x)=…")));
     window.resize(900, 700);
     settle();
   }
