@@ -138,6 +138,24 @@ TEST_F(GraphChanges, GraphsThatARefusedDocumentClearedComeBack) {
   EXPECT_EQ(program.document_name, "");
 }
 
+TEST_F(GraphChanges, ADocumentThatIsRefusedWholeGivesTheGraphsItsNameUntilAnUndo) {
+  accept('a', "x");
+  services.files.paths = {"uno.zel"};
+  saveDocumentAs(program, view);
+  const std::string path = program.document_path;
+  putBytes("malo.zel", "something else");
+  for (const char* name : {"malo.zel", "missing.zel"}) {
+    EXPECT_FALSE(openDocumentAt(program, name, view));
+    EXPECT_EQ(letters(), "a");
+    EXPECT_EQ(program.document_name, name);
+    EXPECT_TRUE(program.document_path.ends_with(name)) << program.document_path;
+    undo();
+    EXPECT_EQ(letters(), "a");
+    EXPECT_EQ(program.document_name, "uno.zel");
+    EXPECT_EQ(program.document_path, path);
+  }
+}
+
 TEST_F(GraphChanges, OtherChangesLeaveNameAndViewAlone) {
   accept('a', "x");
   services.files.paths = {"uno.zel"};
