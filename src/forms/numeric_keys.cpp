@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolTip>
+#include <QWindow>
 
 #include "app/editor/key_filter.h"
 #include "forms/form.h"
@@ -35,6 +36,12 @@ QString noteOn(KeyRefusal refusal) {
   return {};
 }
 
+/// Lets the mouse through tool tips that are shown: a press on one is a press on what it covers.
+void letMouseThroughTips() {
+  for (QWindow* const window : QGuiApplication::topLevelWindows())
+    if (window->type() == Qt::ToolTip) window->setFlag(Qt::WindowTransparentForInput);
+}
+
 class NumericKeys : public QObject {
  public:
   NumericKeys(QLineEdit& box, bool refuse_minus)
@@ -60,6 +67,7 @@ class NumericKeys : public QObject {
     QApplication::beep();
     QToolTip::showText(box_.mapToGlobal(QPoint(0, box_.height() / 2)), noteOn(refusal), &box_, {},
                        kNoteTime);
+    letMouseThroughTips();
   }
 
   QLineEdit& box_;

@@ -1,6 +1,7 @@
 #include "forms/numeric_keys.h"
 
 #include <QToolTip>
+#include <QWindow>
 
 #include "forms/window_fixture.h"
 #include "support/patience.h"
@@ -52,6 +53,22 @@ TEST_F(NumericKeysOfABox, SayNothingOfAKeyThatPasses) {
   // On Windows a note outlives its box.
   ASSERT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, kPatience));
   for (const char key : {'1', ',', '-', '+'}) EXPECT_EQ(noteOn("", key), "");
+}
+
+TEST_F(NumericKeysOfABox, LetTheMouseThroughTheirNoteToTheBoxBelow) {
+  QLineEdit box;
+  filterNumericKeys(box, false);
+  box.show();
+  for (int time = 0; time < 2; ++time) {  // a note that is there already is shown anew
+    QTest::keyClick(&box, 'x');
+    int notes = 0;
+    for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+      if (!window->isVisible() || window->type() != Qt::ToolTip) continue;
+      ++notes;
+      EXPECT_TRUE(window->flags() & Qt::WindowTransparentForInput);
+    }
+    EXPECT_EQ(notes, 1);
+  }
 }
 
 TEST_F(NumericKeysOfABox, TakeTheirNoteAwayAfterAWhile) {
