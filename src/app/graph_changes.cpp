@@ -32,6 +32,10 @@ GraphsState presentState(const Program& program, const MainView& view, const Gra
   return {program.graphs, std::nullopt};
 }
 
+std::string changedLetters(const Program& program, const GraphsState& other) {
+  return other.document ? std::string() : differingLetters(program.graphs, other.graphs);
+}
+
 }  // namespace
 
 void changeGraphs(Program& program, const GraphTable& changed) {
@@ -75,7 +79,7 @@ std::string duplicateGraphs(Program& program, std::string_view letters) {
 std::string undoChange(Program& program, MainView& view) {
   const GraphsState* const last = program.history.undoable();
   if (!last) return {};
-  std::string letters = differingLetters(program.graphs, last->graphs);
+  std::string letters = changedLetters(program, *last);
   takeState(program, view, program.history.undo(presentState(program, view, *last)));
   return letters;
 }
@@ -83,7 +87,7 @@ std::string undoChange(Program& program, MainView& view) {
 std::string redoChange(Program& program, MainView& view) {
   const GraphsState* const next = program.history.redoable();
   if (!next) return {};
-  std::string letters = differingLetters(program.graphs, next->graphs);
+  std::string letters = changedLetters(program, *next);
   takeState(program, view, program.history.redo(presentState(program, view, *next)));
   return letters;
 }

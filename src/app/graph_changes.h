@@ -27,7 +27,8 @@ std::string duplicateGraphs(Program& program, std::string_view letters);
 
 /// Takes the last change back, or makes the last one that was taken back again. After New and Open
 /// that brings the document's name and the view back, too; any other change leaves them as they
-/// are, and so does nothing else. Returns the letters of the graphs that differ now.
+/// are, and so does nothing else. Returns the letters of the graphs that differ now; none after New
+/// and Open, where it is another document.
 std::string undoChange(Program& program, MainView& view);
 std::string redoChange(Program& program, MainView& view);
 

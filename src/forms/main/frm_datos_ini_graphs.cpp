@@ -63,7 +63,7 @@ void frmDatosIni::mRehacer_Click() { takeBack(redoChange); }
 void frmDatosIni::takeBack(std::string (*change)(Program&, MainView&)) {
   MainView view = fields();
   const std::string letters = change(program(), view);
-  showDocument(view, false);
+  showDocument(view, letters.empty());
   listaG_->selectLetters(letters);
   if (listaG_->selectedLetters().empty()) listaG_->selectFirst();
 }

@@ -266,6 +266,28 @@ TEST_F(ListOfGraphs, ComesBackWithItsDocumentAfterNewAndOpen) {
   EXPECT_EQ(title(), "ZEL - e.zel");
 }
 
+TEST_F(ListOfGraphs, SelectsTheFirstRowOfADocumentThatUndoAndRedoBringBack) {
+  putDocument("d.zel", "bcd");
+  add("abc");
+  window.showForm();
+  list().selectLetters("bc");
+  choose("mNuevo");
+  choose("mDeshacer");
+  EXPECT_EQ(listed(), "abc");
+  EXPECT_EQ(selected(), "a");
+  EXPECT_TRUE(isEnabled("mModificar"));
+  services.files.paths = {"d.zel"};
+  choose("mAbrir");
+  list().selectLetters("bc");
+  choose("mDeshacer");
+  EXPECT_EQ(listed(), "abc");
+  EXPECT_EQ(selected(), "a");
+  list().selectLetters("bc");
+  choose("mRehacer");
+  EXPECT_EQ(listed(), "bcd");
+  EXPECT_EQ(selected(), "b");
+}
+
 TEST_F(ListOfGraphs, HasNothingToUndoAfterTheStartWithADocument) {
   putDocument("d.zel", "d");
   window.openCommandLine("d.zel");
