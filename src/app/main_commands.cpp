@@ -35,6 +35,14 @@ bool keepScales(Program& program, const PlotFields& fields) {
   return marks.has_value();
 }
 
+/// The name of the bound at fault; empty where the range increases.
+std::string_view boundAtFault(const Field& low, const Field& high, std::string_view low_box,
+                              std::string_view high_box) {
+  std::string unwanted;
+  if (checkIncreasing(low, high, unwanted)) return {};
+  return readNumber(low.text) && !readNumber(high.text) ? high_box : low_box;
+}
+
 void addPlotArguments(Program& program, const PlotFields& fields, FormWindow* caller) {
   FormParams& params = program.params;
   params.removeAll();
@@ -86,6 +94,16 @@ bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller)
   if (shows) addPlotArguments(program, fields, caller);
   ReportError(program.services.boxes, message);
   return shows;
+}
+
+std::string_view boxAtFault(const Program& program, const PlotFields& fields) {
+  const auto x = boundAtFault(fields.xi, fields.xf, "txtRanXi", "txtRanXf");
+  if (!x.empty()) return x;
+  const auto y = boundAtFault(fields.yi, fields.yf, "txtRanYi", "txtRanYf");
+  if (!y.empty()) return y;
+  if (program.graphs.count() < 1) return {};  // nobody looks at the scales then
+  if (!readScale(fields.escala_x)) return "txtEscalaX";
+  return readScale(fields.escala_y) ? "" : "txtEscalaY";
 }
 
 bool openDocumentAt(Program& program, const std::string& path, MainView& view) {

@@ -39,6 +39,11 @@ struct PlotFields {
 /// reported; without graphs nothing is shown at all.
 bool preparePlot(Program& program, const PlotFields& fields, FormWindow* caller);
 
+/// The box, by its given name, that has to be corrected where preparePlot refuses these fields: of
+/// a range that does not increase the bound that is no number, or else the lower one; after the
+/// ranges the scales. Empty where there is none.
+std::string_view boxAtFault(const Program& program, const PlotFields& fields);
+
 /// The document reader with its messages; the path becomes the current document's in any case. The
 /// view holds what the window's controls hold, and then what they are to hold. Undo brings back
 /// what was there before.

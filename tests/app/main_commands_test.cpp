@@ -110,6 +110,38 @@ TEST_F(MainCommands, PlotReportsAScaleThatIsNoNumber) {
   EXPECT_EQ(services.boxes.shown[1], errorReport("No valid definitions or range."));
 }
 
+TEST_F(MainCommands, TheBoxAtFaultIsABoundThatIsNoNumberOrElseTheLowerOne) {
+  const auto fault = [this](const char* xi, const char* xf, const char* yi, const char* yf) {
+    PlotFields plot = fields();
+    plot.xi.text = xi;
+    plot.xf.text = xf;
+    plot.yi.text = yi;
+    plot.yf.text = yf;
+    plot.escala_y = "1..2";  // which nobody looks at without graphs
+    return boxAtFault(program, plot);
+  };
+  EXPECT_EQ(fault("-1", "1", "-1", "1"), "");
+  EXPECT_EQ(fault("1", "1", "-1", "1"), "txtRanXi");
+  EXPECT_EQ(fault("2", "1", "2", "1"), "txtRanXi");
+  EXPECT_EQ(fault("-1", "1", "2", "1"), "txtRanYi");
+  EXPECT_EQ(fault("", "", "-1", "1"), "txtRanXi");
+  EXPECT_EQ(fault("-1", "abc", "2", "1"), "txtRanXf");
+  EXPECT_EQ(fault("-1", "1", "-1", ""), "txtRanYf");
+  EXPECT_EQ(fault("-1", "1", "", "1"), "txtRanYi");
+}
+
+TEST_F(MainCommands, TheBoxAtFaultIsAScaleWhereTheRangesIncrease) {
+  addFunction('a', "x");
+  PlotFields plot = fields();
+  EXPECT_EQ(boxAtFault(program, plot), "");
+  plot.escala_y = "1..2";
+  EXPECT_EQ(boxAtFault(program, plot), "txtEscalaY");
+  plot.escala_x = " ";
+  EXPECT_EQ(boxAtFault(program, plot), "txtEscalaX");
+  plot.yi.text = "4";
+  EXPECT_EQ(boxAtFault(program, plot), "txtRanYi");
+}
+
 TEST_F(MainCommands, PlotShowsNoMarksWhereTheScaleIsNotGiven) {
   addFunction('a', "x");
   PlotFields plot = fields();

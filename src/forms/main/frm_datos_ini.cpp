@@ -224,8 +224,20 @@ PlotFields frmDatosIni::plotFields() const {
   return plot;
 }
 
+bool frmDatosIni::handPlotOver() {
+  const PlotFields plot = plotFields();
+  if (preparePlot(program(), plot, this)) return true;
+  const std::string_view fault = boxAtFault(program(), plot);
+  if (fault.empty()) return false;
+  auto* const box = findChild<QLineEdit*>(toQt(fault));
+  if (!box->isEnabled()) return false;  // the range of y follows that of x
+  box->setFocus(Qt::OtherFocusReason);
+  box->selectAll();
+  return false;
+}
+
 void frmDatosIni::CmdGraficarLista_Click() {
-  if (!preparePlot(program(), plotFields(), this)) return;
+  if (!handPlotOver()) return;
   hide();
   try {
     targets_.plot->showForm();

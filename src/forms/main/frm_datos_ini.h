@@ -108,6 +108,9 @@ class frmDatosIni : public Form {
 
   MainView fields() const;
   PlotFields plotFields() const;
+  /// Hands over what is to be plotted. Where that is refused, a box at fault that can be edited has
+  /// the focus then.
+  bool handPlotOver();
   void setFields(const MainView& view);
   void fillRangeBoxes();
   /// The boxes, the title and the list after another document may have come. The first row of a new

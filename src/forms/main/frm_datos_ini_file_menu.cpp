@@ -29,7 +29,7 @@ void frmDatosIni::keepSession() { program().last_session.keep(fields(), program(
 
 /// Of what the plot window would show, and refused like that.
 void frmDatosIni::mExportar_Click() {
-  if (preparePlot(program(), plotFields(), this)) targets_.exporter->showForm();
+  if (handPlotOver()) targets_.exporter->showForm();
 }
 
 }  // namespace zel
