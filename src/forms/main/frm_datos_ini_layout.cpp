@@ -79,7 +79,7 @@ void frmDatosIni::buildEditMenu() {
   addCommand(mEdicion_, "mDeshacer", &frmDatosIni::mDeshacer_Click)
       ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
   addCommand(mEdicion_, "mRehacer", &frmDatosIni::mRehacer_Click)
-      ->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+      ->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), kAlsoRedo});
   mEdicion_->addSeparator();
   addCommand(mEdicion_, "mAgregar", &frmDatosIni::CmdAgregar_Click)->setShortcut(Qt::Key_Insert);
   addCommand(mEdicion_, "mModificar", &frmDatosIni::CmdModificar_Click)->setShortcut(Qt::Key_F2);

@@ -234,8 +234,13 @@ TEST_F(ListOfGraphs, IsUndoneAndRedoneByKeysAndMenu) {
   EXPECT_FALSE(isEnabled("mRehacer"));
   choose("mDeshacer");
   EXPECT_EQ(listed(), "abc");
+  QTest::keyClick(&list(), Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(listed(), "b");
+  choose("mDeshacer");
+  EXPECT_EQ(listed(), "abc");
   choose("mRehacer");
   EXPECT_EQ(listed(), "b");
+  EXPECT_EQ(control<QAction>(window, "mRehacer").shortcut(), QKeySequence("Ctrl+Shift+Z"));
   accept('b', "x^2");
   choose("mDeshacer");
   EXPECT_EQ(fromQt(list().topLevelItem(0)->text(2)), "b(x)=x");
