@@ -49,6 +49,15 @@ toolbar() {
 # enter TEXT: types into the field that has the focus, in place of what it holds.
 enter() { xdotool key --delay 60 ctrl+a type --delay 40 -- "$1"; }
 copied() { xclip -selection clipboard -t image/png -o >"$work/copy.png" 2>/dev/null; }
+# click_on_note: clicks into what has come between the pictures "boxes" and "noted".
+click_on_note() {
+  local height left top
+  IFS=x+ read -r _ height left top < <(convert "$work/boxes.png" "$work/noted.png" \
+    -compose difference -composite -format '%@\n' info:)
+  xdotool mousemove --sync $((left + 12)) $((top + height - 8)) click 1
+}
+# begins_at X: whether the document's range has this lower bound of x.
+begins_at() { grep -q "^xi=$1"$'\r' "$work/smoke.zel"; }
 declared() { grep -q '^ecuacion=7\*sen(60\*x)' "$work/smoke.zel" 2>/dev/null; }
 
 start() {
@@ -132,6 +141,19 @@ opens 'ZEL - smoke.zel' Return
 xdotool key --delay 60 Tab Tab Tab Tab
 opens 'Export picture' ctrl+e
 opens 'ZEL - smoke.zel' Escape
+
+# The mouse goes through the note on a refused key: a click on it is one on the box of "x minimun".
+xdotool key ctrl+a
+look_still boxes
+press 'looks_other boxes noted' x
+click_on_note
+enter 7
+press 'begins_at 7' ctrl+s
+xdotool key ctrl+z
+press 'begins_at -10' ctrl+s
+xdotool key ctrl+y
+press 'begins_at 7' ctrl+s
+
 opens 'ZEL - Graphics' alt+g
 opens 'ZEL - smoke.zel' alt+F4
 ends_well ctrl+q
