@@ -8,6 +8,7 @@
 #include "app/program.h"
 #include "files/absolute_path.h"
 #include "files/failing_writes.h"
+#include "files/standard_streams.h"
 #include "forms/application.h"
 #include "forms/forms.h"
 #include "platform/command_line.h"
@@ -74,6 +75,7 @@ int run(int& argument_count, char** arguments) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
+  zel::fillStandardStreams();
   try {
     zel::letWritesFail(zel::ClosedPipe::fails);
     zel::nameHome();

@@ -9,6 +9,7 @@
 #include "cli/console/interrupt.h"
 #include "cli/console/process.h"
 #include "files/failing_writes.h"
+#include "files/standard_streams.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ void watchTermination() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  zel::fillStandardStreams();
   try {
     watchTermination();
     zel::useByteStreams();

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # A write past the process's limit for the size of a file fails with a message and status 1, and
 # leaves what was there; the reader of a pipe who goes away ends the program, as it ends any other.
+# What cannot be said because a standard stream is closed is said nowhere else.
 set -uo pipefail
 cli=$1
 document=$2/examples/all_kinds.zel
@@ -48,4 +49,20 @@ wait
 env --default-signal=PIPE "$cli" compile x >&3 2>err
 status=$?
 [[ $status -eq 141 && ! -s err ]] || fail "a pipe without a reader ended it with $status"
+
+"$cli" compile x >&- 2>err
+refused 'No se pudo escribir la salida.' $? "output that is closed"
+"$cli" evaluate --batch <&- >rows 2>err
+refused 'No se pudo leer la entrada.' $? "input that is closed"
+
+# While the complaint about a document comes, the next one's picture is a file that is open.
+cp "$document" one.zel
+cp "$document" two.zel
+"$cli" render one.zel two.zel -o whole/ --format svg 2>err || fail "two pictures"
+for _ in {1..12}; do
+  "$cli" render gone1.zel one.zel gone2.zel two.zel -o drawn/ --format svg 2>&-
+  status=$?
+  [[ $status -eq 1 ]] || fail "with standard error closed it ended with $status"
+  diff -r whole drawn >/dev/null || fail "with standard error closed other pictures are drawn"
+done
 exit "$failures"

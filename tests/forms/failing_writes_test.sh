@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The real program where each write fails: past the process's limit for the size of a file, and to a
-# standard error whose reader has gone. It says that a document could not be saved, and goes on.
+# standard error whose reader has gone or that is closed. It says that a document could not be saved,
+# and goes on.
 set -uo pipefail
 zel=$(dirname "$1")/zel
 [[ -x $zel ]] || { echo "no desktop program in this build"; exit 77; }
@@ -53,4 +54,11 @@ program=$!
 window ZEL
 opens 'ZEL - all.zel' Return
 ends_well "without a reader"
+
+# The toolkit complains first where it has no folder of its own, and not into its connection.
+env -u XDG_RUNTIME_DIR "$zel" all.zel >/dev/null 2>&- &
+program=$!
+window ZEL
+opens 'ZEL - all.zel' Return
+ends_well "without standard error"
 exit 0

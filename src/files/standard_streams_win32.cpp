@@ -1,0 +1,7 @@
+#include "files/standard_streams.h"
+
+namespace zel {
+
+void fillStandardStreams() {}
+
+}  // namespace zel
