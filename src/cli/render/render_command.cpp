@@ -48,6 +48,7 @@ int renderToFile(const RenderOptions& options, const WantedView& wanted, const C
   const RenderJob job = {options.files.front(), options.out, endingOf(options.out)};
   if (!canMakePicture(job.ending))
     throw CLI::ValidationError("-o", "the picture must end in .png, .svg or .pdf, or be -");
+  keepDocuments({job});
   if (tellNarrowPicture(wanted, console)) return kExitFailed;
   Progress progress(console.err);
   return renderOne(job, wanted, console, &progress);

@@ -50,14 +50,6 @@ void keepNamesApart(const std::vector<RenderJob>& jobs) {
   }
 }
 
-void keepDocuments(const std::vector<RenderJob>& jobs) {
-  std::set<std::string> documents;
-  for (const RenderJob& job : jobs) documents.insert(fileAt(job.file));
-  for (const RenderJob& job : jobs)
-    if (documents.contains(fileAt(job.out)))
-      refuse("the picture of " + job.file + " would replace a document: " + job.out);
-}
-
 /// What is said of a failed job, on one line; empty when it is done.
 std::string lineOf(const RenderJob& job, const WantedView& wanted, const Console& console) {
   std::ostringstream said;
@@ -83,6 +75,15 @@ std::string progressBar(std::size_t done, std::size_t all) {
 }
 
 }  // namespace
+
+void keepDocuments(const std::vector<RenderJob>& jobs) {
+  std::set<std::string> documents;
+  for (const RenderJob& job : jobs)
+    if (!isStandardStream(job.file)) documents.insert(fileAt(job.file));
+  for (const RenderJob& job : jobs)
+    if (!isStandardStream(job.out) && documents.contains(fileAt(job.out)))
+      refuse("the picture of " + job.file + " would replace a document: " + job.out);
+}
 
 std::vector<RenderJob> picturesInFolder(const std::vector<std::string>& files,
                                         const std::string& folder, const std::string& ending) {

@@ -9,6 +9,10 @@
 
 namespace zel {
 
+/// Throws CLI::ValidationError where a picture would replace one of the documents, whichever way
+/// the paths lead there.
+void keepDocuments(const std::vector<RenderJob>& jobs);
+
 /// The pictures of documents in a folder, each with its document's name and another ending. Throws
 /// CLI::ValidationError where two would have one name, where one would replace a document, and for
 /// standard input, which has no name.

@@ -181,6 +181,32 @@ TEST_F(RenderCommand, SaysWhenItCannotWrite) {
   EXPECT_EQ(result.err, "No se pudo salvar el archivo.\n");
 }
 
+TEST_F(RenderCommand, RefusesAPictureInThePlaceOfItsDocumentHoweverThatIsNamed) {
+  const std::string document = write("d.svg", bytesOf(line));
+  const std::string before = bytesOf(document);
+  std::filesystem::create_directory(path("sub"));
+  std::vector<std::string> names = {"d.svg", "./d.svg", "sub/../d.svg"};
+  std::error_code error;
+  std::filesystem::create_symlink("d.svg", path("link.svg"), error);
+  if (!error) names.emplace_back("link.svg");
+  for (const std::string& name : names) {
+    const Run result = run({"render", document, "-o", path(name)});
+    EXPECT_EQ(result.status, 2) << name;
+    EXPECT_EQ(result.err,
+              "-o: the picture of " + document + " would replace a document: " + path(name) + "\n");
+    EXPECT_EQ(bytesOf(document), before) << name;
+  }
+}
+
+TEST_F(RenderCommand, DrawsADocumentOverAnotherFileAndBetweenStandardStreams) {
+  const std::string document = write("d.svg", bytesOf(line));
+  write("other.svg", "older");
+  EXPECT_EQ(run({"render", document, "-o", path("other.svg")}).status, 0);
+  const Run result = run({"render", "-", "-o", "-"}, bytesOf(line));
+  EXPECT_EQ(result.status, 0) << result.err;
+  EXPECT_EQ(result.out, bytesOf(path("other.svg")));
+}
+
 TEST_F(RenderCommand, DrawsEveryExample) {
   for (const auto& entry : std::filesystem::directory_iterator(ZEL_EXAMPLES_DIR)) {
     if (entry.path().extension() != ".zel") continue;
