@@ -87,6 +87,8 @@ void PictureBox::dot(Point centre, double radius) {
 void PictureBox::showDrawn() {
   drawn_.finish();
   shows_drawn_ = true;
+  // The next picture could not use its pixels, which may be hundreds of megabytes.
+  if (sizeOf(shown_.bitmap) != sizeOf(drawn_.bitmap())) shown_ = {};
   update();
   emit shownAnew();
 }
