@@ -7,22 +7,17 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 
-#include "child_posix.h"
 #include "document_fixture.h"
 #include "faulty_calls_posix.h"
 #include "files/absolute_path.h"
+#include "small_disk_posix.h"
 
 namespace zel::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int kPassed = 1;
-constexpr int kCannotMount = 2;
 
 class HostileFolders : public DocumentTest {
  protected:
@@ -30,12 +25,6 @@ class HostileFolders : public DocumentTest {
     older_.rebuildGraph('a', "x", "", 0, 'F', nullptr);
     newer_.rebuildGraph('b', "x+" + std::string(20000, '1'), "", 255, 'F', nullptr);
     old_bytes_ = *documentBytes(view, older_);
-  }
-
-  /// Mounts a file system of this size there, for this process alone.
-  static bool mountADisk(const std::string& place, const char* size) {
-    return ::unshare(CLONE_NEWNS) == 0 && ::mount("", "/", "", MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           ::mount("none", place.c_str(), "tmpfs", 0, size) == 0;
   }
 
   /// Runs a check that returns kPassed, or kCannotMount, in a process of its own.

@@ -9,7 +9,10 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QScopeGuard>
+#include <QTemporaryFile>
 
+#include "files/whole_file.h"
 #include "pictures/picture_size.h"
 #include "platform/qt/bitmap_image.h"
 #include "platform/qt/number_painter.h"
@@ -92,6 +95,32 @@ void paint(QPainter& painter, const PrintJob& job) {
   }
 }
 
+PrintOutcome printPage(QPrinter& printer, const PrintJob& job) {
+  QPainter painter;
+  if (!printer.isValid() || !painter.begin(&printer)) return PrintOutcome::not_started;
+  paint(painter, job);
+  return painter.end() && hasTakenJob(printer) ? PrintOutcome::printed : PrintOutcome::failed;
+}
+
+/// The toolkit would write over the older file while it paints, and leave half of the new one where
+/// the disk is full. So it gets a file of its own, and what is whole takes the place of the older.
+PrintOutcome printToFile(QPrinter& printer, const PrintJob& job) {
+  const QString chosen = printer.outputFileName();
+  const std::string path = chosen.toStdString();
+  if (obstacleToWriting(path) != 0) return PrintOutcome::not_started;
+  QTemporaryFile page;
+  if (!page.open()) return PrintOutcome::not_started;
+  const QString name = page.fileName();  // first: an open file may have no name yet
+  page.close();
+  printer.setOutputFileName(name);
+  const auto restore = qScopeGuard([&] { printer.setOutputFileName(chosen); });
+  const PrintOutcome outcome = printPage(printer, job);
+  if (outcome != PrintOutcome::printed) return outcome;
+  const auto bytes = readWholeFile(name.toStdString());
+  return bytes && writeWholeFile(path, *bytes).written ? PrintOutcome::printed
+                                                       : PrintOutcome::failed;
+}
+
 }  // namespace
 
 QAbstractPrintDialog::PrintDialogOptions printDialogOptions() {
@@ -165,10 +194,8 @@ PrintOutcome WidgetPrinter::print(const PrintJob& job) {
   printer_->setPageOrientation(toQt(job.orientation));
   if (!choose_(*printer_)) return PrintOutcome::cancelled;
   printer_->setFullPage(true);  // places are measured from the edges of the paper
-  QPainter painter;
-  if (!printer_->isValid() || !painter.begin(printer_.get())) return PrintOutcome::not_started;
-  paint(painter, job);
-  return painter.end() && hasTakenJob(*printer_) ? PrintOutcome::printed : PrintOutcome::failed;
+  return printer_->outputFileName().isEmpty() ? printPage(*printer_, job)
+                                              : printToFile(*printer_, job);
 }
 
 }  // namespace zel

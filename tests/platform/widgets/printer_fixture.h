@@ -72,7 +72,7 @@ class PrinterTest : public ::testing::Test {
 
  private:
   EnvironmentGuard server_{"CUPS_SERVER", (serverFolder() / "socket").c_str()};
-  EnvironmentGuard home_{"HOME", serverFolder().path().c_str()};
+  EnvironmentGuard home_{"HOME", utf8Of(serverFolder().path()).c_str()};
 };
 
 }  // namespace zel::test

@@ -1,20 +1,15 @@
 #include <QPrintDialog>
 #include <algorithm>
-#include <filesystem>
 
 #include "platform/widgets/modal_driver.h"
-#include "platform/widgets/printer_fixture.h"
+#include "platform/widgets/print_to_file_fixture.h"
 
 namespace zel::test {
 namespace {
 
-/// Prints to a PDF document.
-class PrinterOfFiles : public PrinterTest {
+/// Prints to a PDF document, which is looked at.
+class PrinterOfFiles : public PrintToFile {
  protected:
-  PrintOutcome print(const DrawingList& drawing, Point position,
-                     PageOrientation orientation = PageOrientation::landscape) {
-    return printer_.print({orientation, position, kPicture, drawing, bitmap});
-  }
   QImage page() { return pageOf(file); }
   /// The texts of a PDF document; none where there is no document.
   static std::string textOf(const std::string& pdf) {
@@ -31,18 +26,6 @@ class PrinterOfFiles : public PrinterTest {
         lightness = std::min(lightness, image.pixelColor(x, y).lightness());
     return lightness;
   }
-
-  TemporaryFolder folder;
-  std::string file = folder / "page.pdf";
-  bool is_accepted = true;
-  Bitmap bitmap{2, 1, {0xFF00FF00, 0xFF0000FF}};
-
- private:
-  WidgetPrinter printer_{[this](QPrinter& printer) {
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setOutputFileName(QString::fromStdString(file));
-    return is_accepted;
-  }};
 };
 
 TEST_F(PrinterOfFiles, PutsThePictureAtItsPlaceInItsSize) {
@@ -106,24 +89,6 @@ TEST_F(PrinterOfFiles, TakesTheBitmapForADrawingThatIsFull) {
   expectInk(printed, 1000, 2000, 7000, 5000);
   EXPECT_EQ(printed.pixelColor(200, 350), QColor(Qt::green));
   EXPECT_EQ(printed.pixelColor(600, 350), QColor(Qt::blue));
-}
-
-TEST_F(PrinterOfFiles, PrintsNothingWhenTheUserCancels) {
-  is_accepted = false;
-  EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::cancelled);
-  EXPECT_FALSE(std::filesystem::exists(file));
-}
-
-TEST_F(PrinterOfFiles, IsNotStartedWhereNothingCanBeWritten) {
-  file = folder / "missing/page.pdf";
-  expectWarning("QPainter::begin");
-  EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::not_started);
-}
-
-TEST_F(PrinterOfFiles, NoticesThatTheDiskIsFull) {
-  file = "/dev/full";
-  if (!std::filesystem::exists(file)) GTEST_SKIP() << "no /dev/full here";
-  EXPECT_EQ(print(frame(kPicture), {0, 0}), PrintOutcome::failed);
 }
 
 /// A PDF document made without any printer.
