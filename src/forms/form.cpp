@@ -5,13 +5,13 @@
 #include <QHideEvent>
 #include <QIcon>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScreen>
 #include <QToolButton>
 #include <QWindow>
 #include <algorithm>
 
 #include "base/language.h"
+#include "forms/text_box.h"
 
 namespace zel {
 
@@ -67,7 +67,7 @@ void Form::appear() {
 
 std::optional<std::string> Form::controlText(std::string_view name) const {
   const auto* const control = findChild<QWidget*>(toQt(name));
-  if (const auto* const box = qobject_cast<const QLineEdit*>(control)) return fromQt(box->text());
+  if (const auto* const box = qobject_cast<const TextBox*>(control)) return fromQt(box->whole());
   if (const auto* const label = qobject_cast<const QLabel*>(control)) return fromQt(label->text());
   if (const auto* const frame = qobject_cast<const QGroupBox*>(control))
     return fromQt(frame->title());

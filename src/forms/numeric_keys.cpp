@@ -1,18 +1,13 @@
 #include "forms/numeric_keys.h"
 
-#include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QToolTip>
-#include <QWindow>
 
 #include "app/editor/key_filter.h"
 #include "forms/form.h"
+#include "forms/text_box.h"
 
 namespace zel {
 namespace {
-
-constexpr int kNoteTime = 2000;  // milliseconds
 
 QString noteOn(KeyRefusal refusal) {
   switch (refusal) {
@@ -36,12 +31,6 @@ QString noteOn(KeyRefusal refusal) {
   return {};
 }
 
-/// Lets the mouse through tool tips that are shown: a press on one is a press on what it covers.
-void letMouseThroughTips() {
-  for (QWindow* const window : QGuiApplication::topLevelWindows())
-    if (window->type() == Qt::ToolTip) window->setFlag(Qt::WindowTransparentForInput);
-}
-
 class NumericKeys : public QObject {
  public:
   NumericKeys(QLineEdit& box, bool refuse_minus)
@@ -57,19 +46,11 @@ class NumericKeys : public QObject {
     const auto pressed = static_cast<char32_t>(characters.first());
     auto key = pressed;
     FilterNumericKey(key, fromQt(box_.text()), refuse_minus_);
-    if (key == 0) tell(refusalOf(pressed, fromQt(box_.text()), refuse_minus_));
+    if (key == 0) noteBelow(box_, noteOn(refusalOf(pressed, fromQt(box_.text()), refuse_minus_)));
     return key == 0;
   }
 
  private:
-  /// Below the box, so that what it holds stays seen.
-  void tell(KeyRefusal refusal) {
-    QApplication::beep();
-    QToolTip::showText(box_.mapToGlobal(QPoint(0, box_.height() / 2)), noteOn(refusal), &box_, {},
-                       kNoteTime);
-    letMouseThroughTips();
-  }
-
   QLineEdit& box_;
   bool refuse_minus_;
 };

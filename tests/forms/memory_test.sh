@@ -25,8 +25,8 @@ PATIENCE = 600  # seconds
 session = work / "state/zel/session.zel"
 
 
-def document(*properties):
-    lines = [b"[PRINCIPAL]", b"01.versiones_compatibles=2.0", b" ", b"[VISTA PRINCIPAL]", b" ",
+def document(*properties, view=b"xf=10"):
+    lines = [b"[PRINCIPAL]", b"01.versiones_compatibles=2.0", b" ", b"[VISTA PRINCIPAL]", view, b" ",
              b"[GRAFICOS PRINCIPAL]", b"[GRAFICO]", b"[PROPIEDADES]", b"nombre=a", b"color=255",
              *properties, b" ", b"[PARAMETROS]", b" ", b" ", b" "]
     return b"\r\n".join(lines)
@@ -37,6 +37,7 @@ def document(*properties):
 euros = b"\x80" * SIZE
 documents = {
     "formula": document(b"tipo=F", b"ecuacion=" + euros),
+    "range": document(b"tipo=F", b"ecuacion=x", view=b"xi=" + euros),
     "parabola": document(b"tipo=P", b"codigo=x", b"ecuacion=" + euros),
 }
 

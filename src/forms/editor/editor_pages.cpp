@@ -4,7 +4,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -79,7 +78,7 @@ class Page {
   }
 
   void field(int column, const char* name, const char* tag, Holds holds, int columns = 1) {
-    auto* box = makeTextBox(name);
+    auto* box = new TextBox(name);
     box->setProperty("Tag", QString::fromLatin1(tag));
     if (holds != Holds::formula) filterNumericKeys(*box, holds == Holds::distance);
     grid_->addWidget(box, row_, column, 1, columns);

@@ -6,7 +6,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
@@ -14,6 +13,7 @@
 #include "forms/editor/colour_swatch.h"
 #include "forms/editor/editor_fields.h"
 #include "forms/editor/editor_pages.h"
+#include "forms/text_box.h"
 
 namespace zel {
 

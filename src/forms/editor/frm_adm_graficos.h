@@ -23,6 +23,7 @@ namespace zel {
 
 class ColourSwatch;
 class PreviewBox;
+class TextBox;
 
 /// The graph editor: declares a new graph or changes one. It lies over its caller, which waits for
 /// it. After a pause in the typing it says under each field what an accept would say of it, and
@@ -85,7 +86,7 @@ class frmAdmGraficos : public Form {
   void followFormula(QLineEdit& formula, const QFocusEvent& event);
 
   QWidget& control(const char* name) const;
-  QLineEdit* box(const char* name) const;
+  TextBox* box(const char* name) const;
   char letter() const;
   char kind() const;
   GraphFields fields() const;

@@ -1,7 +1,6 @@
 // What the graph editor's controls hold.
 #include <QComboBox>
 #include <QFont>
-#include <QLineEdit>
 #include <QTabWidget>
 #include <QVariant>
 
@@ -9,10 +8,11 @@
 #include "forms/editor/editor_fields.h"
 #include "forms/editor/frm_adm_graficos.h"
 #include "forms/listed_text.h"
+#include "forms/text_box.h"
 
 namespace zel {
-QLineEdit* frmAdmGraficos::box(const char* name) const {
-  return findChild<QLineEdit*>(QString::fromLatin1(name));
+TextBox* frmAdmGraficos::box(const char* name) const {
+  return findChild<TextBox*>(QString::fromLatin1(name));
 }
 
 char frmAdmGraficos::letter() const { return static_cast<char>('a' + cboNombre_->currentIndex()); }
@@ -31,7 +31,7 @@ GraphFields frmAdmGraficos::fields() const {
 }
 
 void frmAdmGraficos::setFields(GraphFields fields) {
-  for (const auto& [control, field] : placesOf(fields)) box(control)->setText(toQt(field->text));
+  for (const auto& [control, field] : placesOf(fields)) box(control)->setWhole(toQt(field->text));
 }
 
 void frmAdmGraficos::clearFields() {

@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -14,6 +13,7 @@
 #include "forms/editor/frm_adm_graficos.h"
 #include "forms/editor/hint_line.h"
 #include "forms/editor/preview_box.h"
+#include "forms/text_box.h"
 
 namespace zel {
 
@@ -47,8 +47,9 @@ std::optional<std::size_t> frmAdmGraficos::updateHints() {
 }
 
 void frmAdmGraficos::showHint(const char* control_name, const FieldHint& hint) {
-  findChild<HintLine*>(hintName(control_name))->setHint(hint);
-  control(control_name).setAccessibleDescription(toQt(hint.text));
+  auto* const line = findChild<HintLine*>(hintName(control_name));
+  line->setHint(hint);
+  control(control_name).setAccessibleDescription(line->text());
 }
 
 void frmAdmGraficos::drawPreview(GraphTrial& trial) {

@@ -41,7 +41,7 @@ HintLine::HintLine(QWidget* parent) : QLabel(parent) {
 void HintLine::setHint(const FieldHint& hint) {
   if (hint == hint_) return;
   hint_ = hint;
-  setText(toQt(hint.text));
+  setText(toQt(hint.text).left(kLongestToolTip + 1));  // it may name all of a field's text
   tellInTip();
   update();
 }

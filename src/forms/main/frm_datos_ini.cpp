@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSlider>
@@ -24,6 +23,7 @@
 #include "files/whole_file.h"
 #include "forms/button_mnemonics.h"
 #include "forms/main/graph_list.h"
+#include "forms/text_box.h"
 
 namespace zel {
 namespace {
@@ -88,12 +88,12 @@ void frmDatosIni::takeArguments() {
 /// A box takes its value from the arguments; without one it keeps what it holds, and gets the
 /// default when that is nothing.
 void frmDatosIni::fillRangeBoxes() {
-  const auto fill = [this](QLineEdit& box, const char* key, const char* otherwise) {
+  const auto fill = [this](TextBox& box, const char* key, const char* otherwise) {
     const FormValue value = program().params.Item(key);
     if (const auto* number = std::get_if<double>(&value))
-      box.setText(toQt(writeNumber(*number)));
-    else if (box.text().isEmpty())
-      box.setText(QString::fromLatin1(otherwise));
+      box.setWhole(toQt(writeNumber(*number)));
+    else if (box.whole().isEmpty())
+      box.setWhole(QString::fromLatin1(otherwise));
   };
   fill(*txtRanXi_, "xi", "-10");
   fill(*txtRanXf_, "xf", "10");
@@ -103,32 +103,32 @@ void frmDatosIni::fillRangeBoxes() {
 
 MainView frmDatosIni::fields() const {
   MainView view;
-  view.xi = fromQt(txtRanXi_->text());
-  view.xf = fromQt(txtRanXf_->text());
-  view.yi = fromQt(txtRanYi_->text());
-  view.yf = fromQt(txtRanYf_->text());
+  view.xi = fromQt(txtRanXi_->whole());
+  view.xf = fromQt(txtRanXf_->whole());
+  view.yi = fromQt(txtRanYi_->whole());
+  view.yf = fromQt(txtRanYf_->whole());
   view.definicion = static_cast<std::int16_t>(Slider1_->value());
   view.proporcional = chkProporcional_->isChecked();
-  view.escala_x = fromQt(txtEscalaX_->text());
-  view.escala_y = fromQt(txtEscalaY_->text());
+  view.escala_x = fromQt(txtEscalaX_->whole());
+  view.escala_y = fromQt(txtEscalaY_->whole());
   return view;
 }
 
 /// Controls that hold all of it already stay as they are, with the boxes' own undo.
 void frmDatosIni::setFields(const MainView& view) {
   const auto boxes =
-      std::to_array<std::pair<QLineEdit*, QString>>({{txtRanXi_, toQt(view.xi)},
-                                                     {txtRanXf_, toQt(view.xf)},
-                                                     {txtRanYi_, toQt(view.yi)},
-                                                     {txtRanYf_, toQt(view.yf)},
-                                                     {txtEscalaX_, toQt(view.escala_x)},
-                                                     {txtEscalaY_, toQt(view.escala_y)}});
+      std::to_array<std::pair<TextBox*, QString>>({{txtRanXi_, toQt(view.xi)},
+                                                   {txtRanXf_, toQt(view.xf)},
+                                                   {txtRanYi_, toQt(view.yi)},
+                                                   {txtRanYf_, toQt(view.yf)},
+                                                   {txtEscalaX_, toQt(view.escala_x)},
+                                                   {txtEscalaY_, toQt(view.escala_y)}});
   const bool is_there =
-      std::ranges::all_of(boxes, [](const auto& box) { return box.first->text() == box.second; });
+      std::ranges::all_of(boxes, [](const auto& box) { return box.first->whole() == box.second; });
   if (is_there && Slider1_->value() == view.definicion &&
       chkProporcional_->isChecked() == view.proporcional)
     return;
-  for (const auto& [box, text] : boxes) box->setText(text);
+  for (const auto& [box, text] : boxes) box->setWhole(text);
   Slider1_->setValue(view.definicion);
   Slider1_Change();
   actProporcional(view.proporcional);
@@ -137,11 +137,12 @@ void frmDatosIni::setFields(const MainView& view) {
 void frmDatosIni::openPath(const std::string& path) {
   MainView view = fields();
   const bool opened = openDocumentAt(program(), path, view);
-  showDocument(view, opened);
+  showDocument(std::move(view), opened);
 }
 
-void frmDatosIni::showDocument(const MainView& view, bool is_new) {
-  setFields(view);  // first: what fails of the rest is shown anew
+/// The view may be large, and is let go before the session takes its own.
+void frmDatosIni::showDocument(MainView&& view, bool is_new) {
+  setFields(std::exchange(view, {}));  // first: what fails of the rest is shown anew
   showAnew();
   if (is_new) listaG_->selectFirst();
 }
@@ -153,7 +154,7 @@ void frmDatosIni::showAnew() {
 
 void frmDatosIni::mNuevo_Click() {
   newDocument(program(), fields());
-  for (QLineEdit* box : {txtRanXi_, txtRanXf_, txtRanYi_, txtRanYf_}) box->clear();
+  for (TextBox* box : {txtRanXi_, txtRanXf_, txtRanYi_, txtRanYf_}) box->setWhole({});
   fillRangeBoxes();
   showAnew();
 }
@@ -161,7 +162,7 @@ void frmDatosIni::mNuevo_Click() {
 void frmDatosIni::mAbrir_Click() {
   MainView view = fields();
   const bool opened = openDocument(program(), view);
-  showDocument(view, opened);
+  showDocument(std::move(view), opened);
 }
 
 void frmDatosIni::mGuardar_Click() {
@@ -217,8 +218,8 @@ PlotFields frmDatosIni::plotFields() const {
   plot.xf = field("txtRanXf", "LblRanXf");
   plot.yi = field("txtRanYi", "LblRanYi");
   plot.yf = field("txtRanYf", "LblRanYf");
-  plot.escala_x = fromQt(txtEscalaX_->text());
-  plot.escala_y = fromQt(txtEscalaY_->text());
+  plot.escala_x = fromQt(txtEscalaX_->whole());
+  plot.escala_y = fromQt(txtEscalaY_->whole());
   plot.mantener_prop = chkProporcional_->isChecked();
   plot.definicion = static_cast<std::int16_t>(Slider1_->value());
   return plot;

@@ -8,7 +8,6 @@
 class QCheckBox;
 class QGroupBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QSlider;
 
@@ -16,6 +15,7 @@ namespace zel {
 
 class GraphList;
 class RecentMenu;
+class TextBox;
 
 /// The windows that the main window opens.
 struct MainWindowTargets {
@@ -76,7 +76,7 @@ class frmDatosIni : public Form {
   QGroupBox* buildScale();
   QGroupBox* buildQuality();
   QGroupBox* buildGraphs();
-  QLineEdit* makeNumberBox(const char* name, bool refuses_minus);
+  TextBox* makeNumberBox(const char* name, bool refuses_minus);
   void connectControls();
   void applyMenuCaptions();
   void applyControlCaptions();
@@ -115,7 +115,7 @@ class frmDatosIni : public Form {
   void fillRangeBoxes();
   /// The boxes, the title and the list after another document may have come. The first row of a new
   /// document is selected.
-  void showDocument(const MainView& view, bool is_new);
+  void showDocument(MainView&& view, bool is_new);
   void openPath(const std::string& path);
   void openRecentPath(const std::string& path);
   /// Keeps the session, and ends the process.
@@ -134,12 +134,12 @@ class frmDatosIni : public Form {
   QGroupBox* quality_frame_ = nullptr;
   QGroupBox* range_frame_ = nullptr;
   QGroupBox* scale_frame_ = nullptr;
-  QLineEdit* txtRanXi_ = nullptr;
-  QLineEdit* txtRanXf_ = nullptr;
-  QLineEdit* txtRanYi_ = nullptr;
-  QLineEdit* txtRanYf_ = nullptr;
-  QLineEdit* txtEscalaX_ = nullptr;
-  QLineEdit* txtEscalaY_ = nullptr;
+  TextBox* txtRanXi_ = nullptr;
+  TextBox* txtRanXf_ = nullptr;
+  TextBox* txtRanYi_ = nullptr;
+  TextBox* txtRanYf_ = nullptr;
+  TextBox* txtEscalaX_ = nullptr;
+  TextBox* txtEscalaY_ = nullptr;
   QCheckBox* chkProporcional_ = nullptr;
   QSlider* Slider1_ = nullptr;
   QLabel* LblCalidad_ = nullptr;

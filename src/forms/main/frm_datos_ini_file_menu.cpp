@@ -1,5 +1,6 @@
 // What the main window's file menu has beside documents: recent ones, the last session, pictures.
 #include <QAction>
+#include <utility>
 
 #include "app/last_session.h"
 #include "forms/main/frm_datos_ini.h"
@@ -15,13 +16,13 @@ void frmDatosIni::updateFileMenu() {
 void frmDatosIni::openRecentPath(const std::string& path) {
   MainView view = fields();
   const bool opened = openRecent(program(), path, view);
-  showDocument(view, opened);
+  showDocument(std::move(view), opened);
 }
 
 void frmDatosIni::mRecuperar_Click() {
   MainView view = fields();
   const bool recovered = recoverLastSession(program(), view);
-  showDocument(view, recovered);
+  showDocument(std::move(view), recovered);
   updateFileMenu();
 }
 

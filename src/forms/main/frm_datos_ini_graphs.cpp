@@ -1,6 +1,7 @@
 // What the main window does with the graphs of its list.
 #include <QAction>
 #include <QPushButton>
+#include <utility>
 
 #include "app/graph_changes.h"
 #include "forms/main/frm_datos_ini.h"
@@ -63,7 +64,7 @@ void frmDatosIni::mRehacer_Click() { takeBack(redoChange); }
 void frmDatosIni::takeBack(std::string (*change)(Program&, MainView&)) {
   MainView view = fields();
   const std::string letters = change(program(), view);
-  showDocument(view, letters.empty());
+  showDocument(std::move(view), letters.empty());
   listaG_->selectLetters(letters);
   if (listaG_->selectedLetters().empty()) listaG_->selectFirst();
 }

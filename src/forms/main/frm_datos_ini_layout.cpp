@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -127,8 +126,8 @@ void frmDatosIni::buildControls() {
   resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
-QLineEdit* frmDatosIni::makeNumberBox(const char* name, bool refuses_minus) {
-  auto* box = makeTextBox(name);
+TextBox* frmDatosIni::makeNumberBox(const char* name, bool refuses_minus) {
+  auto* box = new TextBox(name);
   filterNumericKeys(*box, refuses_minus);
   box->setAcceptDrops(false);  // a drop on it is the window's
   box->installEventFilter(this);
@@ -157,7 +156,7 @@ QGroupBox* frmDatosIni::buildRange() {
   chkProporcional_ = new QCheckBox;
   chkProporcional_->setObjectName("chkProporcional");
   auto* grid = new QGridLayout(range_frame_);
-  const std::array<QLineEdit*, 4> boxes = {txtRanXf_, txtRanXi_, txtRanYf_, txtRanYi_};
+  const std::array<TextBox*, 4> boxes = {txtRanXf_, txtRanXi_, txtRanYf_, txtRanYi_};
   for (int row = 0; row < 4; ++row) {
     grid->addWidget(range_labels_[static_cast<std::size_t>(row)], row, 0);
     grid->addWidget(boxes[static_cast<std::size_t>(row)], row, 1);

@@ -8,6 +8,7 @@
 #include "forms/editor/preview_box.h"
 #include "forms/main/frm_datos_ini.h"
 #include "forms/main/graph_list.h"
+#include "forms/tool_tip.h"
 #include "frm_adm_graficos_fixture.h"
 
 namespace zel::test {
@@ -106,6 +107,16 @@ TEST_F(EditorHints, NeverMoveTheWindowOrItsFields) {
   EXPECT_EQ(editor.minimumSizeHint(), hinted);
   EXPECT_EQ(box("txtF").geometry(), place);
   EXPECT_FALSE(line("txtF").toolTip().isEmpty()) << "where it is told as a whole";
+}
+
+TEST_F(EditorHints, TakeNoMoreOfALongTextThanTheirToolTip) {
+  addFunction('f', std::string(100'000, 'q'));
+  openChange('f');
+  const QString shown = line("txtF").text();
+  EXPECT_TRUE(shown.startsWith("Nombre desconocido: «qqq"));
+  EXPECT_EQ(shown.size(), kLongestToolTip + 1);
+  EXPECT_TRUE(box("txtF").accessibleDescription() == shown);
+  EXPECT_TRUE(line("txtF").toolTip().contains(u'…'));
 }
 
 TEST_F(EditorHints, KeepTheWindowAsItIsFromTabToTab) {
