@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 
 #include "document_fixture.h"
@@ -25,14 +26,6 @@ class HostileFolders : public DocumentTest {
     older_.rebuildGraph('a', "x", "", 0, 'F', nullptr);
     newer_.rebuildGraph('b', "x+" + std::string(20000, '1'), "", 255, 'F', nullptr);
     old_bytes_ = *documentBytes(view, older_);
-  }
-
-  /// Runs a check that returns kPassed, or kCannotMount, in a process of its own.
-  template <class Check>
-  static void expectToPass(Check check) {
-    const int result = inAChild(check);
-    if (result == kCannotMount) GTEST_SKIP() << "only root can mount a file system";
-    EXPECT_EQ(result, kPassed);
   }
 
   /// Runs a check that returns kPassed in a process whose folder is a small file system of its own.
