@@ -8,9 +8,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include "forms/forms.h"
 #include "forms/hostile_inputs.h"
@@ -26,6 +28,30 @@ unsigned long setting(const char* name, unsigned long otherwise) {
   const char* text = std::getenv(name);
   return text ? std::strtoul(text, nullptr, 10) : otherwise;
 }
+
+/// The real help, which tells when it lays its text out: at each command, and in another size.
+class WatchedHelp : public QObject, public HelpViewer {
+ public:
+  explicit WatchedHelp(std::function<void()> lays_out) : lays_out_(std::move(lays_out)) {
+    qApp->installEventFilter(this);
+  }
+
+  void show(const std::string& help_file, int command) override {
+    help_.show(help_file, command);
+    lays_out_();
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto* const widget = qobject_cast<QWidget*>(watched);
+    const bool is_resized = widget && event->type() == QEvent::Resize;
+    if (is_resized && widget->window()->objectName() == "frmAyuda") lays_out_();
+    return false;
+  }
+
+ private:
+  WidgetHelpViewer help_{{ZEL_SOURCE_DIR "/help"}};  // its links lead to its own headings alone
+  std::function<void()> lays_out_;
+};
 
 class Monkey : public WindowTest {
   MonkeyHands hands_{setting("ZEL_MONKEY_SEED", 1)};
@@ -242,10 +268,10 @@ class Monkey : public WindowTest {
   unsigned long rounds_ = 0;
   unsigned long inside_events_ = 0;  // of the events, those inside of others
   std::map<std::string, unsigned long> visits_;
-  Waits wait_{"start"};
+  Waits wait_{{"start", "help"}};
 
  private:
-  WidgetHelpViewer help_{{ZEL_SOURCE_DIR "/help"}};  // its links lead to its own headings alone
+  WatchedHelp help_{[this] { wait_.countAs("help"); }};
   std::optional<Forms> forms_;
   QTimer patience_;
   static constexpr int kDeepest = 3;

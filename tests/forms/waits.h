@@ -8,6 +8,7 @@
 #include <ctime>
 #include <fstream>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -24,8 +25,8 @@ class Waits {
  public:
   static constexpr double kLongest = 50;  // milliseconds
 
-  /// What is of the kind `apart` has figures of its own and is none of the waits.
-  explicit Waits(std::string apart) : apart_(std::move(apart)) {
+  /// What is of one of the kinds `apart` has figures of its own and is none of the waits.
+  explicit Waits(std::set<std::string> apart) : apart_(std::move(apart)) {
     const QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
     QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, &context_, [this] { look(); });
     QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &context_,
@@ -45,6 +46,9 @@ class Waits {
     kinds_.pop_back();
   }
 
+  /// The stretch that is under way counts for this kind, whatever it began as.
+  void countAs(std::string kind) { counted_as_ = std::move(kind); }
+
   /// "longest wait: 18.2 ms of the processor (frmGrafico key), 31.0 ms by the clock (main open)",
   /// how many of all were too long, and a line for what is apart and for each kind that had such a
   /// one.
@@ -58,7 +62,8 @@ class Waits {
          << " by the processor and " << longest_.over_by_clock << " by the clock, of "
          << longest_.count;
     for (const auto& [kind, figures] : figures_) {
-      if (kind != apart_ && figures.over_by_clock + figures.over_by_processor == 0) continue;
+      if (!apart_.contains(kind) && figures.over_by_clock + figures.over_by_processor == 0)
+        continue;
       text << "\nwaits of " << kind << ": " << figures.count
            << ", over: " << figures.over_by_processor << " (longest " << figures.processor
            << " ms) and " << figures.over_by_clock << " (longest " << figures.clock << " ms)";
@@ -104,22 +109,24 @@ class Waits {
   void look() {
     const Moment moment = now();
     if (!kinds_.empty()) note(moment.processor - before_.processor, moment.clock - before_.clock);
+    counted_as_.clear();
     before_ = moment;
   }
 
   void note(double processor, double clock) {
-    const std::string& kind = kinds_.back();
+    const std::string& kind = counted_as_.empty() ? kinds_.back() : counted_as_;
     figures_[kind].add(processor, clock);
-    if (kind == apart_) return;
+    if (apart_.contains(kind)) return;
     if (processor > longest_.processor) by_processor_ = kind;
     if (clock > longest_.clock) by_clock_ = kind;
     longest_.add(processor, clock);
   }
 
-  std::string apart_;
+  std::set<std::string> apart_;
   QObject context_;
   QTimer never_idle_;
   std::vector<std::string> kinds_;  // of what is under way, the innermost last
+  std::string counted_as_;          // empty for the innermost
   std::map<std::string, Figures> figures_;
   Figures longest_;
   std::string by_processor_;
