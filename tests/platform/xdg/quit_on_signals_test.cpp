@@ -31,6 +31,7 @@ class QuittingApplication : public QCoreApplication {
   char* arguments[] = {name, nullptr};
   int argument_count = 1;
   QuittingApplication application(argument_count, arguments);
+  std::signal(signal, SIG_DFL);  // shells let what they start in the background ignore some
   quitOnSignals();
   std::raise(signal);
   ::sleep(seconds);
