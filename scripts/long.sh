@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # scripts/long.sh [NAME...]: the long runs of what the program keeps, or those of the names, one after
-# the other; all of them take hours. Each counts as a test, and build/long/NAME.log has its output.
+# the other; together they take hours. Each counts as a test, and build/long/NAME.log has its output.
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit 1
 . scripts/common.sh
